@@ -1,0 +1,11 @@
+# Writes OUTPUT: the files of FOLDER as a C++ table named SYMBOL.
+file(GLOB files ${FOLDER}/*.svg)
+list(SORT files)
+set(text "#include \"forms/icons.h\"\n\nnamespace corvane::forms {\n\nconst EmbeddedFile ${SYMBOL}[] = {\n")
+foreach(path IN LISTS files)
+  get_filename_component(name ${path} NAME_WE)
+  file(READ ${path} content)
+  string(APPEND text "    {\"${name}\", R\"embed(${content})embed\"},\n")
+endforeach()
+string(APPEND text "    {nullptr, nullptr}};\n\n}  // namespace corvane::forms\n")
+file(WRITE ${OUTPUT} "${text}")

@@ -1,0 +1,37 @@
+# A room is a folder of src/: its sources are one library, corvane_<room>, and its tests one program.
+
+# corvane_room(codelist DEPENDS runtime host forms) makes corvane_codelist from src/codelist/*.cpp.
+function(corvane_room room)
+  cmake_parse_arguments(ARG "" "" "DEPENDS;LIBRARIES" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${room}/*.cpp)
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+  list(TRANSFORM ARG_DEPENDS PREPEND corvane_)
+  if(sources)
+    add_library(corvane_${room} STATIC ${sources})
+    target_include_directories(corvane_${room} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+    target_link_libraries(corvane_${room} PUBLIC ${ARG_DEPENDS} ${ARG_LIBRARIES})
+  else()
+    add_library(corvane_${room} INTERFACE)
+    target_include_directories(corvane_${room} INTERFACE ${CMAKE_SOURCE_DIR}/src)
+    target_link_libraries(corvane_${room} INTERFACE ${ARG_DEPENDS} ${ARG_LIBRARIES})
+  endif()
+endfunction()
+
+# corvane_room_tests(codelist) makes the program corvane_codelist_tests from tests/codelist/*.cpp.
+function(corvane_room_tests room)
+  cmake_parse_arguments(ARG "" "" "DEPENDS;LIBRARIES" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${room}/*.cpp)
+  if(NOT sources)
+    return()
+  endif()
+  list(TRANSFORM ARG_DEPENDS PREPEND corvane_)
+  add_executable(corvane_${room}_tests ${sources})
+  target_include_directories(corvane_${room}_tests PRIVATE ${CMAKE_SOURCE_DIR})
+  target_compile_definitions(corvane_${room}_tests PRIVATE CORVANE_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+  if(TARGET corvane_${room})
+    list(APPEND ARG_DEPENDS corvane_${room})
+  endif()
+  target_link_libraries(corvane_${room}_tests PRIVATE ${ARG_DEPENDS} ${ARG_LIBRARIES} GTest::gtest GTest::gmock
+                                                      GTest::gtest_main)
+  gtest_discover_tests(corvane_${room}_tests DISCOVERY_TIMEOUT 120 PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+endfunction()
