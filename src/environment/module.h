@@ -1,0 +1,38 @@
+// Module: one component with the file it came from. The environment's VBComponent.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "host/project.h"
+
+namespace corvane::environment {
+
+class Project;
+
+// What the desk and the command line need beyond the object model.
+class Module : public host::VBComponent {
+ public:
+  virtual std::shared_ptr<Project> ProjectOf() const = 0;
+  virtual long Position() const = 0;  // in VBComponents, from 1
+  virtual bool IsDirty() const = 0;
+  virtual std::string Path() const = 0;  // full Windows path; empty while never saved
+  // The file as it would be written now.
+  virtual std::string WriteToText() const = 0;
+  // Code, without the copying of Lines: the view lives until the module's text changes. Requires: 1 <= line <= count.
+  virtual std::string_view LineView(long line) const = 0;
+  // The editor's act: replaces [count] lines from [start] by [text] (cut at CR LF or LF). One change for observers.
+  virtual void ReplaceLines(long start, long count, const std::string& text) = 0;
+  // Selection of the code pane as the user moves it; no notice to the observer.
+  virtual void UserSelection(const host::Selection& selection) = 0;
+  virtual void UserActivatePane() = 0;
+  virtual void UserClosePane() = 0;
+  virtual bool HasPane() const = 0;
+  virtual host::Selection PaneSelection() const = 0;
+  virtual void UserOpenDesigner(bool open) = 0;
+  virtual void UserSelectControls(const std::vector<long>& positions) = 0;  // in VBControls, from 1
+  // Takes over the new stamp after a save, tells whether somebody else changed the file since it was read.
+  virtual bool ChangedOnDisk() const = 0;
+};
+
+}  // namespace corvane::environment

@@ -1,0 +1,95 @@
+// ListBox and ComboBox: rows of text, each with a number of its own.
+#pragma once
+
+#include "forms/control.h"
+#include "forms/row_store.h"
+
+namespace corvane::forms {
+
+// What both have. Rows count from 0.
+class ListControl : public Control {
+ public:
+  ListControl(Container& container, std::string name, int index = -1);
+  bool CanTakeFocus() const override { return true; }
+
+  // Where [at] is given the row goes there whether the list is sorted or not; a place outside 0 to ListCount is Error 5.
+  void AddItem(std::string text, long at = -1);
+  void RemoveItem(long row);  // Error 5 outside the list
+  void Clear();               // no Click
+  long ListCount() const { return rows_.Count(); }
+  // Empty text outside the list.
+  std::string List(long row) const;
+  void SetList(long row, std::string text);  // Error 381 outside 0 to ListCount; at ListCount it appends
+  long ItemData(long row) const;             // 0 outside the list
+  void SetItemData(long row, long value);    // Error 381 outside the list
+  // Row of the last AddItem; -1 when the list is empty or a row was removed since.
+  long NewIndex() const { return new_index_; }
+  // The selected row, -1 for none. Assigning another row raises Click; the same row nothing; outside the list Error 380.
+  long ListIndex() const { return list_index_; }
+  void SetListIndex(long row);
+  std::string Text() const { return List(list_index_); }
+  long TopIndex() const { return top_index_; }
+  void SetTopIndex(long row);
+  bool Sorted() const { return sorted_; }
+  void SetSorted(bool value);  // at design time: before rows are added
+
+  // The user moved the selection to [row]: ListIndex and Click (also for the same row, as a mouse click does).
+  virtual void UserSelect(long row);
+  void UserScroll(long top_row) { top_index_ = top_row; }
+  Event<> Scroll;
+  Variant Get(Property property) const override;
+  void Set(Property property, const Variant& value) override;
+
+ protected:
+  virtual void OnSelect() { Click(); }
+  RowStore rows_;
+  long list_index_ = -1, new_index_ = -1, top_index_ = 0;
+  bool sorted_ = false;
+};
+
+class ListBox : public ListControl {
+ public:
+  using ListControl::ListControl;
+  ControlKind Kind() const override { return ControlKind::ListBox; }
+  int Style() const { return style_; }  // 0 standard, 1 with check boxes
+  void SetStyle(int value);
+  int MultiSelect() const { return multi_select_; }  // 0 none, 1 simple, 2 extended
+  void SetMultiSelect(int value);
+  bool Selected(long row) const;
+  void SetSelected(long row, bool value);  // with check boxes: the box; raises ItemCheck, then Click
+  long SelCount() const;
+  Event<long> ItemCheck;
+  void UserToggle(long row);  // check box or Ctrl+click
+  Variant Get(Property property) const override;
+  void Set(Property property, const Variant& value) override;
+
+ private:
+  int style_ = 0, multi_select_ = 0;
+};
+
+class ComboBox : public ListControl {
+ public:
+  using ListControl::ListControl;
+  ControlKind Kind() const override { return ControlKind::ComboBox; }
+  int Style() const { return style_; }  // 0 drop-down with edit, 1 simple, 2 drop-down list
+  void SetStyle(int value);
+  std::string Text() const;
+  // Styles 0 and 1: raises Change when it differs, ListIndex becomes the row of that text or -1.
+  // Style 2: selects the row of that text; Error 383 when there is none.
+  void SetText(const std::string& value);
+  void UserSelect(long row) override;
+  void UserEdit(std::string text);
+  void UserDropDown();
+  Event<> Change, DropDown;
+  Variant Get(Property property) const override;
+  void Set(Property property, const Variant& value) override;
+
+ protected:
+  void OnSelect() override;
+
+ private:
+  int style_ = 0;
+  std::string text_;
+};
+
+}  // namespace corvane::forms

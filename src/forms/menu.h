@@ -1,0 +1,36 @@
+// Menu: an item of the menu bar or of a popup menu, with the items below it.
+#pragma once
+
+#include "forms/control.h"
+
+namespace corvane::forms {
+
+class Menu : public Control {
+ public:
+  // A top-level menu of a form. One that only pops up is made invisible.
+  Menu(Form& form, std::string name, std::string caption);
+  Menu(Menu& parent, std::string name, std::string caption, int index = -1);
+  ~Menu() override;
+  ControlKind Kind() const override { return ControlKind::Menu; }
+
+  const std::string& Caption() const { return caption_; }
+  void SetCaption(std::string value);
+  bool IsSeparator() const { return caption_ == "-"; }
+  bool Checked() const { return checked_; }
+  void SetChecked(bool value);
+  const std::string& Shortcut() const { return shortcut_; }  // "^S", "{F5}", "+^{F1}"
+  void SetShortcut(std::string value);
+  const std::vector<Menu*>& Items() const { return items_; }
+  Menu* Parent() const { return parent_; }
+  void UserClick() override;  // nothing on a disabled or hidden item, a separator, or one with items
+  Variant Get(Property property) const override;
+  void Set(Property property, const Variant& value) override;
+
+ private:
+  Menu* parent_ = nullptr;
+  std::string caption_, shortcut_;
+  bool checked_ = false;
+  std::vector<Menu*> items_;
+};
+
+}  // namespace corvane::forms

@@ -1,0 +1,218 @@
+#include "runtime/code_page.h"
+
+#include <iconv.h>
+
+#include <cerrno>
+#include <memory>
+
+namespace corvane::runtime {
+
+namespace {
+
+constexpr int kPages[] = {874, 932, 936, 949, 950, 1250, 1251, 1252, 1253, 1254, 1255, 1256, 1257, 1258};
+
+bool IsKnown(int number) {
+  for (int page : kPages)
+    if (page == number) return true;
+  return false;
+}
+
+std::string IconvName(int number) { return number == 936 ? "GBK" : "CP" + std::to_string(number); }
+
+class Iconv {
+ public:
+  Iconv(const std::string& to, const std::string& from) : handle_(iconv_open(to.c_str(), from.c_str())) {}
+  ~Iconv() {
+    if (Good()) iconv_close(handle_);
+  }
+  Iconv(const Iconv&) = delete;
+  Iconv& operator=(const Iconv&) = delete;
+  bool Good() const { return handle_ != reinterpret_cast<iconv_t>(-1); }
+
+  // Converts all of [input]; where it cannot, appends [substitute] and steps on by what [step] says.
+  // Returns whether nothing was substituted.
+  template <class Step>
+  bool Convert(std::string_view input, std::string_view substitute, Step step, std::string& output) {
+    bool clean = true;
+    char* in = const_cast<char*>(input.data());
+    size_t left = input.size();
+    char buffer[4096];
+    while (left > 0) {
+      char* out = buffer;
+      size_t room = sizeof buffer;
+      size_t result = iconv(handle_, &in, &left, &out, &room);
+      int error = errno;
+      output.append(buffer, sizeof buffer - room);
+      if (result != static_cast<size_t>(-1) || error == E2BIG) continue;
+      output.append(substitute);
+      clean = false;
+      size_t skipped = std::min(left, step(std::string_view(in, left)));
+      in += skipped;
+      left -= skipped;
+      iconv(handle_, nullptr, nullptr, nullptr, nullptr);
+    }
+    return clean;
+  }
+
+ private:
+  iconv_t handle_;
+};
+
+char32_t CaseOf(char32_t c, bool upper) {
+  auto shift = [&](char32_t first_upper, char32_t last_upper, char32_t distance) -> char32_t {
+    if (upper && c >= first_upper + distance && c <= last_upper + distance) return c - distance;
+    if (!upper && c >= first_upper && c <= last_upper) return c + distance;
+    return 0;
+  };
+  if (c == 0xF7 || c == 0xD7) return c;
+  for (auto [first, last, distance] : {std::array<char32_t, 3>{'A', 'Z', 32}, {0xC0, 0xDE, 32}, {0x391, 0x3AB, 32},
+                                       {0x410, 0x42F, 32}, {0x400, 0x40F, 80}})
+    if (char32_t other = shift(first, last, distance)) return other;
+  if (c == 0xFF) return upper ? 0x178 : c;
+  if (c == 0x178) return upper ? c : 0xFF;
+  if (c == 0x3AC) return upper ? 0x386 : c;
+  if (c == 0x386) return upper ? c : 0x3AC;
+  if (c >= 0x3AD && c <= 0x3AF) return upper ? c - 37 : c;
+  if (c >= 0x388 && c <= 0x38A) return upper ? c : c + 37;
+  if (c == 0x3CC || c == 0x38C) return upper ? 0x38C : 0x3CC;
+  if (c == 0x3CD || c == 0x3CE) return upper ? c - 63 : c;
+  if (c == 0x38E || c == 0x38F) return upper ? c : c + 63;
+  if (c == 0x490 || c == 0x491) return upper ? 0x490 : 0x491;
+  bool even_upper = (c >= 0x100 && c <= 0x12F) || (c >= 0x132 && c <= 0x137) || (c >= 0x14A && c <= 0x177);
+  bool odd_upper = (c >= 0x139 && c <= 0x148) || (c >= 0x179 && c <= 0x17E);
+  if (even_upper) return upper ? c & ~char32_t{1} : c | 1;
+  if (odd_upper) return upper ? (c & 1 ? c : c - 1) : (c & 1 ? c + 1 : c);
+  if (c >= 0x1A0 && c <= 0x1B0 && (c == 0x1A0 || c == 0x1A1)) return upper ? 0x1A0 : 0x1A1;
+  if (c == 0x1AF || c == 0x1B0) return upper ? 0x1AF : 0x1B0;
+  return c;
+}
+
+bool IsLetter(char32_t c) {
+  if (c == 0xFFFD) return false;
+  if (c < 0x80) return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+  if (c == 0xAA || c == 0xB5 || c == 0xBA) return true;
+  if (c < 0xC0) return false;
+  if (c == 0xD7 || c == 0xF7) return false;
+  if (c < 0x2000) return true;
+  return c >= 0xF900 && c < 0xFE00;
+}
+
+}  // namespace
+
+CodePage::CodePage(int number) : number_(IsKnown(number) ? number : 1252) {
+  double_byte_ = number_ == 932 || number_ == 936 || number_ == 949 || number_ == 950;
+  Iconv iconv("UTF-32LE", IconvName(number_));
+  for (int byte = 0; byte < 256; ++byte) {
+    char32_t code = static_cast<char32_t>(byte);
+    if (byte >= 0x80) {
+      bool lead = double_byte_ && (number_ == 932 ? (byte >= 0x81 && byte <= 0x9F) || (byte >= 0xE0 && byte <= 0xFC)
+                                                  : byte >= 0x81 && byte <= 0xFE);
+      lead_[byte] = lead;
+      std::string out;
+      char input = static_cast<char>(byte);
+      if (lead || !iconv.Good() || !iconv.Convert({&input, 1}, "", [](auto) { return size_t{1}; }, out) || out.size() < 4)
+        code = 0xFFFD;
+      else
+        code = static_cast<unsigned char>(out[0]) | static_cast<unsigned char>(out[1]) << 8 |
+               static_cast<char32_t>(static_cast<unsigned char>(out[2])) << 16;
+    }
+    unicode_[byte] = code;
+  }
+  for (int byte = 0; byte < 256; ++byte) {
+    upper_[byte] = lower_[byte] = static_cast<unsigned char>(byte);
+    char32_t code = unicode_[byte];
+    word_[byte] = lead_[byte] || IsLetter(code) || (code >= '0' && code <= '9') || code == '_';
+    if (code == 0xFFFD) continue;
+    for (int other = 0; other < 256; ++other) {
+      if (unicode_[other] == CaseOf(code, true)) upper_[byte] = static_cast<unsigned char>(other);
+      if (unicode_[other] == CaseOf(code, false)) lower_[byte] = static_cast<unsigned char>(other);
+    }
+  }
+}
+
+std::string CodePage::ToUpper(std::string_view bytes) const {
+  std::string result(bytes);
+  for (size_t i = 0; i < result.size(); ++i) {
+    auto byte = static_cast<unsigned char>(result[i]);
+    if (double_byte_ && lead_[byte] && i + 1 < result.size())
+      ++i;
+    else
+      result[i] = static_cast<char>(upper_[byte]);
+  }
+  return result;
+}
+
+std::string CodePage::ToLower(std::string_view bytes) const {
+  std::string result(bytes);
+  for (size_t i = 0; i < result.size(); ++i) {
+    auto byte = static_cast<unsigned char>(result[i]);
+    if (double_byte_ && lead_[byte] && i + 1 < result.size())
+      ++i;
+    else
+      result[i] = static_cast<char>(lower_[byte]);
+  }
+  return result;
+}
+
+std::string CodePage::ToUtf8(std::string_view bytes) const {
+  bool plain = true;
+  for (char c : bytes) plain = plain && static_cast<unsigned char>(c) < 0x80;
+  if (plain) return std::string(bytes);
+  std::string result;
+  Iconv iconv("UTF-8", IconvName(number_));
+  if (!iconv.Good()) return std::string(bytes.size(), '?');
+  iconv.Convert(bytes, "\xEF\xBF\xBD", [](std::string_view) { return size_t{1}; }, result);
+  return result;
+}
+
+std::string CodePage::FromUtf8(std::string_view utf8) const {
+  std::string bytes;
+  FromUtf8(utf8, bytes);
+  return bytes;
+}
+
+bool CodePage::FromUtf8(std::string_view utf8, std::string& bytes) const {
+  bytes.clear();
+  Iconv iconv(IconvName(number_), "UTF-8");
+  if (!iconv.Good()) return false;
+  auto step = [](std::string_view rest) {
+    size_t length = 1;
+    while (length < rest.size() && (static_cast<unsigned char>(rest[length]) & 0xC0) == 0x80) ++length;
+    return length;
+  };
+  return iconv.Convert(utf8, "?", step, bytes);
+}
+
+namespace {
+std::unique_ptr<CodePage>& Current() {
+  static auto page = std::make_unique<CodePage>(1252);
+  return page;
+}
+}  // namespace
+
+const CodePage& AnsiCodePage() { return *Current(); }
+
+void SetAnsiCodePage(int number) {
+  if (Current()->Number() != number) Current() = std::make_unique<CodePage>(number);
+}
+
+int CodePageOfCharset(int charset) {
+  switch (charset) {
+    case 128: return 932;
+    case 129: return 949;
+    case 134: return 936;
+    case 136: return 950;
+    case 161: return 1253;
+    case 162: return 1254;
+    case 163: return 1258;
+    case 177: return 1255;
+    case 178: return 1256;
+    case 186: return 1257;
+    case 204: return 1251;
+    case 222: return 874;
+    case 238: return 1250;
+    default: return 0;
+  }
+}
+
+}  // namespace corvane::runtime
