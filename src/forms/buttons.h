@@ -19,6 +19,9 @@ class Button : public Control {
   Variant Get(Property property) const override;
   void Set(Property property, const Variant& value) override;
 
+ protected:
+  bool ClicksOnRelease() const override { return false; }
+
  private:
   std::string caption_;
   PictureRef picture_;
@@ -39,6 +42,9 @@ class CommandButton : public Button {
   Variant Get(Property property) const override;
   void Set(Property property, const Variant& value) override;
 
+ protected:
+  bool OnKeyDown(int key_code, int shift) override;
+
  private:
   bool default_ = false, cancel_ = false;
 };
@@ -55,6 +61,10 @@ class CheckBox : public Button {
   Variant Get(Property property) const override;
   void Set(Property property, const Variant& value) override;
 
+ protected:
+  bool OnKeyDown(int key_code, int shift) override;
+  Twips MinimumHeight() const override;
+
  private:
   int value_ = vbUnchecked;
 };
@@ -70,6 +80,11 @@ class OptionButton : public Button {
   void UserClick() override;
   Variant Get(Property property) const override;
   void Set(Property property, const Variant& value) override;
+
+ protected:
+  // The arrows choose among the options of the container.
+  bool OnKeyDown(int key_code, int shift) override;
+  Twips MinimumHeight() const override;
 
  private:
   bool value_ = false;

@@ -80,11 +80,18 @@ class Control {
   int MousePointer() const { return mouse_pointer_; }
   void SetMousePointer(int value);
 
-  // Gives the focus: the other control's Validate, LostFocus, then GotFocus here. Error 5 when hidden or disabled.
+  bool CausesValidation() const { return causes_validation_; }
+  void SetCausesValidation(bool value) { causes_validation_ = value; }
+
+  // Gives the focus: the other control's Validate, LostFocus, then GotFocus here. Error 5 when it or its form is hidden
+  // or disabled, so also while its form loads. A user control hands the focus to its first control that can take it.
   void SetFocus();
+  // Whether it, or a control inside it, has the focus of the active form.
   bool HasFocus() const;
   virtual bool CanTakeFocus() const { return false; }
   void ZOrder(int position = 0);  // 0 front, 1 back
+  // Moves it into another container of the same form; it keeps its place in the container's coordinates.
+  void SetContainer(Container& container);
 
   // By name, for what is built from texts. Error 438 for what the kind does not have.
   virtual Variant Get(Property property) const;
@@ -98,7 +105,12 @@ class Control {
   Event<int, int, Twips, Twips> MouseDown, MouseMove, MouseUp;  // Button, Shift, X, Y
 
   // The user's acts, for toolkits and tests. Each does what the user would see and raises the events in Visual Basic's
-  // order. A key act returns true when the key was used up and the toolkit must not act on it itself.
+  // order; on a hidden or disabled control, or under a modal form, it does nothing.
+  // Keys: first Form::UserDialogKey; when that did not use the key up, UserKeyDown, UserKeyPress for a character, then
+  // UserKeyUp. They return true when the key was used up and the toolkit must not act on it itself.
+  // Mouse: UserMouseDown, UserMouseUp. Labels, frames, images, picture boxes and user controls make their Click of it
+  // themselves (after MouseUp, with either button). For buttons and lists the toolkit reports what its own widget made
+  // of the press: UserClick, UserSelect, before UserMouseUp. The second press of a double click is UserDblClick alone.
   virtual bool UserKeyDown(int key_code, int shift);
   virtual bool UserKeyPress(int key_ascii);
   virtual void UserKeyUp(int key_code, int shift);
@@ -108,7 +120,8 @@ class Control {
   virtual void UserClick();
   virtual void UserDblClick();
   void UserFocus();  // the toolkit moved the focus here
-
+  // Whether the user can reach it now.
+  bool AcceptsInput() const;
 
   forms::Peer* Peer() const { return peer_.get(); }
 
@@ -118,19 +131,33 @@ class Control {
   // Tells the toolkit.
   void Changed(Property property);
   virtual void OnResize() {}
+  // Its toolkit's side was made: its form is being loaded, before Load; or it was made at run time.
+  virtual void OnLoaded() {}
   virtual void OnGotFocus() { GotFocus(); }
   virtual void OnLostFocus() { LostFocus(); }
+  // What the key does here when no handler cancelled it; true when it was used up.
+  virtual bool OnKeyDown(int key_code, int shift);
+  // A handler of KeyPress changed the character to another.
+  virtual void OnKeyReplaced(int key_ascii);
+  virtual bool ClicksOnRelease() const { return true; }
+  virtual Twips MinimumHeight() const { return 0; }
+  // For menus: it belongs to [form] but is no child of its surface.
+  struct NotOnSurface {};
+  Control(NotOnSurface, Form& form, std::string name, int index);
 
   Color back_color_ = kButtonFace, fore_color_ = kButtonText;
   forms::Font font_;
   Rect place_{0, 0, 1215, 495};
 
  private:
+  void Leave();
+
   std::string name_;
   int index_;
+  Form* form_;
   Container* container_;
-  bool visible_ = true, enabled_ = true, tab_stop_ = true;
-  int tab_index_ = 0, mouse_pointer_ = 0;
+  bool visible_ = true, enabled_ = true, tab_stop_ = true, causes_validation_ = true;
+  int tab_index_ = 0, mouse_pointer_ = 0, pressed_button_ = 0;
   std::string tag_, tool_tip_;
   std::unique_ptr<forms::Peer> peer_;
 };

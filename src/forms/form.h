@@ -1,8 +1,11 @@
-// Form: a window. Its class has the controls as members; it is loaded by the first Show or Load, and its design is set up
-// in the class's constructor. Visual Basic's order of events: Load, Resize, Activate, and QueryUnload, Unload.
+// Form: a window. Its class has the controls as members; it is loaded by the first Show or LoadForm, and its design is set
+// up in the class's constructor (Initialize; its destructor is Terminate). Visual Basic's order of events: Load, Resize,
+// Activate, GotFocus of the first control; QueryUnload, Unload.
+// Unload takes away the toolkit's side and all controls made at run time, and ends the form's life on the screen; its
+// member controls and plain members keep what they hold, and a later Load shows it. A window that must come up fresh is
+// either made anew by its owner (hold it by unique_ptr), or sets its controls in Load.
 #pragma once
 
-#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -11,6 +14,7 @@
 
 namespace corvane::forms {
 
+class CommandButton;
 class Menu;
 
 enum WindowStateValue : int { vbNormal = 0, vbMinimized = 1, vbMaximized = 2 };
@@ -49,6 +53,12 @@ class Form : public Container {
   void SetBackColor(Color value);
   const forms::Font& Font() const { return font_; }
   void SetFont(const forms::Font& value) { font_ = value; }
+  Twips TextWidth(std::string_view text) const;   // of the widest line, in the form's font
+  Twips TextHeight(std::string_view text) const;  // of all its lines
+  const std::string& Tag() const { return tag_; }
+  void SetTag(std::string value) { tag_ = std::move(value); }
+  int MousePointer() const { return mouse_pointer_; }
+  void SetMousePointer(int value);
   bool KeyPreview() const { return key_preview_; }
   void SetKeyPreview(bool value) { key_preview_ = value; }
   PictureRef Icon() const { return icon_; }
@@ -66,22 +76,34 @@ class Form : public Container {
   void Hide();
   // Raises QueryUnload and Unload; returns false when a handler cancelled. The controls lose their toolkit's side.
   bool Unload(UnloadMode mode = UnloadMode::Code);
+  // Error 5 when it is not visible.
   void SetFocus();
+  bool IsModal() const { return modal_; }
+  // The window the user works in; the last one of this toolkit that was activated.
+  bool IsActiveForm() const;
 
   Control* ActiveControl() const { return active_control_; }
   // A control by name (and index), without case; null if there is none. Menus too.
   Control* Find(std::string_view name, int index = -1) const;
   // All controls, nested ones behind their containers.
   std::vector<Control*> AllControls() const;
-  // Makes a control of a kind at run time ("VB.Label" or "Label"); the form owns it. Error 380 for an unknown kind.
+  // The order in which Tab visits controls, whether they can take the focus now or not: by TabIndex, those of a user
+  // control in its place.
+  std::vector<Control*> TabOrder() const;
+  // Makes a control of a kind at run time ("VB.Label" or "Label"), invisible; the form owns it until it is unloaded.
+  // Error 380 for an unknown kind, 727 for a name that is in use.
   Control& AddControl(std::string_view kind, std::string name, Container& container, int index = -1);
-  void RemoveControl(Control& control);
+  void RemoveControl(Control& control);  // Error 362 for one that AddControl did not make
+  // Takes over a control that was made by hand at run time, and gives it its toolkit's side.
+  void Adopt(std::unique_ptr<Control> control);
 
   // The menus of the menu bar, and those that only pop up (their Visible is false).
   const std::vector<Menu*>& Menus() const { return menus_; }
+  // The menu's own Click, then its items; the chosen item's Click comes before it returns.
   void PopupMenu(Menu& menu, Twips x, Twips y);
 
-  Event<> Load, Activate, Deactivate, Resize, Terminate;
+  Event<> Load, Activate, Deactivate, Resize;
+  Event<> GotFocus, LostFocus;  // only of a form without a control that can take the focus
   Event<bool&, UnloadMode> QueryUnload;
   Event<bool&> UnloadEvent;
   Event<int&, int> KeyDown, KeyUp;  // first, with KeyPreview
@@ -89,11 +111,14 @@ class Form : public Container {
 
   // The user's acts.
   void UserClose() { Unload(UnloadMode::ControlMenu); }
-  void UserResize(Twips width, Twips height);
+  void UserResize(Twips width, Twips height);  // outer size
   void UserMove(Twips left, Twips top);
   void UserWindowState(int state);
+  // The window became the active one of the screen. Another form is told Deactivate first; a window of another program
+  // in front of it changes nothing, so false is passed over.
   void UserActivate(bool active);
-  // Tab, Enter and Esc buttons, access keys (Alt and a letter), menu shortcuts. True when the key was used up.
+  // Keys that a window takes before its controls see them: shortcuts of menus, access keys (Alt and a letter; those of
+  // the menu bar are the toolkit's), Tab and Shift+Tab, Enter and Esc for buttons. True when the key was used up.
   bool UserDialogKey(int key_code, int shift);
 
   forms::FormPeer* Peer() const { return peer_.get(); }
@@ -101,23 +126,41 @@ class Form : public Container {
  private:
   friend class Control;
   friend class Menu;
+  friend class Toolkit;
   void Register(Control& control);
   void Forget(Control& control);
-  void MoveFocus(Control* to);
+  // [by_toolkit]: the toolkit's focus is there already.
+  void MoveFocus(Control* to, bool by_toolkit = false);
+  void FocusLeaves(Control& control);  // it was hidden or disabled
+  Control* NextStop(Control* from, int direction) const;
+  void GainActivation();
+  void LoseActivation();
+  void TellFocus(Control* from, Control* to);
   void MakePeers();
+  void MakePeer(Control& control);
+  void DropPeers();
+  void Appear();
+  void Renumber(Control& control, int tab_index);
+  bool UseShortcut(int key_code, int shift);
+  bool UseAccessKey(int key_code);
+  bool UseTab(int shift);
+  bool UseButtonKey(int key_code);
+  CommandButton* ButtonFor(int key_code) const;
 
   forms::Toolkit& toolkit_;
-  std::string name_, caption_;
+  std::string name_, caption_, tag_;
   Rect place_{0, 0, 4800, 3600};
   int window_state_ = vbNormal;
   FormBorder border_ = FormBorder::Sizable;
   Color back_color_ = kButtonFace;
   forms::Font font_;
-  bool loaded_ = false, visible_ = false, modal_ = false, key_preview_ = false, unloading_ = false;
+  bool loaded_ = false, visible_ = false, modal_ = false, key_preview_ = false, unloading_ = false, resized_ = false;
+  int mouse_pointer_ = 0, controls_made_ = 0;
   PictureRef icon_;
   Control* active_control_ = nullptr;
   std::vector<Menu*> menus_;
-  std::vector<std::unique_ptr<Control>> made_;  // by AddControl
+  std::vector<std::unique_ptr<Control>> made_;     // at run time
+  std::vector<std::unique_ptr<Control>> dropped_;  // removed while one of their own acts may still run
   std::unique_ptr<forms::FormPeer> peer_;
 };
 

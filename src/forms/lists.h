@@ -22,6 +22,8 @@ class ListControl : public Control {
   void SetList(long row, std::string text);  // Error 381 outside 0 to ListCount; at ListCount it appends
   long ItemData(long row) const;             // 0 outside the list
   void SetItemData(long row, long value);    // Error 381 outside the list
+  // The rows themselves, for a toolkit that shows many.
+  const RowStore& Rows() const { return rows_; }
   // Row of the last AddItem; -1 when the list is empty or a row was removed since.
   long NewIndex() const { return new_index_; }
   // The selected row, -1 for none. Assigning another row raises Click; the same row nothing; outside the list Error 380.
@@ -42,6 +44,9 @@ class ListControl : public Control {
 
  protected:
   virtual void OnSelect() { Click(); }
+  // The selection and the row in view after the rows have changed.
+  virtual void OnRowsChanged() {}
+  bool ClicksOnRelease() const override { return false; }
   RowStore rows_;
   long list_index_ = -1, new_index_ = -1, top_index_ = 0;
   bool sorted_ = false;
@@ -49,7 +54,7 @@ class ListControl : public Control {
 
 class ListBox : public ListControl {
  public:
-  using ListControl::ListControl;
+  ListBox(Container& container, std::string name, int index = -1);
   ControlKind Kind() const override { return ControlKind::ListBox; }
   int Style() const { return style_; }  // 0 standard, 1 with check boxes
   void SetStyle(int value);
@@ -69,7 +74,7 @@ class ListBox : public ListControl {
 
 class ComboBox : public ListControl {
  public:
-  using ListControl::ListControl;
+  ComboBox(Container& container, std::string name, int index = -1);
   ControlKind Kind() const override { return ControlKind::ComboBox; }
   int Style() const { return style_; }  // 0 drop-down with edit, 1 simple, 2 drop-down list
   void SetStyle(int value);
@@ -80,15 +85,25 @@ class ComboBox : public ListControl {
   void UserSelect(long row) override;
   void UserEdit(std::string text);
   void UserDropDown();
+  bool Locked() const { return locked_; }  // shown, but the user cannot change it
+  void SetLocked(bool value);
+  // Of the text, from 0; styles 0 and 1.
+  long SelStart() const { return sel_start_; }
+  long SelLength() const { return sel_length_; }
+  void SetSelStart(long value);
+  void SetSelLength(long value);
   Event<> Change, DropDown;
   Variant Get(Property property) const override;
   void Set(Property property, const Variant& value) override;
 
  protected:
   void OnSelect() override;
+  void OnRowsChanged() override;
 
  private:
   int style_ = 0;
+  bool locked_ = false;
+  long sel_start_ = 0, sel_length_ = 0;
   std::string text_;
 };
 

@@ -23,10 +23,16 @@ class Menu : public Control {
   const std::vector<Menu*>& Items() const { return items_; }
   Menu* Parent() const { return parent_; }
   void UserClick() override;  // nothing on a disabled or hidden item, a separator, or one with items
+  // Its items are about to be shown, in the menu bar or by PopupMenu: raises Click, as Visual Basic does.
+  void UserOpen();
+  // The key that "^S" or "{F5}" names, and its shift state; 0 for a text that names none.
+  int ShortcutKey() const;
+  int ShortcutShift() const;
   Variant Get(Property property) const override;
   void Set(Property property, const Variant& value) override;
 
  private:
+  friend class Form;
   Menu* parent_ = nullptr;
   std::string caption_, shortcut_;
   bool checked_ = false;

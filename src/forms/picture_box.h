@@ -55,6 +55,7 @@ class PictureBox : public Control, public Container {
 
  protected:
   void OnResize() override;
+  void OnLoaded() override;
 
  private:
   forms::Canvas* CanvasOf() const;

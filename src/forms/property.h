@@ -8,11 +8,13 @@ namespace corvane::forms {
 enum class Property {
   All,  // everything: a control was just made
   Alignment, Appearance, AutoRedraw, AutoSize, BackColor, BackStyle, BorderColor, BorderStyle, BorderWidth, Buttons,
-  Cancel, Caption, Checked, Columns, Default, DrawStyle, Enabled, FillColor, FillStyle, Focus, Font, ForeColor, Height,
-  HideSelection, Icon, Image, Index, Interval, ItemData, KeyPreview, LargeChange, Left, List, ListIndex, Locked, Max,
-  MaxLength, Min, MousePointer, MultiLine, MultiSelect, Name, PasswordChar, Picture, ScrollBars, Selected, SelLength,
-  SelStart, Shape, Shortcut, SmallChange, Sorted, Stretch, Style, TabIndex, TabStop, Tag, Text, ToolTipText, Top,
-  TopIndex, Value, Visible, Width, WindowState, WordWrap, X1, X2, Y1, Y2, ZOrder,
+  Cancel, Caption, CausesValidation, Checked, Columns, Container, Default, DrawStyle, Enabled, FillColor, FillStyle,
+  Focus, Font, FontBold, FontItalic, FontName, FontSize, FontStrikethru, FontUnderline, ForeColor, Height,
+  HideSelection, Icon, Image, Index, Interval, ItemData, KeyPreview, LargeChange, Left, List, ListCount, ListIndex,
+  Locked, Max, MaxLength, Min, MousePointer, MultiLine, MultiSelect, Name, NewIndex, PasswordChar, Picture,
+  ScaleHeight, ScaleWidth, ScrollBars, Selected, SelLength, SelStart, SelText, Shape, Shortcut, SmallChange, Sorted,
+  Stretch, Style, TabIndex, TabStop, Tag, Text, ToolTipText, Top, TopIndex, UseMnemonic, Value, Visible, Width,
+  WindowState, WordWrap, X1, X2, Y1, Y2, ZOrder,
 };
 
 // "ToolTipText" <-> Property::ToolTipText, without case. All for a name that is not in the list.

@@ -31,8 +31,12 @@ class RowStore {
     size_t block, offset;
   };
   Place Find(long row) const;
+  void Split(size_t block);
   std::vector<std::vector<Row>> blocks_;
   long count_ = 0;
+  // The block found last and its first row: neighbours are asked for one after the other.
+  mutable size_t near_block_ = 0;
+  mutable long near_first_ = 0;
 };
 
 }  // namespace corvane::forms

@@ -25,19 +25,23 @@ class ScrollBar : public Control {
   Variant Get(Property property) const override;
   void Set(Property property, const Variant& value) override;
 
+ protected:
+  bool ClicksOnRelease() const override { return false; }
+
  private:
+  void KeepInRange();
   long min_ = 0, max_ = 32767, value_ = 0, small_change_ = 1, large_change_ = 1;
 };
 
 class HScrollBar : public ScrollBar {
  public:
-  using ScrollBar::ScrollBar;
+  HScrollBar(Container& container, std::string name, int index = -1);
   ControlKind Kind() const override { return ControlKind::HScrollBar; }
 };
 
 class VScrollBar : public ScrollBar {
  public:
-  using ScrollBar::ScrollBar;
+  VScrollBar(Container& container, std::string name, int index = -1);
   ControlKind Kind() const override { return ControlKind::VScrollBar; }
 };
 

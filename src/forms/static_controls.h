@@ -23,15 +23,22 @@ class Label : public Control {
   void SetWordWrap(bool value);
   int BackStyle() const { return back_style_; }  // 0 transparent, 1 opaque
   void SetBackStyle(int value);
+  bool UseMnemonic() const { return use_mnemonic_; }  // an "&" marks the access key of the control behind it
+  void SetUseMnemonic(bool value);
+  void SetFont(const forms::Font& value) override;
   Event<> Change;
   Variant Get(Property property) const override;
   void Set(Property property, const Variant& value) override;
 
+ protected:
+  void OnLoaded() override { FitToCaption(); }
+
  private:
+  void FitToCaption();
   std::string caption_;
   forms::Alignment alignment_ = forms::Alignment::Left;
   int border_style_ = 0, back_style_ = 1;
-  bool auto_size_ = false, word_wrap_ = false;
+  bool auto_size_ = false, word_wrap_ = false, use_mnemonic_ = true;
 };
 
 class Frame : public Control, public Container {
@@ -85,6 +92,10 @@ class Line : public Control {
   void SetBorderColor(Color value);
   int BorderWidth() const { return border_width_; }
   void SetBorderWidth(int value);
+  void SetX1(Twips value) { SetPoints(value, y1_, x2_, y2_); }
+  void SetY1(Twips value) { SetPoints(x1_, value, x2_, y2_); }
+  void SetX2(Twips value) { SetPoints(x1_, y1_, value, y2_); }
+  void SetY2(Twips value) { SetPoints(x1_, y1_, x2_, value); }
   Variant Get(Property property) const override;
   void Set(Property property, const Variant& value) override;
 
@@ -108,13 +119,19 @@ class Shape : public Control {
   void SetFillColor(Color value);
   int FillStyle() const { return fill_style_; }  // 0 solid, 1 none
   void SetFillStyle(int value);
+  int BorderStyle() const { return border_style_; }  // 0 none, 1 solid
+  void SetBorderStyle(int value);
+  int BorderWidth() const { return border_width_; }
+  void SetBorderWidth(int value);
+  int BackStyle() const { return back_style_; }  // 0 transparent, 1 opaque
+  void SetBackStyle(int value);
   Variant Get(Property property) const override;
   void Set(Property property, const Variant& value) override;
 
  private:
   ShapeKind shape_ = ShapeKind::Rectangle;
   Color border_color_ = kWindowText, fill_color_ = 0;
-  int fill_style_ = 1;
+  int fill_style_ = 1, border_style_ = 1, border_width_ = 1, back_style_ = 0;
 };
 
 }  // namespace corvane::forms

@@ -1,7 +1,7 @@
 // TextBox: one line or many.
 #pragma once
 
-#include "forms/static_controls.h"
+#include "forms/static_controls.h"  // Alignment
 
 namespace corvane::forms {
 
@@ -24,7 +24,9 @@ class TextBox : public Control {
   void SetPasswordChar(std::string value);
   int BorderStyle() const { return border_style_; }
   void SetBorderStyle(int value);
-  // From 0.
+  forms::Alignment Alignment() const { return alignment_; }
+  void SetAlignment(forms::Alignment value);
+  // From 0. SelStart and SelLength are cut to the text; a negative one is Error 380.
   long SelStart() const { return sel_start_; }
   long SelLength() const { return sel_length_; }
   std::string SelText() const;
@@ -39,7 +41,13 @@ class TextBox : public Control {
   Variant Get(Property property) const override;
   void Set(Property property, const Variant& value) override;
 
+ protected:
+  bool ClicksOnRelease() const override { return true; }
+  void OnKeyReplaced(int key_ascii) override;
+  Twips MinimumHeight() const override;
+
  private:
+  forms::Alignment alignment_ = forms::Alignment::Left;
   std::string text_, password_char_;
   bool multi_line_ = false, locked_ = false;
   int scroll_bars_ = 0, max_length_ = 0, border_style_ = 1;

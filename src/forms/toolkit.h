@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "forms/canvas.h"
 #include "forms/property.h"
@@ -16,7 +17,8 @@ class Control;
 class Form;
 class Menu;
 
-// The toolkit's side of one control or form; owned by it, made when its form is loaded.
+// The toolkit's side of one control or form; owned by it, made when its form is loaded (containers and parent menus first,
+// then told Property::All). It may be destroyed inside an act that it reports: a click can unload its form.
 class Peer {
  public:
   virtual ~Peer() = default;
@@ -39,6 +41,7 @@ class Toolkit {
   virtual ~Toolkit() = default;
 
   virtual std::unique_ptr<FormPeer> NewFormPeer(Form& form) = 0;
+  // Null for a kind that has nothing to show (an image list).
   virtual std::unique_ptr<Peer> NewPeer(Control& control) = 0;
   virtual TextMetrics& Metrics() = 0;
   // Client size to outer size of a window, for forms that give their size with the frame.
@@ -56,6 +59,25 @@ class Toolkit {
   // Where every act of the user enters: runs [act]; an error in it ends the act, is told to OnFault, and never leaves.
   void Guard(const std::function<void()>& act) noexcept;
   std::function<void(const std::string& what)> OnFault;
+  // Whether an act of the user is running.
+  bool IsInAct() const { return acts_ > 0; }
+
+  // Visible forms, the active one last.
+  const std::vector<Form*>& ShownForms() const { return shown_; }
+  Form* ActiveForm() const { return active_; }
+  // Whether a modal form keeps input from [form].
+  bool IsBlocked(const Form& form) const { return !modal_.empty() && modal_.back() != &form; }
+
+ private:
+  friend class Form;
+  void FormShown(Form& form);
+  // [tell]: the form hears LostFocus and Deactivate when another becomes active in its place.
+  void FormGone(Form& form, bool tell);
+  void Activate(Form& form);
+
+  std::vector<Form*> shown_, modal_;
+  Form* active_ = nullptr;
+  int acts_ = 0;
 };
 
 }  // namespace corvane::forms

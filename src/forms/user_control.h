@@ -16,6 +16,7 @@ class UserControl : public Control, public Container {
  protected:
   // Puts the surface of the control into place; called whenever its size changes and when its form is loaded.
   void OnResize() override {}
+  void OnLoaded() override { OnResize(); }
 };
 
 }  // namespace corvane::forms
