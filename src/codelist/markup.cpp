@@ -1,0 +1,56 @@
+#include "codelist/markup.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "runtime/strings.h"
+
+namespace corvane::codelist {
+
+namespace {
+
+constexpr forms::Color levelColors[] = {
+    forms::RGB(0, 0, 0),     forms::RGB(0, 0, 255),     forms::RGB(0, 128, 0), forms::RGB(255, 0, 0),
+    forms::RGB(255, 0, 255), forms::RGB(0, 128, 128),   forms::RGB(128, 0, 128), forms::RGB(128, 128, 128),
+    forms::RGB(0, 0, 128),   forms::RGB(128, 128, 0),   forms::RGB(128, 0, 0),
+};
+
+bool IsHiddenCharacter(char c) { return c == kBold || c == kPlainEntry || c == kBlockComment; }
+
+}  // namespace
+
+Mark FirstMark(std::string_view text, size_t from) {
+  while (from + 2 < text.size()) {
+    const void* slash = std::memchr(text.data() + from, '/', text.size() - from - 2);
+    if (!slash) break;
+    from = static_cast<size_t>(static_cast<const char*>(slash) - text.data());
+    if (text[from + 2] == '\\') {
+      if (text[from + 1] == '+') return {from, +1};
+      if (text[from + 1] == '-') return {from, -1};
+    }
+    ++from;
+  }
+  return {std::string_view::npos, 0};
+}
+
+long SumOfMarks(std::string_view text) {
+  long sum = 0;
+  for (Mark mark = FirstMark(text); mark.step != 0; mark = FirstMark(text, mark.place + kLevelUp.size()))
+    sum += mark.step;
+  return sum;
+}
+
+// One pass for each mark: what a removal brings together is not looked at again by the same pass.
+std::string CleanText(std::string_view text) {
+  std::string clean = FirstMark(text).step == 0 ? std::string(text)
+                                                : runtime::Replace(runtime::Replace(text, kLevelUp, ""), kLevelDown, "");
+  clean.erase(std::remove_if(clean.begin(), clean.end(), IsHiddenCharacter), clean.end());
+  return clean;
+}
+
+forms::Color LevelColor(long level) {
+  long index = level % 11;
+  return levelColors[index < 0 ? index + 11 : index];
+}
+
+}  // namespace corvane::codelist
