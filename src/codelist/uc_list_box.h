@@ -125,7 +125,6 @@ class ucListBox : public forms::UserControl {
 
  protected:
   void OnResize() override;
-  void OnGotFocus() override;
 
  private:
   // list_text.cpp

@@ -30,6 +30,10 @@ class PictureBox : public Control, public Container {
 
   void Cls();
   void Print(std::string_view text);  // without line advance, in ForeColor and Font
+  // The same at a place of its own: nothing is measured, and the place of the next text stays.
+  void PrintAt(Twips x, Twips y, std::string_view text) {
+    if (forms::Canvas* canvas = CanvasOf()) canvas->Text(x, y, text, font_, fore_color_);
+  }
   void FillBox(Twips x1, Twips y1, Twips x2, Twips y2, Color color);   // Line (x1, y1)-(x2, y2), color, BF
   void FrameBox(Twips x1, Twips y1, Twips x2, Twips y2, Color color);  // ..., B
   void DrawLine(Twips x1, Twips y1, Twips x2, Twips y2, Color color);
