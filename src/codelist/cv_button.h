@@ -1,4 +1,5 @@
-// CvButton: a flat button, a picture at the left and a caption behind it, with a frame only where BorderStyle asks for it.
+// CvButton: a flat button, a picture at the left and a caption behind it, with a frame only where BorderStyle asks for
+// it.
 #pragma once
 
 #include <string>

@@ -22,9 +22,9 @@ struct KeywordRow {
   std::string_view match;  // in upper case
   std::string_view next;   // the character behind the match is one of these; empty: any
   Marking marking;
-  std::string_view form;   // what is written for the word
-  char last;               // written behind the form, in place of the last consumed character
-  int consumed;            // characters of the line that the row takes
+  std::string_view form;  // what is written for the word
+  char last;              // written behind the form, in place of the last consumed character
+  int consumed;           // characters of the line that the row takes
   Condition condition = Condition::None;
   Effect effect = Effect::None;
   bool blank_behind = false;  // a word directly behind counts as one at a word start

@@ -11,10 +11,10 @@ namespace corvane::codelist {
 
 // The word of state of a line.
 enum LineState : int32_t {
-  kLevelMask = 0x2FF,         // encoded block level at the start of the line
-  kHidden = 0x400,            // inside a collapsed stretch or a closed tree branch
-  kBoundary = 0x40000,        // visible although it may be hidden; closes a collapsed stretch
-  kCollapseStart = 0x80000,   // last visible line before a collapsed stretch, always with kBoundary
+  kLevelMask = 0x2FF,        // encoded block level at the start of the line
+  kHidden = 0x400,           // inside a collapsed stretch or a closed tree branch
+  kBoundary = 0x40000,       // visible although it may be hidden; closes a collapsed stretch
+  kCollapseStart = 0x80000,  // last visible line before a collapsed stretch, always with kBoundary
   kSelected = 0x100000,
   kKeptByLevelShift = 0xFFFE00,
 };

@@ -10,12 +10,14 @@ namespace corvane::codelist {
 namespace {
 
 constexpr forms::Color levelColors[] = {
-    forms::RGB(0, 0, 0),     forms::RGB(0, 0, 255),     forms::RGB(0, 128, 0), forms::RGB(255, 0, 0),
-    forms::RGB(255, 0, 255), forms::RGB(0, 128, 128),   forms::RGB(128, 0, 128), forms::RGB(128, 128, 128),
-    forms::RGB(0, 0, 128),   forms::RGB(128, 128, 0),   forms::RGB(128, 0, 0),
+    forms::RGB(0, 0, 0),     forms::RGB(0, 0, 255),   forms::RGB(0, 128, 0),   forms::RGB(255, 0, 0),
+    forms::RGB(255, 0, 255), forms::RGB(0, 128, 128), forms::RGB(128, 0, 128), forms::RGB(128, 128, 128),
+    forms::RGB(0, 0, 128),   forms::RGB(128, 128, 0), forms::RGB(128, 0, 0),
 };
 
-bool IsHiddenCharacter(char c) { return c == kBold || c == kPlainEntry || c == kBlockComment; }
+bool IsHiddenCharacter(char c) {
+  return c == kBold || c == kPlainEntry || c == kBlockComment;
+}
 
 }  // namespace
 
@@ -42,8 +44,9 @@ long SumOfMarks(std::string_view text) {
 
 // One pass for each mark: what a removal brings together is not looked at again by the same pass.
 std::string CleanText(std::string_view text) {
-  std::string clean = FirstMark(text).step == 0 ? std::string(text)
-                                                : runtime::Replace(runtime::Replace(text, kLevelUp, ""), kLevelDown, "");
+  std::string clean = FirstMark(text).step == 0
+                          ? std::string(text)
+                          : runtime::Replace(runtime::Replace(text, kLevelUp, ""), kLevelDown, "");
   clean.erase(std::remove_if(clean.begin(), clean.end(), IsHiddenCharacter), clean.end());
   return clean;
 }

@@ -33,7 +33,9 @@ long SumOfMarks(std::string_view text);
 std::string CleanText(std::string_view text);
 
 // A level as the state of a line holds it: a negative one as 200 less the level.
-constexpr int32_t EncodeLevel(long level) { return static_cast<int32_t>(level >= 0 ? level : 200 - level); }
+constexpr int32_t EncodeLevel(long level) {
+  return static_cast<int32_t>(level >= 0 ? level : 200 - level);
+}
 
 // The ring of eleven colours, black first.
 forms::Color LevelColor(long level);
