@@ -1,0 +1,34 @@
+// Sizes of texts of several lines.
+#pragma once
+
+#include <algorithm>
+#include <string_view>
+
+#include "forms/canvas.h"
+
+namespace corvane::forms {
+
+// Calls [visit] with each line of [text]; lines end at CR LF, CR or LF. A text without a line end is one line.
+template <class Visit>
+void ForEachLine(std::string_view text, Visit&& visit) {
+  while (true) {
+    const size_t end = text.find_first_of("\r\n");
+    visit(text.substr(0, end));
+    if (end == std::string_view::npos) return;
+    text.remove_prefix(end + (text.substr(end, 2) == "\r\n" ? 2 : 1));
+  }
+}
+
+inline Twips WidestLine(TextMetrics& metrics, std::string_view text, const Font& font) {
+  Twips widest = 0;
+  ForEachLine(text, [&](std::string_view line) { widest = std::max(widest, metrics.TextWidth(line, font)); });
+  return widest;
+}
+
+inline Twips HeightOfLines(TextMetrics& metrics, std::string_view text, const Font& font) {
+  int lines = 0;
+  ForEachLine(text, [&](std::string_view) { ++lines; });
+  return static_cast<Twips>(lines) * metrics.TextHeight(font);
+}
+
+}  // namespace corvane::forms
