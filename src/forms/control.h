@@ -1,5 +1,5 @@
-// Control: what all controls have. Controls hold their own state with Visual Basic's semantics; a toolkit only shows it.
-// They are members of their window class, made with the container that holds them and the name they go by.
+// Control: what all controls have. Controls hold their own state with Visual Basic's semantics; a toolkit only shows
+// it. They are members of their window class, made with the container that holds them and the name they go by.
 #pragma once
 
 #include <memory>
@@ -21,8 +21,26 @@ using runtime::Error;
 using runtime::Variant;
 
 enum class ControlKind {
-  Form, Label, TextBox, CommandButton, CheckBox, OptionButton, Frame, ListBox, ComboBox, PictureBox, Image, Line, Shape,
-  HScrollBar, VScrollBar, Timer, Toolbar, ImageList, Menu, UserControl,
+  Form,
+  Label,
+  TextBox,
+  CommandButton,
+  CheckBox,
+  OptionButton,
+  Frame,
+  ListBox,
+  ComboBox,
+  PictureBox,
+  Image,
+  Line,
+  Shape,
+  HScrollBar,
+  VScrollBar,
+  Timer,
+  Toolbar,
+  ImageList,
+  Menu,
+  UserControl,
 };
 
 // "Label" <-> ControlKind::Label; "VB.Label" is understood too. Throws Error 380 for an unknown name.
@@ -40,7 +58,7 @@ class Control {
   virtual ControlKind Kind() const = 0;
   const std::string& Name() const { return name_; }
   int Index() const { return index_; }
-  Container& ContainerOf() const { return *container_; }
+  Container& ContainerOf() const { return *container_; }  // not of one that was removed
   Form& FormOf() const;
 
   Twips Left() const { return place_.left; }
@@ -100,8 +118,8 @@ class Control {
   // Events. A KeyCode or KeyAscii set to 0 cancels the key.
   Event<> Click, DblClick, GotFocus, LostFocus;
   Event<bool&> Validate;
-  Event<int&, int> KeyDown, KeyUp;                    // KeyCode, Shift
-  Event<int&> KeyPress;                               // KeyAscii
+  Event<int&, int> KeyDown, KeyUp;                              // KeyCode, Shift
+  Event<int&> KeyPress;                                         // KeyAscii
   Event<int, int, Twips, Twips> MouseDown, MouseMove, MouseUp;  // Button, Shift, X, Y
 
   // The user's acts, for toolkits and tests. Each does what the user would see and raises the events in Visual Basic's

@@ -1,9 +1,9 @@
-// Form: a window. Its class has the controls as members; it is loaded by the first Show or LoadForm, and its design is set
-// up in the class's constructor (Initialize; its destructor is Terminate). Visual Basic's order of events: Load, Resize,
-// Activate, GotFocus of the first control; QueryUnload, Unload.
-// Unload takes away the toolkit's side and all controls made at run time, and ends the form's life on the screen; its
-// member controls and plain members keep what they hold, and a later Load shows it. A window that must come up fresh is
-// either made anew by its owner (hold it by unique_ptr), or sets its controls in Load.
+// Form: a window. Its class has the controls as members; it is loaded by the first Show or LoadForm, and its design is
+// set up in the class's constructor (Initialize; its destructor is Terminate). Visual Basic's order of events: Load,
+// Resize, Activate, GotFocus of the first control; QueryUnload, Unload. Unload takes away the toolkit's side and all
+// controls made at run time, and ends the form's life on the screen; its member controls and plain members keep what
+// they hold, and a later Load shows it. A window that must come up fresh is either made anew by its owner (hold it by
+// unique_ptr), or sets its controls in Load.
 #pragma once
 
 #include <memory>
@@ -43,7 +43,7 @@ class Form : public Container {
   void Move(Twips left, Twips top) { Move(left, top, place_.width, place_.height); }
   void SetWidth(Twips value) { Move(place_.left, place_.top, value, place_.height); }
   void SetHeight(Twips value) { Move(place_.left, place_.top, place_.width, value); }
-  Twips ScaleWidth() const;   // inside the frame
+  Twips ScaleWidth() const;  // inside the frame
   Twips ScaleHeight() const;
   int WindowState() const { return window_state_; }
   void SetWindowState(int value);
@@ -158,6 +158,7 @@ class Form : public Container {
   int mouse_pointer_ = 0, controls_made_ = 0;
   PictureRef icon_;
   Control* active_control_ = nullptr;
+  Control* focused_ = nullptr;  // the one that was told GotFocus last, while the form is the active one
   std::vector<Menu*> menus_;
   std::vector<std::unique_ptr<Control>> made_;     // at run time
   std::vector<std::unique_ptr<Control>> dropped_;  // removed while one of their own acts may still run

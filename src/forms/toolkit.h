@@ -1,5 +1,6 @@
-// Toolkit: what a GUI library implements so that windows can be seen. A thin view: it shows the state that controls hold and
-// reports the user's acts to them (Control::User...); it decides nothing. HeadlessToolkit is the one without a display.
+// Toolkit: what a GUI library implements so that windows can be seen. A thin view: it shows the state that controls
+// hold and reports the user's acts to them (Control::User...); it decides nothing. HeadlessToolkit is the one without a
+// display.
 #pragma once
 
 #include <functional>
@@ -17,15 +18,15 @@ class Control;
 class Form;
 class Menu;
 
-// The toolkit's side of one control or form; owned by it, made when its form is loaded (containers and parent menus first,
-// then told Property::All). It may be destroyed inside an act that it reports: a click can unload its form.
+// The toolkit's side of one control or form; owned by it, made when its form is loaded (containers and parent menus
+// first, then told Property::All). It may be destroyed inside an act that it reports: a click can unload its form.
 class Peer {
  public:
   virtual ~Peer() = default;
   // The state behind [property] has changed: show it. Property::All: show everything.
   virtual void Changed(Property property) = 0;
   virtual void TakeFocus() {}
-  virtual void BringToFront(bool) {}  // false: send to the back
+  virtual void BringToFront(bool) {}                   // false: send to the back
   virtual forms::Canvas* Canvas() { return nullptr; }  // picture boxes only
 };
 

@@ -1,0 +1,100 @@
+#include "forms/form.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "forms/controls.h"
+#include "forms/text_lines.h"
+#include "runtime/strings.h"
+
+namespace corvane::forms {
+
+Form::Form(forms::Toolkit& toolkit, std::string name) : toolkit_(toolkit), name_(std::move(name)) {}
+
+Form::~Form() {
+  visible_ = false;
+  toolkit_.FormGone(*this, false);
+  dropped_.clear();
+  made_.clear();
+  peer_.reset();
+}
+
+void Form::SetCaption(std::string value) {
+  if (caption_ == value) return;
+  caption_ = std::move(value);
+  if (peer_) peer_->Changed(Property::Caption);
+}
+
+void Form::Move(Twips left, Twips top, Twips width, Twips height) {
+  if (width < 0 || height < 0) throw Error(runtime::kInvalidPropertyValue);
+  const Rect place{left, top, width, height};
+  if (place == place_) return;
+  const bool resized = place.width != place_.width || place.height != place_.height;
+  place_ = place;
+  if (peer_) peer_->Changed(resized ? Property::Width : Property::Left);
+  if (resized && loaded_) Resize();
+}
+
+Twips Form::ScaleWidth() const {
+  return std::max<Twips>(0, place_.width - toolkit_.FrameOf(*this).width);
+}
+Twips Form::ScaleHeight() const {
+  return std::max<Twips>(0, place_.height - toolkit_.FrameOf(*this).height);
+}
+
+void Form::SetWindowState(int value) {
+  if (value < vbNormal || value > vbMaximized) throw Error(runtime::kInvalidPropertyValue);
+  if (window_state_ == value) return;
+  window_state_ = value;
+  if (peer_) peer_->Changed(Property::WindowState);
+  if (loaded_) Resize();
+}
+
+void Form::SetBackColor(Color value) {
+  if (back_color_ == value) return;
+  back_color_ = value;
+  if (peer_) peer_->Changed(Property::BackColor);
+}
+
+void Form::SetIcon(PictureRef value) {
+  icon_ = std::move(value);
+  if (peer_) peer_->Changed(Property::Icon);
+}
+
+void Form::SetMousePointer(int value) {
+  if (mouse_pointer_ == value) return;
+  mouse_pointer_ = value;
+  if (peer_) peer_->Changed(Property::MousePointer);
+}
+
+Twips Form::TextWidth(std::string_view text) const {
+  return WidestLine(toolkit_.Metrics(), text, font_);
+}
+Twips Form::TextHeight(std::string_view text) const {
+  return HeightOfLines(toolkit_.Metrics(), text, font_);
+}
+
+void Form::UserResize(Twips width, Twips height) {
+  if (width == place_.width && height == place_.height) return;
+  place_.width = width;
+  place_.height = height;
+  if (loaded_) Resize();
+}
+
+void Form::UserMove(Twips left, Twips top) {
+  place_.left = left;
+  place_.top = top;
+}
+
+void Form::UserWindowState(int state) {
+  if (window_state_ == state) return;
+  window_state_ = state;
+  if (loaded_) Resize();
+}
+
+void Form::PopupMenu(Menu& menu, Twips x, Twips y) {
+  menu.UserOpen();
+  toolkit_.PopupMenu(*this, menu, x, y);
+}
+
+}  // namespace corvane::forms
