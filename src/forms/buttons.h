@@ -56,8 +56,8 @@ class CheckBox : public Button {
   using Button::Button;
   ControlKind Kind() const override { return ControlKind::CheckBox; }
   int Value() const { return value_; }
-  void SetValue(int value);  // raises Click when it differs; Error 380 outside 0 to 2
-  void UserClick() override; // turns it, then Click
+  void SetValue(int value);   // raises Click when it differs; Error 380 outside 0 to 2
+  void UserClick() override;  // turns it, then Click
   Variant Get(Property property) const override;
   void Set(Property property, const Variant& value) override;
 

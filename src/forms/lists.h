@@ -12,7 +12,8 @@ class ListControl : public Control {
   ListControl(Container& container, std::string name, int index = -1);
   bool CanTakeFocus() const override { return true; }
 
-  // Where [at] is given the row goes there whether the list is sorted or not; a place outside 0 to ListCount is Error 5.
+  // Where [at] is given the row goes there whether the list is sorted or not; a place outside 0 to ListCount is
+  // Error 5.
   void AddItem(std::string text, long at = -1);
   void RemoveItem(long row);  // Error 5 outside the list
   void Clear();               // no Click
@@ -26,7 +27,8 @@ class ListControl : public Control {
   const RowStore& Rows() const { return rows_; }
   // Row of the last AddItem; -1 when the list is empty or a row was removed since.
   long NewIndex() const { return new_index_; }
-  // The selected row, -1 for none. Assigning another row raises Click; the same row nothing; outside the list Error 380.
+  // The selected row, -1 for none. Assigning another row raises Click; the same row nothing; outside the list Error
+  // 380.
   long ListIndex() const { return list_index_; }
   void SetListIndex(long row);
   std::string Text() const { return List(list_index_); }
@@ -37,7 +39,7 @@ class ListControl : public Control {
 
   // The user moved the selection to [row]: ListIndex and Click (also for the same row, as a mouse click does).
   virtual void UserSelect(long row);
-  void UserScroll(long top_row) { top_index_ = top_row; }
+  void UserScroll(long top_row);  // raises Scroll
   Event<> Scroll;
   Variant Get(Property property) const override;
   void Set(Property property, const Variant& value) override;
@@ -56,6 +58,7 @@ class ListBox : public ListControl {
  public:
   ListBox(Container& container, std::string name, int index = -1);
   ControlKind Kind() const override { return ControlKind::ListBox; }
+  void SetText(const std::string& value);
   int Style() const { return style_; }  // 0 standard, 1 with check boxes
   void SetStyle(int value);
   int MultiSelect() const { return multi_select_; }  // 0 none, 1 simple, 2 extended
@@ -69,6 +72,7 @@ class ListBox : public ListControl {
   void Set(Property property, const Variant& value) override;
 
  private:
+  bool MarksRows() const;  // each row is selected by itself
   int style_ = 0, multi_select_ = 0;
 };
 

@@ -1,5 +1,5 @@
-// PictureBox: a surface to draw on, and a container. Drawing goes to the toolkit's canvas; before the form is loaded it goes
-// nowhere, and the metrics are the toolkit's. Coordinates are twips. What was drawn stays (AutoRedraw).
+// PictureBox: a surface to draw on, and a container. Drawing goes to the toolkit's canvas; before the form is loaded it
+// goes nowhere, and the metrics are the toolkit's. Coordinates are twips. What was drawn stays (AutoRedraw).
 #pragma once
 
 #include "forms/control.h"
@@ -34,10 +34,11 @@ class PictureBox : public Control, public Container {
   void PrintAt(Twips x, Twips y, std::string_view text) {
     if (forms::Canvas* canvas = CanvasOf()) canvas->Text(x, y, text, font_, fore_color_);
   }
+  // Each of these four moves CurrentX and CurrentY to its last point, a circle to its centre.
   void FillBox(Twips x1, Twips y1, Twips x2, Twips y2, Color color);   // Line (x1, y1)-(x2, y2), color, BF
   void FrameBox(Twips x1, Twips y1, Twips x2, Twips y2, Color color);  // ..., B
   void DrawLine(Twips x1, Twips y1, Twips x2, Twips y2, Color color);
-  void Circle(Twips x, Twips y, Twips radius, Color outline);          // filled with FillColor when FillStyle is 0
+  void Circle(Twips x, Twips y, Twips radius, Color outline);  // filled with FillColor when FillStyle is 0
   void PaintPicture(const PictureRef& picture, Twips x, Twips y, Twips width, Twips height);
   void Refresh();
   Twips TextWidth(std::string_view text) const;
@@ -53,7 +54,8 @@ class PictureBox : public Control, public Container {
   void SetFont(const forms::Font& value) override { font_ = value; }
 
   Event<> Resize;
-  Event<> Paint;  // the surface was made or has a new size: draw again
+  Event<> Change;  // another Picture was assigned
+  Event<> Paint;   // the surface was made or has a new size: draw again
   Variant Get(Property property) const override;
   void Set(Property property, const Variant& value) override;
 

@@ -1,5 +1,5 @@
-// RowStore: the rows of a list. Inserting, removing and reading are fast at any length: rows are kept in blocks of bounded
-// size, so that filling a sorted list of a hundred thousand rows is not a quadratic walk.
+// RowStore: the rows of a list. Inserting, removing and reading are fast at any length: rows are kept in blocks of
+// bounded size, so that filling a sorted list of a hundred thousand rows is not a quadratic walk.
 #pragma once
 
 #include <memory>

@@ -31,6 +31,7 @@ class ScrollBar : public Control {
  private:
   void KeepInRange();
   long min_ = 0, max_ = 32767, value_ = 0, small_change_ = 1, large_change_ = 1;
+  bool dragged_ = false;
 };
 
 class HScrollBar : public ScrollBar {

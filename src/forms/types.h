@@ -60,10 +60,34 @@ enum ShiftMask : int { vbShiftMask = 1, vbCtrlMask = 2, vbAltMask = 4 };
 enum MouseButton : int { vbLeftButton = 1, vbRightButton = 2, vbMiddleButton = 4 };
 
 enum KeyCode : int {
-  vbKeyBack = 8, vbKeyTab = 9, vbKeyReturn = 13, vbKeyShift = 16, vbKeyControl = 17, vbKeyMenu = 18, vbKeyEscape = 27,
-  vbKeySpace = 32, vbKeyPageUp = 33, vbKeyPageDown = 34, vbKeyEnd = 35, vbKeyHome = 36, vbKeyLeft = 37, vbKeyUp = 38,
-  vbKeyRight = 39, vbKeyDown = 40, vbKeyInsert = 45, vbKeyDelete = 46, vbKey0 = 48, vbKeyA = 65, vbKeyC = 67,
-  vbKeyF1 = 112, vbKeyF2 = 113, vbKeyF3 = 114, vbKeyF4 = 115, vbKeyF5 = 116, vbKeyF10 = 121, vbKeyF12 = 123,
+  vbKeyBack = 8,
+  vbKeyTab = 9,
+  vbKeyReturn = 13,
+  vbKeyShift = 16,
+  vbKeyControl = 17,
+  vbKeyMenu = 18,
+  vbKeyEscape = 27,
+  vbKeySpace = 32,
+  vbKeyPageUp = 33,
+  vbKeyPageDown = 34,
+  vbKeyEnd = 35,
+  vbKeyHome = 36,
+  vbKeyLeft = 37,
+  vbKeyUp = 38,
+  vbKeyRight = 39,
+  vbKeyDown = 40,
+  vbKeyInsert = 45,
+  vbKeyDelete = 46,
+  vbKey0 = 48,
+  vbKeyA = 65,
+  vbKeyC = 67,
+  vbKeyF1 = 112,
+  vbKeyF2 = 113,
+  vbKeyF3 = 114,
+  vbKeyF4 = 115,
+  vbKeyF5 = 116,
+  vbKeyF10 = 121,
+  vbKeyF12 = 123,
 };
 
 }  // namespace corvane::forms
