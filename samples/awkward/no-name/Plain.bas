@@ -1,0 +1,4 @@
+Option Explicit
+
+Sub A()
+End Sub

@@ -1,0 +1,5 @@
+LOAD DATA
+INFILE 'people.dat'
+INTO TABLE people
+FIELDS TERMINATED BY ','
+(id, name, town)
