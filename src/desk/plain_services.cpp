@@ -1,0 +1,134 @@
+#include "desk/plain_services.h"
+
+#include <array>
+#include <chrono>
+#include <iostream>
+
+#include "desk/data_folder.h"
+#include "desk/user_settings.h"
+#include "environment/disk_files.h"
+#include "runtime/code_page.h"
+
+namespace corvane::desk {
+
+namespace {
+
+class PlainClipboard : public host::Clipboard {
+ public:
+  void Clear() override {
+    text_.clear();
+    picture_ = nullptr;
+  }
+  std::string GetText() override { return text_; }
+  void SetText(const std::string& text) override { text_ = text; }
+  void SetData(const runtime::PictureRef& picture) override { picture_ = picture; }
+  runtime::PictureRef GetData() override { return picture_; }
+
+ private:
+  std::string text_;
+  runtime::PictureRef picture_;
+};
+
+class PlainPrompts : public host::Prompts {
+ public:
+  long MsgBox(const std::string& prompt, long style, const std::string&) override {
+    std::cerr << runtime::AnsiCodePage().ToUtf8(prompt) << '\n';
+    return DefaultAnswer(style);
+  }
+  std::string InputBox(const std::string&, const std::string&, const std::string&) override { return {}; }
+};
+
+class PlainScreen : public host::Screen {
+ public:
+  int MousePointer() const override { return pointer_; }
+  void SetMousePointer(int pointer) override { pointer_ = pointer; }
+
+ private:
+  int pointer_ = host::vbDefault;
+};
+
+class PlainLoop : public host::EventLoop {
+ public:
+  void DoEvents() override {}
+  void SendKeys(const std::string&) override {}
+  uint32_t TickCount() override { return MillisecondsSinceStart(); }
+};
+
+constexpr long kInvalidPicture = 481;
+
+bool LooksLikePicture(std::string_view bytes) {
+  using namespace std::string_view_literals;
+  for (std::string_view start : {"BM"sv, "GIF8"sv, "\x89PNG"sv, "\xFF\xD8\xFF"sv, "\0\0\1\0"sv, "\0\0\2\0"sv, "<svg"sv,
+                                 "<?xml"sv, "\xD7\xCD\xC6\x9A"sv})
+    if (bytes.substr(0, start.size()) == start) return true;
+  return false;
+}
+
+class FilePictures : public host::Pictures {
+ public:
+  explicit FilePictures(host::Files& files) : files_(files) {}
+  runtime::PictureRef LoadPicture(const std::string& path) override {
+    std::string bytes = files_.Read(path);
+    if (!LooksLikePicture(bytes)) throw runtime::Error(kInvalidPicture, "Invalid picture");
+    return std::make_shared<runtime::Picture>(runtime::Picture{std::move(bytes)});
+  }
+
+ private:
+  host::Files& files_;
+};
+
+}  // namespace
+
+struct PlainServices::State {
+  PlainClipboard clipboard;
+  PlainPrompts prompts;
+  UserSettings settings;
+  host::App app = NewApp();
+  PlainScreen screen;
+  PlainLoop loop;
+  std::unique_ptr<host::Files> files = environment::NewDiskFiles();
+  std::unique_ptr<host::Pictures> pictures = NewPictures(*files);
+};
+
+PlainServices::PlainServices() : state_(std::make_unique<State>()) {}
+
+PlainServices::~PlainServices() = default;
+
+PlainServices::operator host::Services() const {
+  State& s = *state_;
+  return {s.clipboard, s.prompts, s.settings, s.app, s.screen, s.loop, *s.files, *s.pictures};
+}
+
+host::Files& PlainServices::Files() const {
+  return *state_->files;
+}
+
+host::App NewApp() {
+  return {environment::WindowsPath(DataFolder().string()), "Corvane", ""};
+}
+
+std::unique_ptr<host::Pictures> NewPictures(host::Files& files) {
+  return std::make_unique<FilePictures>(files);
+}
+
+uint32_t MillisecondsSinceStart() {
+  using namespace std::chrono;
+  static const steady_clock::time_point start = steady_clock::now();
+  return static_cast<uint32_t>(duration_cast<milliseconds>(steady_clock::now() - start).count());
+}
+
+long DefaultAnswer(long style) {
+  using namespace host;
+  static constexpr std::array<std::array<long, 3>, 6> kButtons = {{{vbOK},
+                                                                   {vbOK, vbCancel},
+                                                                   {vbAbort, vbRetry, vbIgnore},
+                                                                   {vbYes, vbNo, vbCancel},
+                                                                   {vbYes, vbNo},
+                                                                   {vbRetry, vbCancel}}};
+  const long set = style & 15, place = style >> 8 & 3;
+  if (set >= static_cast<long>(kButtons.size()) || place > 2) return vbOK;
+  const long answer = kButtons[set][place];
+  return answer ? answer : kButtons[set][0];
+}
+
+}  // namespace corvane::desk
