@@ -92,6 +92,22 @@ void Form::UserWindowState(int state) {
   if (loaded_) Resize();
 }
 
+bool Form::UserKeyDown(int key_code, int shift) {
+  if (!visible_ || toolkit_.IsBlocked(*this)) return true;
+  KeyDown(key_code, shift);
+  return key_code == 0;
+}
+
+bool Form::UserKeyPress(int key_ascii) {
+  if (!visible_ || toolkit_.IsBlocked(*this)) return true;
+  KeyPress(key_ascii);
+  return key_ascii == 0;
+}
+
+void Form::UserKeyUp(int key_code, int shift) {
+  if (visible_ && !toolkit_.IsBlocked(*this)) KeyUp(key_code, shift);
+}
+
 void Form::PopupMenu(Menu& menu, Twips x, Twips y) {
   menu.UserOpen();
   toolkit_.PopupMenu(*this, menu, x, y);

@@ -6,8 +6,10 @@
 // unique_ptr), or sets its controls in Load.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "forms/control.h"
@@ -97,6 +99,11 @@ class Form : public Container {
   // Takes over a control that was made by hand at run time, and gives it its toolkit's side.
   void Adopt(std::unique_ptr<Control> control);
 
+  // [hook] runs when the form is unloaded, before the controls made at run time go; [owner] takes it back by
+  // DropUnloadHook.
+  void AddUnloadHook(const void* owner, std::function<void()> hook);
+  void DropUnloadHook(const void* owner);
+
   // The menus of the menu bar, and those that only pop up (their Visible is false).
   const std::vector<Menu*>& Menus() const { return menus_; }
   // The menu's own Click, then its items; the chosen item's Click comes before it returns.
@@ -117,6 +124,10 @@ class Form : public Container {
   // The window became the active one of the screen. Another form is told Deactivate first; a window of another program
   // in front of it changes nothing, so false is passed over.
   void UserActivate(bool active);
+  // A key while no control has the focus: the form's own events.
+  bool UserKeyDown(int key_code, int shift);
+  bool UserKeyPress(int key_ascii);
+  void UserKeyUp(int key_code, int shift);
   // Keys that a window takes before its controls see them: shortcuts of menus, access keys (Alt and a letter; those of
   // the menu bar are the toolkit's), Tab and Shift+Tab, Enter and Esc for buttons. True when the key was used up.
   bool UserDialogKey(int key_code, int shift);
@@ -160,6 +171,7 @@ class Form : public Container {
   Control* active_control_ = nullptr;
   Control* focused_ = nullptr;  // the one that was told GotFocus last, while the form is the active one
   std::vector<Menu*> menus_;
+  std::vector<std::pair<const void*, std::function<void()>>> unload_hooks_;
   std::vector<std::unique_ptr<Control>> made_;     // at run time
   std::vector<std::unique_ptr<Control>> dropped_;  // removed while one of their own acts may still run
   std::unique_ptr<forms::FormPeer> peer_;

@@ -1,0 +1,181 @@
+#include "forms/user.h"
+
+#include "forms/key_effects.h"
+#include "forms/mnemonic.h"
+
+namespace corvane::forms {
+
+namespace {
+
+bool IsPressButton(const Control& control) {
+  return dynamic_cast<const Button*>(&control) != nullptr;
+}
+
+forms::Menu* ItemCaptioned(const std::vector<forms::Menu*>& menus, std::string_view caption) {
+  for (forms::Menu* menu : menus) {
+    if (menu->Visible() && WithoutMnemonic(menu->Caption()) == caption) return menu;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+template <class Act>
+bool User::Do(Control& control, Act&& act) {
+  if (!control.AcceptsInput()) return false;
+  form_.Toolkit().Guard(act);
+  return true;
+}
+
+bool User::Press(int key_code, int shift) {
+  return TypeKey(key_code, shift, CharacterOf(key_code, shift));
+}
+
+bool User::Type(std::string_view text) {
+  bool typed = true;
+  for (size_t at = 0; at < text.size(); ++at) {
+    if (text[at] == '\r' || text[at] == '\n') {
+      if (text.substr(at, 2) == "\r\n") ++at;
+      typed = Press(vbKeyReturn) && typed;
+    } else {
+      typed = TypeKey(KeyOf(text[at]), ShiftOf(text[at]), static_cast<unsigned char>(text[at])) && typed;
+    }
+  }
+  return typed;
+}
+
+// The character goes to the control that got the key, the release to where the focus is by then.
+bool User::TypeKey(int key_code, int shift, int key_ascii) {
+  if (!form_.Visible() || form_.Toolkit().IsBlocked(form_)) return false;
+  bool used_up = false;
+  Control* control = nullptr;
+  form_.Toolkit().Guard([&] {
+    used_up = form_.UserDialogKey(key_code, shift);
+    control = form_.ActiveControl();
+    if (used_up) return;
+    used_up = control ? control->UserKeyDown(key_code, shift) : form_.UserKeyDown(key_code, shift);
+    if (!used_up && control) used_up = HaveKeyEffect(*control, key_code, shift);
+  });
+  if (!used_up && key_ascii != 0 && form_.Visible()) {
+    form_.Toolkit().Guard([&] {
+      const bool cancelled = control ? control->UserKeyPress(key_ascii) : form_.UserKeyPress(key_ascii);
+      if (!cancelled && control) HaveCharacterEffect(*control, key_ascii);
+    });
+  }
+  form_.Toolkit().Guard([&] {
+    if (!form_.Visible()) return;
+    Control* now = form_.ActiveControl();
+    now ? now->UserKeyUp(key_code, shift) : form_.UserKeyUp(key_code, shift);
+  });
+  return true;
+}
+
+bool User::Click(Control& control) {
+  return ClickAt(control, control.Width() / 2, control.Height() / 2);
+}
+
+bool User::ClickAt(Control& control, Twips x, Twips y, int button, int shift) {
+  return Do(control, [&] { control.UserMouseDown(button, shift, x, y); }) &&
+         Do(control,
+            [&] {
+              if (button == vbLeftButton && IsPressButton(control)) control.UserClick();
+            }) &&
+         (Do(control, [&] { control.UserMouseUp(button, shift, x, y); }) || true);
+}
+
+bool User::DblClick(Control& control) {
+  return DblClickAt(control, control.Width() / 2, control.Height() / 2);
+}
+
+bool User::DblClickAt(Control& control, Twips x, Twips y) {
+  return ClickAt(control, x, y) && Do(control, [&] { control.UserDblClick(); }) &&
+         (Do(control, [&] { control.UserMouseUp(vbLeftButton, 0, x, y); }) || true);
+}
+
+bool User::MoveOver(Control& control, Twips x, Twips y, int button, int shift) {
+  return Do(control, [&] { control.UserMouseMove(button, shift, x, y); });
+}
+
+bool User::Drag(Control& control, Twips x1, Twips y1, Twips x2, Twips y2) {
+  return Do(control, [&] { control.UserMouseDown(vbLeftButton, 0, x1, y1); }) &&
+         MoveOver(control, x2, y2, vbLeftButton) && Do(control, [&] { control.UserMouseUp(vbLeftButton, 0, x2, y2); });
+}
+
+bool User::Choose(ListControl& list, long row) {
+  if (row < 0 || row >= list.ListCount()) return false;
+  if (auto* combo = dynamic_cast<ComboBox*>(&list)) {
+    return Do(list, [&] { list.UserFocus(); }) && Do(list, [&] { combo->UserDropDown(); }) &&
+           Do(list, [&] { list.UserSelect(row); });
+  }
+  return Do(list, [&] { list.UserMouseDown(vbLeftButton, 0, 0, 0); }) && Do(list, [&] { list.UserSelect(row); }) &&
+         (Do(list, [&] { list.UserMouseUp(vbLeftButton, 0, 0, 0); }) || true);
+}
+
+bool User::Choose(ListControl& list, std::string_view text) {
+  for (long row = 0; row < list.ListCount(); ++row) {
+    if (list.List(row) == text) return Choose(list, row);
+  }
+  return false;
+}
+
+bool User::DblClickRow(ListBox& list, long row) {
+  return Choose(list, row) && Do(list, [&] { list.UserDblClick(); }) &&
+         (Do(list, [&] { list.UserMouseUp(vbLeftButton, 0, 0, 0); }) || true);
+}
+
+bool User::Check(ListBox& list, long row) {
+  return row >= 0 && row < list.ListCount() && Do(list, [&] {
+           list.UserFocus();
+           list.UserToggle(row);
+         });
+}
+
+bool User::Scroll(ScrollBar& bar, long value) {
+  return Do(bar, [&] { bar.UserScroll(value, false); });
+}
+
+bool User::Enter(TextBox& box, std::string_view text) {
+  if (!Do(box, [&] { box.UserFocus(); }) || box.Locked()) return false;
+  box.UserSelect(0, static_cast<long>(box.Text().size()));
+  return text.empty() ? Press(vbKeyDelete) : Type(text);
+}
+
+bool User::Enter(ComboBox& box, std::string_view text) {
+  if (!Do(box, [&] { box.UserFocus(); }) || box.Style() == 2 || box.Locked()) return false;
+  Do(box, [&] { box.UserEdit(""); });
+  return Type(text);
+}
+
+bool User::ClickButton(Toolbar& bar, int position) {
+  if (position < 1 || position > bar.Count() || !bar.Button(position).Enabled) return false;
+  return Do(bar, [&] { bar.UserButtonClick(position); });
+}
+
+bool User::ChooseButtonMenu(Toolbar& bar, int position, int entry) {
+  if (position < 1 || position > bar.Count() || !bar.Button(position).Enabled) return false;
+  return Do(bar, [&] { bar.UserButtonDropDown(position); }) &&
+         Do(bar, [&] { bar.UserButtonMenuClick(position, entry); });
+}
+
+bool User::ChooseMenu(std::initializer_list<std::string_view> captions) {
+  if (!form_.Visible() || form_.Toolkit().IsBlocked(form_)) return false;
+  const std::vector<forms::Menu*>* level = &form_.Menus();
+  forms::Menu* reached = nullptr;
+  for (std::string_view caption : captions) {
+    reached = ItemCaptioned(*level, caption);
+    if (!reached || !reached->Enabled()) return false;
+    form_.Toolkit().Guard([&] { reached->UserOpen(); });
+    level = &reached->Items();
+  }
+  if (!reached || !reached->Enabled() || !reached->Visible()) return false;
+  form_.Toolkit().Guard([&] { reached->UserClick(); });
+  return true;
+}
+
+bool User::Close() {
+  if (!form_.Visible() || form_.Toolkit().IsBlocked(form_)) return false;
+  form_.Toolkit().Guard([&] { form_.UserClose(); });
+  return true;
+}
+
+}  // namespace corvane::forms
