@@ -105,6 +105,14 @@ void Form::Adopt(std::unique_ptr<Control> control) {
   MakePeer(*made_.back());
 }
 
+void Form::AddUnloadHook(const void* owner, std::function<void()> hook) {
+  unload_hooks_.emplace_back(owner, std::move(hook));
+}
+
+void Form::DropUnloadHook(const void* owner) {
+  std::erase_if(unload_hooks_, [owner](const auto& each) { return each.first == owner; });
+}
+
 void Form::RemoveControl(Control& control) {
   const auto found = std::find_if(made_.begin(), made_.end(), [&](const auto& each) { return each.get() == &control; });
   if (found == made_.end()) throw Error(runtime::kCannotUnloadDesignTimeControl);

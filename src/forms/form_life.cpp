@@ -104,6 +104,7 @@ bool Form::Unload(UnloadMode mode) {
   visible_ = loaded_ = modal_ = false;
   active_control_ = focused_ = nullptr;
   DropPeers();
+  for (const auto& [owner, hook] : unload_hooks_) hook();
   for (auto& control : made_) dropped_.push_back(std::move(control));
   made_.clear();
   if (!toolkit_.IsInAct()) dropped_.clear();
