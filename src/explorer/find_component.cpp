@@ -1,0 +1,44 @@
+#include "explorer/project_access.h"
+#include "runtime/strings.h"
+
+namespace corvane::explorer {
+
+using host::Ref;
+
+Ref<host::VBProject> ActiveProject(const Ref<host::VBE>& vbe) {
+  Ref<host::VBProject> project = Object(vbe).ActiveVBProject();
+  Object(project);
+  return project;
+}
+
+Ref<host::VBComponents> ActiveComponents(const Ref<host::VBE>& vbe) {
+  return ActiveProject(vbe)->VBComponents();
+}
+
+Ref<host::CodeModule> ActiveModule(const Ref<host::VBE>& vbe) {
+  Ref<host::CodePane> pane = Object(vbe).ActiveCodePane();
+  return pane ? pane->CodeModule() : nullptr;
+}
+
+long FindComponentIndex(const Ref<host::VBE>& vbe, std::string_view name) {
+  std::string wanted = runtime::UCase(name);
+  long index = 0;
+  for (Ref<host::VBComponent> component : host::Each(*ActiveComponents(vbe))) {
+    ++index;
+    if (HasCode(*component) && runtime::UCase(component->Name()) == wanted) return index;
+  }
+  return 0;
+}
+
+Ref<host::VBComponent> FindComponent(const Ref<host::VBE>& vbe, std::string_view name, long* index) {
+  long position = 0;
+  for (Ref<host::VBComponent> component : host::Each(*ActiveComponents(vbe))) {
+    ++position;
+    if (!HasCode(*component) || component->Name() != name) continue;
+    if (index) *index = position;
+    return component;
+  }
+  return nullptr;
+}
+
+}  // namespace corvane::explorer
