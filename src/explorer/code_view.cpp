@@ -1,0 +1,167 @@
+// The code view: what a row of the procedures shows in it, its size and its colours.
+#include "explorer/find_line_near.h"
+#include "explorer/frm_add_in.h"
+#include "explorer/project_access.h"
+#include "explorer/rows.h"
+#include "explorer/set_while.h"
+#include "runtime/strings.h"
+
+namespace corvane::explorer {
+
+using namespace runtime;
+using host::Ref;
+
+namespace {
+
+constexpr long kFirstProcedureLine = 4, kBlockLines = 250, kUnknownLines = 550, kLinesBehind = 5, kFewestLines = 3;
+constexpr long kBlockHead = 3, kBlockFrom = 40, kLongestHead = 65;
+
+bool IsCommentOrBlank(const std::string& row) {
+  std::string text = UCase(Trim(row));
+  return text.empty() || BeginsWith(text, "'") || text == "REM" || BeginsWith(text, "REM ");
+}
+
+}  // namespace
+
+void frmAddIn::lbxProc_Click() {
+  if (busy) return;
+  savedPosition = 0;
+  std::string row = lbxProc->List(lbxProc->ListIndex());
+  long index = ComponentOfRow();
+  if (index < 1) return;
+  Ref<host::CodeModule> module = Object(ComponentAt(row, index)).CodeModule();
+  long at = lbxProc->ListIndex(), line = lbxProc->ItemData(at);
+  if (at == 0 && row == kDeclarations) return ShowDeclarations(*module);
+  lblSub.SetCaption(ShownText(row));
+  if (line >= kFirstProcedureLine) {
+    long moved = FindLineNear(*module, -line, row, lblSub.Caption());
+    if (moved >= 1 && moved != line) lbxProc->SetItemData(at, line = moved);
+    if (ShowProcedure(*module, line)) return;
+  }
+  ShowBlock(*module, line);
+}
+
+// Position of the component that the selected row belongs to; below 1 when it belongs to none. The first row of the
+// project lists the project again.
+long frmAddIn::ComponentOfRow() {
+  std::string row = lbxProc->List(lbxProc->ListIndex());
+  long inTail = ComponentInTail(row);
+  if (lbxComp->ListIndex() >= 1) return inTail >= 0 ? inTail : lbxComp->ItemData(lbxComp->ListIndex());
+  if (IsBookmark(row)) return ComponentOfBookmark(ReadBookmark(row));
+  if (inTail < 0 && lbxProc->ListIndex() == 0) FillComponentList();
+  return inTail;
+}
+
+// The row becomes one like the others.
+long frmAddIn::ComponentOfBookmark(const Bookmark& bookmark) {
+  long index = 0, row = lbxProc->ListIndex();
+  lbxProc->SetItemData(row, bookmark.line);
+  if (FindComponent(VBInstance, bookmark.module, &index))
+    lbxProc->SetList(row, bookmark.text + kTailMark + CStr(index));
+  return index;
+}
+
+// A row that begins with "_" belongs to another project: "_Project.Module:    ".
+Ref<host::VBComponent> frmAddIn::ComponentAt(const std::string& row, long index) {
+  Ref<host::VBComponent> component;
+  if (BeginsWith(row, "_")) {
+    std::string label = runtime::Left(row, std::max(InStr(row, kLabelEnd) - 1, 0L));
+    std::string project = Mid(label.substr(0, label.find('.')), 2);
+    PassOverErrors(
+        [&] { component = Object(Object(VBInstance).VBProjects()->Item(project)).VBComponents()->Item(index); });
+  }
+  return component ? component : ActiveComponents(VBInstance)->Item(index);
+}
+
+void frmAddIn::ShowDeclarations(host::CodeModule& module) {
+  textOffset = 1;
+  txtCode.Clear();
+  lblSub.SetCaption(LTrim(kDeclarations));
+  long lines = module.CountOfDeclarationLines();
+  ShowRaw(lines > 0 ? module.Lines(1, lines) : std::string());
+}
+
+// The whole procedure around [line]; false where there is none, or its name has a single letter.
+bool frmAddIn::ShowProcedure(host::CodeModule& module, long line) {
+  host::ProcKind kind;
+  std::string name = module.ProcOfLine(line, kind);
+  if (Len(name) < 2) return false;
+  long body = module.ProcBodyLine(name, kind);
+  if (body > line) return false;
+  if (!Holds(UCase(module.Lines(body, 1)), UCase(name)) && Len(module.Lines(body + 1, 1)) < 2) ++body;
+  textOffset = line - body + 1;
+  if (textOffset == 0) {
+    --body;
+    textOffset = 1;
+  }
+  long count = module.ProcCountLines(name, kind);
+  lblSub.SetCaption(Trim(module.Lines(body, 1)));
+  ShowCode(module.Lines(body, count >= kFewestLines ? count + kLinesBehind : kUnknownLines));
+  return true;
+}
+
+void frmAddIn::ShowBlock(host::CodeModule& module, long line) {
+  long start = line;
+  if (line > 1) start = line >= kBlockFrom ? line - kBlockHead : 1;
+  textOffset = line - start + 1;
+  txtCode.AllProcText(true);
+  ShowCode(module.Lines(start, kBlockLines));
+  txtCode.AllProcText(false);
+}
+
+// Escape has hidden the view; a text that comes into it must be seen.
+void frmAddIn::ShowCode(const std::string& text) {
+  txtCode.SetVisible(true);
+  txtCode.SetText(text);
+}
+
+void frmAddIn::ShowRaw(const std::string& text) {
+  SetWhile raw(txtCode.NoAnalyse);
+  ShowCode(text);
+}
+
+void frmAddIn::txtCode_TextDone() {
+  firstCodeRow = 1;
+  for (long row = 1; row <= std::min(txtCode.ListCount(), kLongestHead); ++row)
+    if (!IsCommentOrBlank(txtCode.List(row))) {
+      firstCodeRow = row;
+      break;
+    }
+  DoEvents();
+  if (savedPosition > 0) textOffset = savedPosition;
+  txtCode.SetStrPos(textOffset);
+  textOffset = 1;
+  savedPosition = 0;
+}
+
+void frmAddIn::ReloadCode(long row) {
+  lbxProc_Click();
+  txtCode.SetStrPos(row);
+}
+
+void frmAddIn::cmdColor_Click() {
+  txtCode.ColorOff = cmdColor.Caption() == "Off";
+  cmdColor.SetCaption(txtCode.ColorOff ? "On" : "Off");
+  if (txtCode.ListIndex() > 0) ReloadCode(txtCode.ListIndex());
+}
+
+void frmAddIn::cmdMore_Click() {
+  bool maximise = cmdMore.Caption() == "Max";
+  if (maximise) {
+    codePlace = txtCode.Place();
+    forms::Twips top = tlbr.Top() + tlbr.Height() + 60;
+    txtCode.Move(lbxProc1.Left(), top, lbxProc1.Width(), Frame4.Top() - top - 60);
+    txtCode.ZOrder();
+  } else {
+    txtCode.Move(codePlace.left, codePlace.top, codePlace.width, codePlace.height);
+  }
+  cmdMore.SetCaption(maximise ? "Min" : "Max");
+  cmGo.SetVisible(!maximise);
+  Focus(txtCode);
+}
+
+void frmAddIn::txtCode_EscapeClicked() {
+  Object(Object(VBInstance).MainWindow()).SetFocus();
+}
+
+}  // namespace corvane::explorer

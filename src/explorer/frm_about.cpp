@@ -1,0 +1,53 @@
+#include "explorer/frm_about.h"
+
+#include "forms/icons.h"
+
+namespace corvane::explorer {
+
+frmAbout::frmAbout(host::Services& services, forms::Toolkit& toolkit) : Form(toolkit, "frmAbout"), services(services) {
+  Design();
+  cmdOk.Click = [this] { Unload(); };
+  cmdSysInfo.Click = [this] { cmdSysInfo_Click(); };
+}
+
+void frmAbout::Design() {
+  SetCaption("About Corvane");
+  SetBorderStyle(forms::FormBorder::FixedDialog);
+  SetIcon(forms::Icon("corvane"));
+  Move(2400, 2400, 6300, 3600);
+  imgIcon.SetPicture(forms::Icon("corvane"));
+  imgIcon.SetStretch(true);
+  imgIcon.Move(240, 240, 720, 720);
+  lblTitle.SetCaption("Corvane V 1.0");
+  lblTitle.SetFont({.Name = "MS Sans Serif", .Size = 13.5f, .Bold = true});
+  lblTitle.Move(1200, 240, 4860, 375);
+  lblDescription.SetCaption("Project explorer with colour code analysis");
+  lblDescription.Move(1200, 705, 4860, 255);
+  lblLicence.SetCaption("Free software under the MIT licence, without any warranty.");
+  lblLicence.SetWordWrap(true);
+  lblLicence.Move(1200, 1080, 4860, 495);
+  txtRead.SetMultiLine(true);
+  txtRead.SetScrollBars(2);
+  txtRead.SetLocked(true);
+  txtRead.SetVisible(false);
+  txtRead.Move(120, 120, 4545, Height() - 550);
+  cmdOk.SetCaption("OK");
+  cmdOk.SetDefault(true);
+  cmdOk.SetCancel(true);
+  cmdOk.Move(4800, 2130, 1260, 375);
+  cmdSysInfo.SetCaption("&Read me");
+  cmdSysInfo.Move(4800, 2625, 1260, 375);
+  cmdOk.SetTabIndex(0);
+  cmdSysInfo.SetTabIndex(1);
+}
+
+void frmAbout::cmdSysInfo_Click() {
+  cmdSysInfo.SetVisible(false);
+  std::string text;
+  runtime::PassOverErrors([&] { text = services.Files.Read(services.App.Path + "\\readme.txt"); });
+  txtRead.SetText(text);
+  txtRead.SetVisible(true);
+  txtRead.ZOrder();
+}
+
+}  // namespace corvane::explorer

@@ -1,0 +1,234 @@
+// frmAddIn: the explorer, one modeless window that shows the open project as three linked views: components, procedures
+// of the chosen component, code. The views are snapshots: they were true when they were filled, and are filled again
+// when the user acts. A row carries its own line and component; the environment is asked again at each use.
+//
+// Any routine that fills a list sets `busy` first and clears it last: handlers may run during DoEvents.
+#pragma once
+
+#include <string>
+
+#include "codelist/cv_button.h"
+#include "codelist/uc_list_box.h"
+#include "explorer/add_in_object.h"
+#include "explorer/procedure_scan.h"
+#include "explorer/rows.h"
+#include "forms/controls.h"
+#include "host/services.h"
+#include "host/vbe.h"
+
+namespace corvane::explorer {
+
+class frmAddIn : public forms::Form {
+ public:
+  frmAddIn(host::Services& services, forms::Toolkit& toolkit);
+
+  host::Ref<host::VBE> VBInstance;
+  AddInObject* Connect = nullptr;
+
+  // Shows the window; when it was loaded already, pops up mnuIDE.
+  void Display();
+  // Brings the explorer to the module and the line of the active code pane. Returns whether there was one; when there
+  // is none, the project mode is chosen, with a message unless this is the first listing.
+  bool CurrentModule();
+
+  forms::ImageList imgl{*this, "imgl"};
+  forms::Toolbar tlbr{*this, "tlbr"};
+
+  // Components.
+  forms::Label Label1{*this, "Label1"};
+  codelist::CvButton axAllComp, axForms, axControls, axModules, axClasses, axLastComp;
+  forms::ComboBox lbxComp1{*this, "lbxComp1"}, lbxComp2{*this, "lbxComp2"};
+  forms::TextBox txtFind{*this, "txtFind"};
+  forms::Frame Frame1{*this, "Frame1"};
+  forms::OptionButton optFirst{Frame1, "optFirst"}, optSecond{Frame1, "optSecond"};
+
+  // Procedures.
+  forms::Label Label2{*this, "Label2"};
+  codelist::CvButton cmdPrev, cmdNext;
+  forms::ListBox lbxProc1{*this, "lbxProc1"}, lbxProc2{*this, "lbxProc2"};
+  forms::TextBox txtFproc{*this, "txtFproc"};
+  forms::Frame Frame2{*this, "Frame2"}, Frame3{*this, "Frame3"};
+  forms::OptionButton optProcAll{Frame2, "optProcAll"}, optProcSub{Frame2, "optProcSub"},
+      optProcFunc{Frame2, "optProcFunc"}, optProcProp{Frame2, "optProcProp"}, optProcEvent{Frame2, "optProcEvent"};
+  forms::OptionButton optAllProc{Frame3, "optAllProc"}, optProcPubl{Frame3, "optProcPubl"},
+      optProcPriv{Frame3, "optProcPriv"}, optProcStat{Frame3, "optProcStat"};
+
+  // Code.
+  forms::Label Label3{*this, "Label3"}, lblSub{*this, "lblSub"}, Label5{*this, "Label5"};
+  codelist::CvButton cmGo;
+  codelist::ucListBox txtCode;
+
+  // Modes, search, clip book.
+  forms::Frame Frame4{*this, "Frame4"}, Frame6{*this, "Frame6"}, Frame5{Frame6, "Frame5"};
+  forms::OptionButton optProj{Frame4, "optProj"}, optCurMod{Frame4, "optCurMod"}, optSelMod{Frame4, "optSelMod"};
+  forms::ComboBox cmbSearch{Frame6, "cmbSearch"};
+  codelist::CvButton cbSearch;
+  forms::OptionButton optFndAll{Frame6, "optFndAll"}, optFndCur{Frame6, "optFndCur"}, optFndSel{Frame6, "optFndSel"},
+      optGroup{Frame6, "optGroup"};
+  forms::CheckBox chkWhole{Frame5, "chkWhole"}, chkSub{Frame5, "chkSub"}, chkComnt{Frame5, "chkComnt"};
+  forms::CommandButton cmdMore{*this, "cmdMore"};
+  codelist::CvButton cmdColor;
+  forms::TextBox txtClip{*this, "txtClip"};
+
+  // Out of sight.
+  forms::ListBox lstSave{*this, "lstSave"};
+  forms::TextBox txtPrev{*this, "txtPrev"};
+
+  forms::Menu mnuPLB, mnuSearch, mnuSearchMod, mnuGoDesign, mnuComnt, mnuCop, mnuCopy, mnuCopyAdd, mnuCopyPLB;
+  forms::Menu mnuIDE, mnuExec, mnuIDECurrent, mnuIDEPrev, mnuIDESearch, mnuIDEDeclare, mnuIDETitle;
+
+  // The list pair in use; all logic works through these two.
+  forms::ComboBox* lbxComp = &lbxComp1;
+  forms::ListBox* lbxProc = &lbxProc1;
+
+  // procedure_index.cpp
+  void FillProcedureList(host::CodeModule& module);
+  // [number] -1 for none; it is shown only with a label of more than one character.
+  void AddProcedureRow(host::CodeModule& module, long line, const std::string& label = {}, long number = -1);
+
+  // go_to_code.cpp
+  // Position of the component that the procedure row and the code row point to, 0 if there is none; with goMode it also
+  // goes there in the environment, to the start of the procedure with toProcStart.
+  long GoToCode();
+
+  bool goMode = false, toProcStart = false;
+  std::string pendingComponent;  // name of a component to choose at the next choice
+  std::string previousPoint;     // bookmark row of the place the latest jump left; empty before the first
+
+ private:
+  // What a choice of a mode or pair remembers of each of the two list pairs.
+  static constexpr int kPairs = 2;
+
+  // frm_add_in_design.cpp
+  void Design();
+  void DesignToolbar();
+  void DesignMenus();
+  void DesignLists();
+  void DesignOptions();
+  void DesignButtons();
+  void PlaceControls();
+  void OrderTabs();
+  void ResetToDesign();
+  void ResetTexts();
+  void ResetOptions();
+  void AddFixedEntries();
+
+  // window.cpp
+  void BindEvents();
+  void BindComponentEvents();
+  void BindProcedureEvents();
+  void BindCodeEvents();
+  void Form_Load();
+  void Form_Activate();
+  void Form_Unload();
+  void Form_KeyDown(int& key, int shift);
+  void tlbr_ButtonClick(int position);
+  void Refresh();
+  void Leave();
+  void DoEvents() { services.Loop.DoEvents(); }
+  void Focus(forms::Control& control);
+
+  // resize.cpp
+  void Form_Resize();
+  void KeepMinimumSize();
+  void PlaceByWidth(forms::Twips w);
+  void PlaceByHeight();
+
+  // component_list.cpp
+  void FillComponentList();
+  void ListProject();
+  std::string BeginListing();
+  void RememberComponentRow();
+  void ListComponents(const std::string& nameFilter);
+  void AddGlobals(host::CodeModule& module, long index, std::string& text);
+  bool PassesKindFilter(host::ComponentType type) const;
+  void ChooseListedRow();
+  void ListKind(long kind);
+  void lbxComp_Click();
+  void lbxComp_GotFocus();
+  void lbxComp_KeyPress(int& key);
+  void ListActiveModule();
+  void ShowComponent(long index);
+  bool TakePendingComponent(long& index);
+  void OfferInSearch(const std::string& rowText);
+  void txtFind_KeyPress(int key);
+
+  // current_module.cpp
+  void LeaveCurrentMode();
+  void ListModuleAt(host::CodeModule& module, long caretLine);
+  void SelectRowNear(long caretLine);
+  void optProj_Click();
+  void optCurMod_Click();
+  void optSelMod_Click();
+
+  // list_pairs.cpp
+  void SwitchPair(int to);
+  void ShowPair(int pair);
+
+  // procedure_index.cpp
+  ProcedureFilter FilterInForce();
+  void AddProcedureText(const std::string& text, long line, const std::string& label = {}, long number = -1);
+  void AddRow(const std::string& text, long itemData);
+  void FilterProcedures();
+  void BindFilter(forms::OptionButton& option);
+  void optAllProc_Click();
+  void optProcEvent_Click();
+  void txtFproc_KeyPress(int key);
+  void lbxProc_DblClick();
+  void lbxProc_KeyPress(int key);
+
+  // code_view.cpp
+  void lbxProc_Click();
+  long ComponentOfRow();
+  long ComponentOfBookmark(const Bookmark& bookmark);
+  host::Ref<host::VBComponent> ComponentAt(const std::string& row, long index);
+  void ShowDeclarations(host::CodeModule& module);
+  bool ShowProcedure(host::CodeModule& module, long line);
+  void ShowBlock(host::CodeModule& module, long line);
+  void ShowCode(const std::string& text);
+  void ShowRaw(const std::string& text);
+  void txtCode_TextDone();
+  void ReloadCode(long row);
+  void cmdMore_Click();
+  void cmdColor_Click();
+  void txtCode_EscapeClicked();
+
+  // go_to_code.cpp
+  bool IsGlobalsText() const;
+  host::Ref<host::CodeModule> ModuleOfTitleAbove(long& index, long& line);
+  host::Ref<host::CodeModule> ModuleOfRow(long& index, long& line);
+  void GoTo(host::CodeModule& module, long line);
+  void RememberPreviousPoint();
+  void cmGo_Click();
+  std::string DesignerName();
+  bool OpenDesigner(const std::string& name);
+
+  host::Services& services;
+
+  bool activated = false;        // the work of the first activation has been done
+  bool loadedOnce = false;       // the window is loaded
+  bool initDone = false;         // the first listing has been tried
+  bool busy = false;             // a list is being filled: a click on one does nothing
+  bool noOptionEvent = false;    // an option is set by code: its click does nothing
+  bool noPairEvent = false;      // a pair switch or a search sets the mode options
+  bool keepFilters = false;      // a filter is clicked: a listing leaves the filters as they are
+  bool skipGlobals = false;      // a kind button lists
+  bool designerFromRow = false;  // cmGo takes the component from the procedure row
+  bool filterClicked = false;    // the mouse press under way has chosen a filter
+  bool wasMinimised = false;     // at the end of the last resize
+  long kindFilter = 0;           // 0 all, 1 forms, 2 user controls, 3 standard modules, 4 classes
+  long currentComponent = 0;     // position of the component in view
+  std::string currentText;       // component row that was selected before the list was rebuilt
+  long currentItemData = 0;
+
+  int pair = 0;
+  long pairLine[kPairs] = {};
+  bool pairProj[kPairs] = {true, true}, pairCurMod[kPairs] = {};
+
+  long textOffset = 1;     // row on which the text about to be loaded must stand
+  long savedPosition = 0;  // the same, from a history step; 0: none
+  long firstCodeRow = 1;   // row of the first real line of the text shown
+  forms::Rect codePlace;   // of the code view before it was maximised
+};
+
+}  // namespace corvane::explorer

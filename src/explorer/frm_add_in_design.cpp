@@ -1,0 +1,302 @@
+// The design of the explorer: captions, tool tips, places, menus, the order of Tab. Places are those of the smallest
+// window; what moves with its size is in resize.cpp.
+#include <vector>
+
+#include "explorer/frm_add_in.h"
+#include "explorer/set_while.h"
+#include "forms/icons.h"
+
+namespace corvane::explorer {
+
+using forms::Rect;
+using forms::ToolButton;
+using forms::ToolButtonStyle;
+
+namespace {
+
+// The buttons that act; the others belong to tools that are not there yet.
+struct ToolSpot {
+  const char *key, *tip, *icon;
+  bool drops, enabled;
+};
+constexpr ToolSpot kSeparator = {"", "", "", false, false};
+constexpr ToolSpot kTools[] = {
+    kSeparator,
+    {"Previous", "Previous CodePoint", "previous", false, false},
+    {"Next", "Next CodePoint", "next", false, false},
+    {"First", "First CodePoint", "first", false, false},
+    {"Last", "Last CodePoint", "last", false, false},
+    {"History", "CodePoint`s History", "history", true, false},
+    kSeparator,
+    {"Refresh", "Refresh", "refresh", false, true},
+    {"Favorites", "Add\\Remove Project Favorites", "favorite", true, false},
+    {"BookMarks", "Get BookMarks", "bookmark", true, false},
+    {"CloseWnd", "Close All Windows except current", "close-windows", false, false},
+    {"Find", "Searching in Designers", "search", false, false},
+    kSeparator,
+    {"Actions", "Additional Actions", "clone", true, false},
+    {"aCopy", "Copy Component Properties", "copy", false, false},
+    {"aPaste", "Paste Component Properties", "paste", false, false},
+    kSeparator,
+    {"Pen", "Quick Declare of Variables or Procedure", "pen", false, false},
+    {"Note", "Project Notes", "note", false, false},
+    {"Map", "Dependencies and Project Map", "map", false, false},
+    kSeparator,
+    {"Start", "Start Template", "start", true, false},
+    {"About", "About Developer", "about", false, true},
+    {"pImmed", "Clear Immediate window", "immediate", false, false},
+    {"pExit", "Exit from Corvane", "exit", false, true},
+};
+
+}  // namespace
+
+frmAddIn::frmAddIn(host::Services& services, forms::Toolkit& toolkit)
+    : Form(toolkit, "frmAddIn"),
+      axAllComp(*this, "axAllComp", services),
+      axForms(*this, "axForms", services),
+      axControls(*this, "axControls", services),
+      axModules(*this, "axModules", services),
+      axClasses(*this, "axClasses", services),
+      axLastComp(*this, "axLastComp", services),
+      cmdPrev(*this, "cmdPrev", services),
+      cmdNext(*this, "cmdNext", services),
+      cmGo(*this, "cmGo", services),
+      txtCode(*this, "txtCode", services),
+      cbSearch(Frame6, "cbSearch", services),
+      cmdColor(*this, "cmdColor", services),
+      mnuPLB(*this, "mnuPLB", "PLB"),
+      mnuSearch(mnuPLB, "mnuSearch", "Search Procedure"),
+      mnuSearchMod(mnuPLB, "mnuSearchMod", "Search CodeModule"),
+      mnuGoDesign(mnuPLB, "mnuGoDesign", "Goto Designer"),
+      mnuComnt(mnuPLB, "mnuComnt", "Comment Procedure"),
+      mnuCop(mnuPLB, "mnuCop", "Copy into ClipBoard"),
+      mnuCopy(mnuCop, "mnuCopy", "Copy Procedure"),
+      mnuCopyAdd(mnuCop, "mnuCopyAdd", "Add Procedure"),
+      mnuCopyPLB(mnuCop, "mnuCopyPLB", "Copy whole PLB"),
+      mnuIDE(*this, "mnuIDE", "IDE"),
+      mnuExec(mnuIDE, "mnuExec", "&Exec Template"),
+      mnuIDECurrent(mnuIDE, "mnuIDECurrent", "&Current Code"),
+      mnuIDEPrev(mnuIDE, "mnuIDEPrev", "&Back to previous line"),
+      mnuIDESearch(mnuIDE, "mnuIDESearch", "&Search current word"),
+      mnuIDEDeclare(mnuIDE, "mnuIDEDeclare", "&Declare variable"),
+      mnuIDETitle(mnuIDE, "mnuIDETitle", "Project &Title"),
+      services(services) {
+  Design();
+  ResetToDesign();
+  BindEvents();
+}
+
+void frmAddIn::Design() {
+  SetIcon(forms::Icon("corvane"));
+  SetKeyPreview(true);
+  DesignToolbar();
+  DesignMenus();
+  DesignLists();
+  DesignOptions();
+  DesignButtons();
+  Label1.SetCaption("Components");
+  Label2.SetCaption("Procedures and Declarations");
+  Label3.SetCaption("Code View");
+  OrderTabs();
+}
+
+void frmAddIn::DesignToolbar() {
+  tlbr.SetImageList(&imgl);
+  for (const ToolSpot& spot : kTools) {
+    ToolButton button;
+    if (*spot.key == '\0') {
+      button.Style = ToolButtonStyle::Separator;
+    } else {
+      button.Key = spot.key;
+      button.ToolTipText = spot.tip;
+      button.Style = spot.drops ? ToolButtonStyle::DropDown : ToolButtonStyle::Default;
+      button.Image = imgl.Add(forms::Icon(spot.icon));
+      button.Enabled = spot.enabled;
+    }
+    tlbr.Add(button);
+  }
+}
+
+void frmAddIn::AddFixedEntries() {
+  tlbr.SetButtonMenus(tlbr.PositionOf("Favorites"), {{"", "Show Favorites"},
+                                                     {"", "Add \\ Remove current CodeLine into Favorites List"},
+                                                     {"", "Show Favorites Designers"},
+                                                     {"", "Add current Designer into Favorites List"}});
+  tlbr.SetButtonMenus(tlbr.PositionOf("BookMarks"),
+                      {{"", "Get BookMarks List"}, {"", "Put current CodeLine into BookMarks List"}});
+  tlbr.SetButtonMenus(tlbr.PositionOf("Actions"), {{"", "Clone current Component"}, {"", "Weaver WorkShop"}});
+}
+
+void frmAddIn::DesignMenus() {
+  mnuPLB.SetVisible(false);
+  mnuIDE.SetVisible(false);
+  for (forms::Menu* menu : {&mnuSearch, &mnuSearchMod, &mnuGoDesign, &mnuComnt, &mnuCopy, &mnuCopyAdd, &mnuCopyPLB,
+                            &mnuExec, &mnuIDEPrev, &mnuIDEDeclare, &mnuIDETitle})
+    menu->SetEnabled(false);
+}
+
+void frmAddIn::DesignLists() {
+  for (forms::ComboBox* list : {&lbxComp1, &lbxComp2}) {
+    list->SetSorted(true);
+    list->SetToolTipText("All Components ComboBox");
+  }
+  for (forms::ListBox* list : {&lbxProc1, &lbxProc2}) list->SetSorted(true);
+  txtFind.SetToolTipText("Components Filter");
+  txtFproc.SetToolTipText("Procedures Filter");
+  cmbSearch.SetToolTipText("Type or select string for Search");
+  txtClip.SetToolTipText("ClipBook Window");
+  txtClip.SetMultiLine(true);
+  txtClip.SetScrollBars(2);
+  lstSave.SetVisible(false);
+  txtPrev.SetVisible(false);
+  txtCode.sGrid("VB");
+}
+
+void frmAddIn::DesignOptions() {
+  const struct {
+    forms::Button& control;
+    const char *caption, *tip;
+  } kOptions[] = {
+      {optFirst, "First PLB", "First list of Code Links"},
+      {optSecond, "Second PLB", "Second list of Code Links"},
+      {optProcAll, "All entries", "Shows all Procedures"},
+      {optProcSub, "Subs", "Shows only Subs"},
+      {optProcFunc, "Functions", "Shows only Functions"},
+      {optProcProp, "Properties", "Shows only Properties"},
+      {optProcEvent, "Events", "Shows CodeModule Events"},
+      {optAllProc, "All", "Shows All procedures"},
+      {optProcPubl, "Public", "Shows only Public Procedures"},
+      {optProcPriv, "Private", "Shows only Private Procedures"},
+      {optProcStat, "Static", "Shows only Static Procedures"},
+      {optProj, "Project", "Selects All Project Components"},
+      {optCurMod, "Current Code", "Selects current CodeModule"},
+      {optSelMod, "Selected", "Trigger selected component in PLB"},
+      {optFndAll, "Whole Project", ""},
+      {optFndCur, "Current Module", "Current CodeModule in Visual Basic"},
+      {optFndSel, "Selected Module", "Current CodeModule in Corvane"},
+      {optGroup, "Project group", ""},
+      {chkWhole, "Whole Word", "Check whole/not whole  word"},
+      {chkSub, "Subs", "Check only Subs or Functions"},
+      {chkComnt, "With comments", "Check strings with comments"},
+      {cmdMore, "Max", "Maximize \\ Minimize Code Window"},
+  };
+  for (const auto& option : kOptions) {
+    option.control.SetCaption(option.caption);
+    option.control.SetToolTipText(option.tip);
+  }
+  for (forms::Frame* frame : {&Frame1, &Frame2, &Frame3, &Frame5}) frame->SetBorderStyle(0);
+  Frame3.SetToolTipText("Procedures visibility selector");
+  Frame4.SetToolTipText("All Project \\ Current CodeModule Selector");
+}
+
+void frmAddIn::DesignButtons() {
+  const struct {
+    codelist::CvButton& control;
+    const char *caption, *icon;
+    bool enabled;
+  } kButtons[] = {
+      {axAllComp, "All Comp.", "all", true},
+      {axForms, "Forms", "forms", true},
+      {axControls, "Controls", "controls", true},
+      {axClasses, "Classes", "classes", true},
+      {axModules, "", "modules", true},
+      {axLastComp, "", "favorite", false},
+      {cmdPrev, "", "previous", false},
+      {cmdNext, "", "next", false},
+      {cmGo, "", "go-designer", true},
+      {cmdColor, "Off", "color", true},
+      {cbSearch, "Search", "search", false},
+  };
+  for (const auto& button : kButtons) {
+    button.control.SetCaption(button.caption);
+    button.control.SetPicture(forms::Icon(button.icon));
+    button.control.SetEnabled(button.enabled);
+    button.control.SetBorderStyle(1);
+  }
+}
+
+// Columns and rows of one grid: 75 twips of margin, the right edge of the code view for all rows.
+void frmAddIn::PlaceControls() {
+  const struct {
+    forms::Control& control;
+    Rect place;
+  } kPlaces[] = {
+      {tlbr, {0, 0, 10410, 420}},           {Label1, {75, 570, 1125, 195}},       {axAllComp, {1275, 495, 1350, 330}},
+      {axForms, {2670, 495, 1080, 330}},    {axControls, {3795, 495, 1230, 330}}, {axClasses, {5070, 495, 1200, 330}},
+      {axModules, {6315, 495, 345, 330}},   {axLastComp, {6705, 495, 345, 330}},  {Frame1, {7140, 495, 3205, 330}},
+      {optFirst, {0, 30, 1500, 270}},       {optSecond, {1605, 30, 1600, 270}},   {lbxComp1, {75, 900, 6975, 315}},
+      {lbxComp2, {75, 900, 6975, 315}},     {txtFind, {7140, 900, 3205, 315}},    {Label2, {75, 1365, 3000, 195}},
+      {cmdPrev, {9615, 1275, 345, 330}},    {cmdNext, {10000, 1275, 345, 330}},   {lbxProc1, {75, 1635, 10270, 1275}},
+      {lbxProc2, {75, 1635, 10270, 1275}},  {txtFproc, {75, 2970, 1725, 315}},    {Frame2, {1920, 2970, 5160, 315}},
+      {optProcAll, {0, 30, 1290, 255}},     {optProcSub, {1290, 30, 765, 255}},   {optProcFunc, {2055, 30, 1110, 255}},
+      {optProcProp, {3165, 30, 1155, 255}}, {optProcEvent, {4320, 30, 840, 255}}, {Frame3, {7140, 2970, 3205, 315}},
+      {optAllProc, {0, 30, 585, 255}},      {optProcPubl, {585, 30, 840, 255}},   {optProcPriv, {1425, 30, 915, 255}},
+      {optProcStat, {2340, 30, 865, 255}},  {Label3, {75, 3420, 1125, 195}},      {lblSub, {1275, 3420, 5700, 195}},
+      {Label5, {7140, 3420, 2760, 195}},    {cmGo, {10000, 3345, 345, 330}},      {txtCode, {75, 3705, 10270, 2870}},
+      {Frame4, {75, 6635, 1500, 1215}},     {optProj, {120, 150, 1320, 255}},     {optCurMod, {120, 480, 1320, 255}},
+      {optSelMod, {120, 810, 1320, 255}},   {Frame6, {1650, 6635, 6075, 1215}},   {cmbSearch, {120, 135, 4425, 315}},
+      {cbSearch, {4620, 135, 1350, 315}},   {optFndAll, {120, 525, 1395, 255}},   {optFndCur, {1530, 525, 1485, 255}},
+      {optFndSel, {3030, 525, 1560, 255}},  {optGroup, {4605, 525, 1365, 255}},   {Frame5, {120, 840, 5850, 285}},
+      {chkWhole, {0, 15, 1395, 255}},       {chkSub, {1410, 15, 1485, 255}},      {chkComnt, {2910, 15, 1560, 255}},
+      {cmdMore, {7800, 6725, 750, 345}},    {cmdColor, {7800, 7135, 750, 345}},   {txtClip, {8625, 6725, 1720, 1090}},
+      {lstSave, {75, 1635, 1215, 495}},     {txtPrev, {75, 1635, 1215, 315}},
+  };
+  for (const auto& spot : kPlaces)
+    spot.control.Move(spot.place.left, spot.place.top, spot.place.width, spot.place.height);
+}
+
+// Components, then their filter, procedures, then their filters, code, then what stands below it.
+void frmAddIn::OrderTabs() {
+  const std::vector<forms::Control*> kOrder = {
+      &lbxComp1,   &lbxComp2,    &txtFind,     &Frame1,      &optFirst,    &optSecond,   &lbxProc1,     &lbxProc2,
+      &txtFproc,   &Frame2,      &optProcAll,  &optProcSub,  &optProcFunc, &optProcProp, &optProcEvent, &Frame3,
+      &optAllProc, &optProcPubl, &optProcPriv, &optProcStat, &txtCode,     &Frame4,      &optProj,      &optCurMod,
+      &optSelMod,  &Frame6,      &cmbSearch,   &optFndAll,   &optFndCur,   &optFndSel,   &optGroup,     &Frame5,
+      &chkWhole,   &chkSub,      &chkComnt,    &cmdMore,     &txtClip};
+  int index = 0;
+  for (forms::Control* control : kOrder) control->SetTabIndex(index++);
+}
+
+// A window that is loaded again comes up as it was designed.
+void frmAddIn::ResetToDesign() {
+  SetWhile noFills(busy);
+  SetWhile noPairs(noPairEvent);
+  lbxComp = &lbxComp1;
+  lbxProc = &lbxProc1;
+  pair = 0;
+  initDone = keepFilters = skipGlobals = goMode = toProcStart = designerFromRow = wasMinimised = false;
+  SetCaption("Corvane V 1.0");
+  Move(Left(), Top(), 10800, 9600);
+  PlaceControls();
+  ResetTexts();
+  ResetOptions();
+}
+
+void frmAddIn::ResetTexts() {
+  for (forms::ComboBox* list : {&lbxComp1, &lbxComp2}) {
+    list->Clear();
+    list->SetText("Declarations");
+  }
+  for (forms::ListBox* list : {&lbxProc1, &lbxProc2, &lstSave}) list->Clear();
+  for (forms::TextBox* box : {&txtFind, &txtFproc, &txtClip}) box->SetText("");
+  txtPrev.SetText("Text1");
+  lblSub.SetCaption("");
+  Label5.SetCaption("");
+  txtCode.Clear();
+  txtCode.ColorOff = false;
+  cmdColor.SetCaption("Off");
+  cmdMore.SetCaption("Max");
+}
+
+void frmAddIn::ResetOptions() {
+  for (forms::OptionButton* option : {&optFirst, &optProcAll, &optAllProc, &optProj, &optFndAll})
+    option->SetValue(true);
+  for (forms::CheckBox* box : {&chkWhole, &chkSub, &chkComnt}) box->SetValue(forms::vbUnchecked);
+  for (forms::Control* first : {static_cast<forms::Control*>(&lbxComp1), static_cast<forms::Control*>(&lbxProc1),
+                                static_cast<forms::Control*>(&txtCode), static_cast<forms::Control*>(&cmGo)})
+    first->SetVisible(true);
+  lbxComp2.SetVisible(false);
+  lbxProc2.SetVisible(false);
+}
+
+}  // namespace corvane::explorer

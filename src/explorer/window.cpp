@@ -1,0 +1,186 @@
+// The window itself: loading, activation, unloading, keys, the toolbar.
+#include "explorer/frm_about.h"
+#include "explorer/frm_add_in.h"
+#include "explorer/project_access.h"
+#include "runtime/strings.h"
+
+namespace corvane::explorer {
+
+using namespace runtime;
+
+namespace {
+
+constexpr long kShortestHelpPath = 12;
+constexpr char kFirstSearchEntry[] = "Project Title";
+constexpr forms::Twips kMenuX = 3500, kMenuY = 2000;
+
+}  // namespace
+
+void frmAddIn::Display() {
+  bool wasLoaded = loadedOnce;
+  Show();
+  DoEvents();
+  if (wasLoaded) PopupMenu(mnuIDE, kMenuX, kMenuY);
+}
+
+void frmAddIn::BindEvents() {
+  Load = [this] { Form_Load(); };
+  Activate = [this] { Form_Activate(); };
+  Resize = [this] { Form_Resize(); };
+  UnloadEvent = [this](bool&) { Form_Unload(); };
+  KeyDown = [this](int& key, int shift) { Form_KeyDown(key, shift); };
+  tlbr.ButtonClick = [this](int position) { tlbr_ButtonClick(position); };
+  mnuIDECurrent.Click = [this] { optCurMod_Click(); };
+  mnuIDESearch.Click = [this] {
+    cmbSearch.SetText(CurrentWord(VBInstance));
+    Focus(cmbSearch);
+  };
+  BindComponentEvents();
+  BindProcedureEvents();
+  BindCodeEvents();
+}
+
+void frmAddIn::BindComponentEvents() {
+  for (forms::ComboBox* list : {&lbxComp1, &lbxComp2}) {
+    list->Click = [this] { lbxComp_Click(); };
+    list->GotFocus = [this] { lbxComp_GotFocus(); };
+    list->KeyPress = [this](int& key) { lbxComp_KeyPress(key); };
+  }
+  axAllComp.Click = [this] { ListKind(0); };
+  axForms.Click = [this] { ListKind(1); };
+  axControls.Click = [this] { ListKind(2); };
+  axModules.Click = [this] { ListKind(3); };
+  axClasses.Click = [this] { ListKind(4); };
+  txtFind.KeyPress = [this](int& key) { txtFind_KeyPress(key); };
+  optProj.Click = [this] { optProj_Click(); };
+  optCurMod.Click = [this] { optCurMod_Click(); };
+  optSelMod.Click = [this] { optSelMod_Click(); };
+  optFirst.Click = [this] { SwitchPair(0); };
+  optSecond.Click = [this] { SwitchPair(1); };
+}
+
+void frmAddIn::BindProcedureEvents() {
+  for (forms::ListBox* list : {&lbxProc1, &lbxProc2}) {
+    list->Click = [this] { lbxProc_Click(); };
+    list->DblClick = [this] { lbxProc_DblClick(); };
+    list->KeyPress = [this](int& key) { lbxProc_KeyPress(key); };
+  }
+  for (forms::OptionButton* option : {&optProcAll, &optProcSub, &optProcFunc, &optProcProp, &optProcEvent, &optAllProc,
+                                      &optProcPubl, &optProcPriv, &optProcStat})
+    BindFilter(*option);
+  txtFproc.KeyPress = [this](int& key) { txtFproc_KeyPress(key); };
+}
+
+void frmAddIn::BindCodeEvents() {
+  txtCode.TextDone = [this] { txtCode_TextDone(); };
+  txtCode.DblClick = [this] {
+    goMode = true;
+    GoToCode();
+  };
+  txtCode.ColorOnOff = [this](long row) { ReloadCode(row); };
+  txtCode.ClipBook = [this] { txtClip.SetText(services.Clipboard.GetText()); };
+  txtCode.EscapeClicked = [this] { txtCode_EscapeClicked(); };
+  cmGo.Click = [this] { cmGo_Click(); };
+  cmdMore.Click = [this] { cmdMore_Click(); };
+  cmdColor.Click = [this] { cmdColor_Click(); };
+}
+
+void frmAddIn::Form_Load() {
+  ResetToDesign();
+  Move(200, 200);
+  cmbSearch.Clear();
+  cmbSearch.AddItem(kFirstSearchEntry);
+  cmbSearch.SetText(CurrentWord(VBInstance));
+  for (int i = 0; i < kPairs; ++i) {
+    pairLine[i] = 0;
+    pairProj[i] = true;
+    pairCurMod[i] = false;
+  }
+  loadedOnce = true;
+  kindFilter = 0;
+  std::string& help = services.App.HelpFile;
+  if (Len(help) < kShortestHelpPath) help = services.App.Path + "\\" + help;
+}
+
+void frmAddIn::Form_Activate() {
+  if (activated) return;
+  activated = true;
+  lstSave.Clear();
+  cmdPrev.SetEnabled(false);
+  cmdNext.SetEnabled(false);
+  lbxProc = &lbxProc1;
+  lbxComp = &lbxComp1;
+  lbxComp2.Move(lbxComp1.Left(), lbxComp1.Top(), lbxComp1.Width(), lbxComp2.Height());
+  lbxProc2.Move(lbxProc1.Left(), lbxProc1.Top(), lbxProc1.Width(), lbxProc1.Height());
+  tlbr.SetButtonEnabled(2, false);
+  tlbr.SetButtonEnabled(3, false);
+  AddFixedEntries();
+  initDone = false;
+  FillComponentList();
+}
+
+void frmAddIn::Form_Unload() {
+  activated = false;
+  loadedOnce = false;
+}
+
+// The buttons of the surface take no focus: these keys stand for them.
+void frmAddIn::Form_KeyDown(int& key, int shift) {
+  using namespace forms;
+  const struct {
+    int key, shift;
+    void (*act)(frmAddIn&);
+  } kKeys[] = {
+      {vbKey0 + 1, vbAltMask, [](frmAddIn& form) { form.ListKind(0); }},
+      {vbKey0 + 2, vbAltMask, [](frmAddIn& form) { form.ListKind(1); }},
+      {vbKey0 + 3, vbAltMask, [](frmAddIn& form) { form.ListKind(2); }},
+      {vbKey0 + 4, vbAltMask, [](frmAddIn& form) { form.ListKind(4); }},
+      {vbKey0 + 5, vbAltMask, [](frmAddIn& form) { form.ListKind(3); }},
+      {vbKeyF5, 0, [](frmAddIn& form) { form.Refresh(); }},
+      {vbKeyF1 + 6, 0, [](frmAddIn& form) { form.txtCode.DblClick(); }},
+      {vbKeyF1 + 6, vbShiftMask, [](frmAddIn& form) { form.cmGo_Click(); }},
+      {vbKeyF1 + 10, 0, [](frmAddIn& form) { form.cmdMore_Click(); }},
+      {vbKeyF1 + 10, vbShiftMask, [](frmAddIn& form) { form.cmdColor_Click(); }},
+  };
+  for (const auto& entry : kKeys)
+    if (key == entry.key && shift == entry.shift) {
+      key = 0;
+      return entry.act(*this);
+    }
+}
+
+void frmAddIn::tlbr_ButtonClick(int position) {
+  const std::string key = tlbr.Button(position).Key;
+  if (key == "Refresh") Refresh();
+  if (key == "About") {
+    frmAbout about(services, Toolkit());
+    about.ShowModal();
+  }
+  if (key == "pExit") {
+    Unload();
+    activated = false;
+    return;
+  }
+  services.Screen.SetMousePointer(host::vbDefault);
+}
+
+// Lists the project anew: choosing the mode does it, or, where it is chosen already, its handler is run.
+void frmAddIn::Refresh() {
+  busy = false;
+  if (optProj.Value())
+    optProj_Click();
+  else
+    optProj.SetValue(true);
+}
+
+void frmAddIn::Leave() {
+  SetVisible(false);
+  Object(Object(VBInstance).MainWindow()).SetFocus();
+}
+
+// A control cannot take the focus while it or the window is hidden; that ends nothing.
+void frmAddIn::Focus(forms::Control& control) {
+  PassOverErrors([&] { control.SetFocus(); });
+}
+
+}  // namespace corvane::explorer
