@@ -38,7 +38,7 @@ struct ToolButton {
   ToolButtonStyle Style = ToolButtonStyle::Default;
   int Image = 0;  // position in the image list, 0 for none
   bool Enabled = true, Visible = true, Pressed = false;
-  std::vector<ButtonMenu> ButtonMenus;  // of a drop-down
+  std::vector<ButtonMenu> ButtonMenus = {};  // of a drop-down
 };
 
 class Toolbar : public Control {
