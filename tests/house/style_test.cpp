@@ -1,0 +1,95 @@
+// What every source file keeps to, so that no review has to say it.
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <map>
+#include <regex>
+
+#include "tests/house/tree.h"
+
+namespace corvane::house {
+namespace {
+
+// Files that are one table, or one thing that reads better whole, and why.
+const std::map<std::string, const char*> kMayBeLong = {
+    {"src/environment/control_class_tables.cpp", "the design-time properties of every control, one row each"},
+};
+
+std::vector<SourceText> All() {
+  auto all = Sources("src");
+  for (const char* folder : {"tests", "bench"})
+    for (auto& source : Sources(folder)) all.push_back(std::move(source));
+  return all;
+}
+
+TEST(Style, AFileIsOneIdea) {
+  for (const auto& source : Sources("src")) {
+    if (kMayBeLong.contains(source.path)) continue;
+    const size_t limit = source.IsHeader() ? 250 : 600;
+    EXPECT_LE(Lines(source.text).size(), limit) << source.path << " has grown: split it, or say above why it is long";
+  }
+}
+
+TEST(Style, FilesThatMayBeLongAreThereAndAreLong) {
+  for (const auto& [path, reason] : kMayBeLong) {
+    if (!Exists(path)) continue;
+    EXPECT_GT(Lines(ReadText(path)).size(), 250u) << path << " needs no exception any more (" << reason << ")";
+  }
+}
+
+TEST(Style, AHeaderIsGuardedAndSaysWhatItIs) {
+  for (const auto& source : All()) {
+    if (!source.IsHeader()) continue;
+    EXPECT_NE(source.text.find("// "), std::string::npos) << source.path << ": say what the header is";
+    EXPECT_NE(source.text.find("#pragma once\n"), std::string::npos) << source.path;
+    EXPECT_EQ(WithoutComments(source.text).find("#define"), std::string::npos) << source.path << ": no macros";
+    EXPECT_EQ(WithoutComments(source.text).find("using namespace"), std::string::npos) << source.path;
+  }
+}
+
+TEST(Style, TheNamespaceIsTheFolder) {
+  for (const auto& source : Sources("src")) {
+    const std::string space = "namespace corvane::" + source.room;
+    if (!source.IsHeader()) continue;
+    EXPECT_NE(source.text.find(space), std::string::npos) << source.path;
+  }
+}
+
+TEST(Style, ASourceIncludesItsOwnHeaderFirst) {
+  for (const auto& source : Sources("src")) {
+    if (source.IsHeader()) continue;
+    const std::string own = source.path.substr(4, source.path.size() - 4 - 4) + ".h";
+    if (!Exists("src/" + own)) continue;
+    const auto includes = OwnIncludes(source.text);
+    ASSERT_FALSE(includes.empty()) << source.path;
+    EXPECT_EQ(includes.front().second, own) << source.path;
+  }
+}
+
+TEST(Style, NothingIsLeftForLater) {
+  // Put together, so that this file does not accuse itself.
+  const std::regex note(std::string(R"(\b(TO)") + "DO|FIX" + "ME|X" + R"(XX|HA)" + R"(CK)\b)");
+  auto paths = FilesBelow("src", {".h", ".cpp", ".txt", ".md"});
+  for (const char* folder : {"tests", "bench", "docs", "scripts", "cmake", "packaging"})
+    for (auto& path : FilesBelow(folder, {""})) paths.push_back(std::move(path));
+  for (const char* file : {"README.md", "ARCHITECTURE.md", "CONTRIBUTING.md", "CMakeLists.txt", "Makefile"})
+    paths.push_back(file);
+  for (const auto& path : paths) {
+    if (path.ends_with(".png")) continue;
+    int number = 0;
+    for (const auto& line : Lines(ReadText(path))) {
+      ++number;
+      EXPECT_FALSE(std::regex_search(line, note)) << path << ":" << number << ": " << line;
+    }
+  }
+}
+
+TEST(Style, ATestSuiteLivesInTheFolderOfItsRoom) {
+  const auto rooms = Folders("src");
+  for (const auto& folder : Folders("tests")) {
+    if (folder == "house" || folder == "samples" || folder == "fuzz" || folder == "support") continue;
+    EXPECT_NE(std::find(rooms.begin(), rooms.end(), folder), rooms.end()) << "tests/" << folder;
+  }
+}
+
+}  // namespace
+}  // namespace corvane::house
