@@ -70,7 +70,7 @@ TEST(Samples, TheStockroomUsesEveryBlockOfTheLanguage) {
       R"(\n\s*ElseIf )",
       R"(\n\s*Case Else)",
       R"(Then \w+.* Else )",
-      R"(\n\s*GoSub )",
+      R"(\n[\d\s]*GoSub )",
       R"(\n\d+ )",
       R"(On Error Resume Next)",
       R"(On Error GoTo \w+)",
