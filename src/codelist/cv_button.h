@@ -39,7 +39,7 @@ class CvButton : public forms::UserControl {
   forms::Event<const std::string&> PropertyChanged;  // name of the property that was written
 
   forms::PictureBox pic{*this, "pic"};
-  forms::Image img{*this, "img"};
+  forms::Image img{pic, "img"};
   forms::Timer tmr{*this, "tmr"};
 
  protected:
@@ -51,7 +51,6 @@ class CvButton : public forms::UserControl {
   void Press();
   void Hover();
   void tmr_Timer();
-  void ShowToolTip(const std::string& value);
 
   host::Services& services;
   std::string caption;

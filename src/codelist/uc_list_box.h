@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -28,6 +29,13 @@ using forms::Twips;
 
 // What sGrid chooses: 0 is also the value of a control that was given no sGrid yet.
 enum ListMode : long { kTreeList = 0, kVbList = 1, kGridList = 2, kSqlList = 3, kTextList = 4 };
+
+// As a background: no highlight. Any other colour marks the current line.
+inline constexpr Color kPlain = 0xFFFFFF;
+inline constexpr Color kHighlightOfCurrent = forms::RGB(160, 255, 220);
+
+inline constexpr long kColumnsOfLevel = 12;  // indent of a tree entry, in blanks
+inline constexpr Twips kTreeBoxWidth = 150;
 
 // Values of ListRole.
 enum ListRoleValue : long { kCodeView = 0, kScriptTree = 1, kSourcePane = 2 };
@@ -127,12 +135,18 @@ class ucListBox : public forms::UserControl {
   void OnResize() override;
 
  private:
+  // uc_list_box.cpp
+  void BindEvents();
+  void Layout();
+  void FocusChanged(bool gained);
+  bool SelectionIsLocked() const { return LockSelection && listMode == kTreeList; }
+
   // list_text.cpp
   void AddLine(std::string_view text);
   void AppendLine(std::string_view text, Color colour);
   void StoreReplaced(std::string_view text);
   void CarryLevelOn(long index, long difference);
-  bool LoadLines();
+  bool LoadLines(std::string_view text);
   bool LoadLine(std::string_view line);
   void EndLoad();
   void SetRangeOfVs();
@@ -140,30 +154,34 @@ class ucListBox : public forms::UserControl {
   // painter.cpp
   void ClearPane();
   void PaintLineAt(long row, long index, Color colour);
+  void PaintRowsBehindLast();
   void PaintLine(Twips x, Twips y, long index, Color colour);
-  void PaintBackground(Twips x, Twips y, long index, Color colour);
-  void PaintGutter(Twips x, Twips y);
-  void PaintText(Twips x, Twips y, long index);
   void CountLevel(long index);
+  void PaintGutter(Twips x, Twips y);
+  void PaintBackground(Twips x, Twips y, long index, Color colour);
+  void PaintText(Twips x, Twips y, long index);
   Twips PaintSegment(Twips x, Twips y, std::string_view text, bool measured);
+  size_t CommentIn(std::string_view text) const;
   Twips PaintSplit(Twips x, Twips y, std::string_view front, std::string_view behind, bool bold, bool measured);
   Twips PrintEmphasized(Twips x, Twips y, std::string_view text, Color colour);
   Twips Print(Twips x, Twips y, std::string_view text, bool measured);
   void PaintGroupPicture(Twips x, Twips y, std::string_view text);
-  void PaintTreeEntry(Twips x, Twips y, long index, std::string_view text, long level, size_t skip);
-  void PaintTreeBox(Twips x, Twips y, bool closed);
-  void PaintGrid(Twips x, Twips y, long index, std::string_view text);
-  void PaintRows(Color colour);
   forms::PictureRef PictureNamed(std::string_view name) const;
+  void PaintTreeEntry(Twips x, Twips y, long index, std::string_view text, long level, size_t skip);
+  Twips TreeBoxOffset(long indent);
+  void PaintTreeBox(Twips x, Twips y, bool closed);
+  void PaintGrid(Twips x, Twips y, std::string_view text);
   Twips WidthOf(std::string_view text);
   Twips RowTop(long row) const;
-  void Layout();
 
   // scrolling.cpp
   long NextVisible(long index) const;
   long PrevVisible(long index) const;
+  void SetBar(forms::ScrollBar& bar, long value);
+  void FireClick();
   void Repaint();
   void RepaintCurrent(Color colour);
+  void PaintRows();
   void LineUp();
   void LineDown();
   void ScrollUpOne();
@@ -173,58 +191,68 @@ class ucListBox : public forms::UserControl {
   void PageTo(long index);
   void GoFirst();
   void GoLast();
-  void ScrollTo(long value);
   long LineToward(long line, bool down) const;
-  void SetBar(forms::ScrollBar& bar, long value);
-  void FireClick();
+  void vs_Change();
+  void StandOnRow(long row);
 
   // selection.cpp
-  void BindEvents();
-  void pic_MouseDown(int button, Twips x, Twips y);
-  void pic_MouseMove(int button, int shift, Twips x, Twips y);
-  void DragTo(int button, Twips y);
-  bool DragStep(bool down);
-  void pic_MouseUp(Twips x, Twips y);
-  void pic_Click();
-  void pic_KeyDown(int& key, int shift);
-  void pic_KeyPress(int& key);
-  void tmr_Timer();
   long RowAt(Twips y) const;
   long LineOnRow(long row) const;
   bool MoveToRow(long row);
+  void FlipSelected();
+  void pic_MouseDown(int button, Twips x, Twips y);
+  void pic_MouseMove(int button, int shift, Twips x, Twips y);
+  void DragTo(Twips y);
+  bool DragStep(bool down);
+  void tmr_Timer();
+  void pic_MouseUp(int button, Twips x, Twips y);
+  void EndDrag();
+  void pic_Click();
   void ToggleBranch(long index);
+  void pic_KeyDown(int& key, int shift);
+  void pic_KeyPress(int& key);
 
   // edit_box.cpp, quick_list.cpp
-  void txtEdit_KeyDown(int& key);
-  void txtEdit_KeyPress(int& key);
   void RaiseUpdate();
   void CloseEdit();
-  void lbx_Click();
+  void txtEdit_KeyDown(int& key);
+  void txtEdit_KeyPress(int& key);
   void PlaceQuickList();
+  void HideQuickList();
+  void lbx_Click();
   void lbx_LostFocus();
+  void lbx_KeyPress(int key);
+
+  // Finds a text by a view of it.
+  struct TextHash : std::hash<std::string_view> {
+    using is_transparent = void;
+  };
 
   host::Services& services;
   LineStore store;
   AnalysisState analysis;
   LineBuffer buffer;
+  forms::PictureRef img, img1, img2;  // in the gutter of the current line, and of the script tree
 
   std::string sGridText, pendingText, clipBook, colorCaption = "Set Color analyze Off";
   long listMode = kTreeList;
   bool treeMode = false, loading = false, allProcText = false, formatting = false;
+  long clears = 0;  // how often the list was cleared
   long runningLevel = BaseLevel;
   long replaceIndex = 0, topLine = 0, currentLine = 0, currentRow = 0, previousLine = 0;
   long visibleRows = 0, firstColumn = 0;
-  Color highlightColor;
-  Twips rowHeight = 0, gutterWidth = 0, paneWidth = 0, curX = 0, curY = 0;
-  bool scrollGuard = false, noRefresh = false, noHighlight = false, hasFocus = false, quickListBusy = false;
-  bool placing = false;
-  // The drag of a selection.
+  Color highlightColor = kHighlightOfCurrent;
+  Twips rowHeight = 0, gutterWidth = 0, paneWidth = 0;
+  Twips curX = 0, curY = 0;  // where the next line is drawn
+  bool scrollGuard = false, noRefresh = false, hasFocus = false, quickListBusy = false, placing = false;
+
+  // The drag of a selection: row and line of its last step, direction of that and of the scrolling outside the surface.
   bool dragging = false;
-  long dragRow = 0, dragLine = 0, dragDirection = 0;
+  long dragRow = 0, dragLine = 0, dragDirection = 0, scrollDirection = 0;
   uint32_t pressTick = 0;
   Twips mouseX = 0, mouseY = 0;
-  forms::PictureRef img, img1, img2;
-  std::unordered_map<std::string, Twips> widths;  // of texts in the font of the surface
+
+  std::unordered_map<std::string, Twips, TextHash, std::equal_to<>> widths;  // of texts in the font of the surface
 };
 
 }  // namespace corvane::codelist

@@ -1,0 +1,51 @@
+// The box along the bottom in which one line is edited in place. What is left without Enter or an arrow key is dropped.
+#include "codelist/uc_list_box.h"
+
+namespace corvane::codelist {
+
+void ucListBox::EditCodeline() {
+  if (!store.Has(currentLine)) return;
+  txtEdit.SetText(List(currentLine));
+  const Twips rows = static_cast<Twips>(visibleRows - 1) * rowHeight;
+  txtEdit.Move(gutterWidth + 20, std::max<Twips>(0, rows - hs.Height() - 20),
+               std::max<Twips>(0, pic.ScaleWidth() - gutterWidth - 30), std::max<Twips>(0, pic.ScaleHeight() - rows));
+  txtEdit.SetVisible(true);
+  txtEdit.ZOrder();
+  runtime::PassOverErrors([this] { txtEdit.SetFocus(); });
+}
+
+// The container writes the line and calls ReplaceItem.
+void ucListBox::RaiseUpdate() {
+  if (txtEdit.Text() != List(currentLine)) UpdateString(currentLine, txtEdit.Text());
+}
+
+void ucListBox::CloseEdit() {
+  txtEdit.SetText("");
+  txtEdit.SetVisible(false);
+}
+
+void ucListBox::txtEdit_KeyDown(int& key) {
+  const bool up = key == forms::vbKeyUp;
+  if (!up && key != forms::vbKeyDown) return;
+  key = 0;
+  RaiseUpdate();
+  if (up)
+    LineUp();
+  else
+    LineDown();
+  txtEdit.SetText(List(currentLine));
+  if (!up && currentLine - topLine >= visibleRows) ScrollDownOne();
+}
+
+void ucListBox::txtEdit_KeyPress(int& key) {
+  if (key == forms::vbKeyReturn) {
+    key = 0;
+    RaiseUpdate();
+    runtime::PassOverErrors([this] { pic.SetFocus(); });
+  } else if (key == forms::vbKeyEscape) {
+    key = 0;
+    CloseEdit();
+  }
+}
+
+}  // namespace corvane::codelist

@@ -1,0 +1,281 @@
+// How a line becomes pixels: its background and gutter, the runs between its level marks, tree entries and grid cells.
+// Before the text of a line stands one blank that the stored line does not have.
+#include <algorithm>
+#include <cmath>
+
+#include "codelist/uc_list_box.h"
+#include "runtime/strings.h"
+
+namespace corvane::codelist {
+
+using forms::RGB;
+using runtime::Space;
+
+namespace {
+
+constexpr Color kGutter = forms::k3DLight, kRule = RGB(0, 0, 0);
+constexpr Color kSelectedBack = RGB(192, 192, 192), kSelectedCurrentBack = RGB(128, 128, 128);
+constexpr Color kCurrentWithoutFocus = RGB(210, 255, 230), kFrameWithoutFocus = RGB(0, 255, 0);
+constexpr Color kComment = RGB(192, 192, 192), kHeading = RGB(0, 0, 128), kLink = RGB(128, 0, 128);
+constexpr int32_t kHiddenFrom = 1024;  // the painter's own bound, up to kBoundary
+
+constexpr Twips kBoldShift = 8;  // bold is the same text printed twice
+constexpr Twips kDotRadius = 40;
+constexpr long kTwipsOfGridStep = 50;
+constexpr size_t kWidthsKept = 4096;
+
+bool IsHidden(int32_t state) {
+  return state >= kHiddenFrom && state < kBoundary;
+}
+
+}  // namespace
+
+Twips ucListBox::RowTop(long row) const {
+  return std::trunc(static_cast<Twips>(row - 1) * rowHeight);
+}
+
+Twips ucListBox::WidthOf(std::string_view text) {
+  if (text.empty()) return 0;
+  auto found = widths.find(text);
+  if (found != widths.end()) return found->second;
+  if (widths.size() >= kWidthsKept) widths.clear();
+  const Twips width = pic.TextWidth(text);
+  widths.emplace(text, width);
+  return width;
+}
+
+void ucListBox::ClearPane() {
+  pic.Cls();
+  pic.FillBox(0, 0, gutterWidth, pic.ScaleHeight(), kGutter);
+  pic.DrawLine(gutterWidth, 0, gutterWidth, pic.ScaleHeight(), kRule);
+  pic.SetCurrentX(0);
+  pic.SetCurrentY(0);
+}
+
+void ucListBox::PaintLineAt(long row, long index, Color colour) {
+  if (index > store.Count() || row > visibleRows) return;
+  PaintLine(0, RowTop(std::max(1L, row)), index, colour);
+}
+
+// An empty row, as below the last line.
+void ucListBox::PaintRowsBehindLast() {
+  long row = 1;
+  for (long line = topLine; line <= store.Count() && row <= visibleRows; line = NextVisible(line)) ++row;
+  if (row > visibleRows) return;
+  pic.FillBox(0, RowTop(row), paneWidth, RowTop(row) + rowHeight, pic.BackColor());
+  PaintGutter(0, RowTop(row));
+}
+
+void ucListBox::PaintLine(Twips x, Twips y, long index, Color colour) {
+  if (index < 1) return;
+  // What stands below the surface is only counted.
+  if (loading || y >= pic.ScaleHeight()) return CountLevel(index);
+  PaintBackground(x, y, index, colour);
+  pic.SetCurrentX(x);
+  pic.SetCurrentY(y);
+  if (IsHidden(store.State(index))) return;
+  PaintText(x, y, index);
+  pic.SetCurrentY(y + rowHeight);
+}
+
+// Advances the running level over the marks of a line that is not drawn.
+void ucListBox::CountLevel(long index) {
+  if (IsHidden(store.State(index)) || listMode == kGridList || treeMode) return;
+  runningLevel = store.LineLevel(index) + SumOfMarks(store.Text(index));
+}
+
+void ucListBox::PaintGutter(Twips x, Twips y) {
+  pic.FillBox(x, y, x + gutterWidth, y + rowHeight, kGutter);
+  pic.DrawLine(x + gutterWidth, y, x + gutterWidth, y + rowHeight, kRule);
+}
+
+void ucListBox::PaintBackground(Twips x, Twips y, long index, Color colour) {
+  const bool current = colour != kPlain;
+  Color back = colour;
+  if (store.IsSelected(index)) back = current ? kSelectedCurrentBack : kSelectedBack;
+  pic.FillBox(x, y, paneWidth, y + rowHeight, back);
+  PaintGutter(x, y);
+  if (store.State(index) & kCollapseStart) {
+    pic.SetFillStyle(0);
+    pic.SetFillColor(RGB(255, 255, 0));
+    pic.Circle(x + gutterWidth / 2, y + rowHeight / 2, kDotRadius, RGB(255, 0, 0));
+    pic.SetFillStyle(1);
+  }
+  if (!current) return;
+  if (!hasFocus) {
+    pic.FillBox(x, y, paneWidth, y + rowHeight, kCurrentWithoutFocus);
+    pic.FrameBox(x, y, paneWidth, y + rowHeight, kFrameWithoutFocus);
+    PaintGutter(x, y);
+  }
+  pic.PaintPicture(img, x + 10, y + 10, gutterWidth - 20, rowHeight - 20);
+}
+
+// Runs between marks, each in the colour of its level. What is scrolled out at the left is counted, not drawn.
+void ucListBox::PaintText(Twips x, Twips y, long index) {
+  const std::string line = std::string(1, ' ').append(store.Text(index));
+  std::string_view text = line;
+  Twips pen = x + gutterWidth;
+  long level = store.LineLevel(index);
+  pic.SetForeColor(LevelColor(level));
+  if (listMode == kGridList) return PaintGrid(x, y, text);
+  auto skip = static_cast<size_t>(firstColumn);  // characters cut off in front
+  for (Mark mark = FirstMark(text); mark.step != 0; mark = FirstMark(text)) {
+    const std::string_view segment = text.substr(0, mark.place);
+    text.remove_prefix(mark.place + kLevelUp.size());
+    if (skip < segment.size()) {
+      pic.SetForeColor(LevelColor(level));
+      pen += PaintSegment(pen, y, segment.substr(skip), true);
+      skip = 0;
+    } else {
+      skip -= segment.size();
+    }
+    level += mark.step;
+  }
+  pic.SetForeColor(LevelColor(level));
+  if (treeMode) return PaintTreeEntry(pen, y, index, text, level, skip);
+  if (skip < text.size()) PaintSegment(pen, y, text.substr(skip), false);
+  runningLevel = level;
+}
+
+// Returns the width that was drawn, if it is asked for.
+Twips ucListBox::PaintSegment(Twips x, Twips y, std::string_view text, bool measured) {
+  using std::string_view;
+  if (text.substr(1, kCaption.size()) == kCaption && text[0] == ' ') {
+    const std::string heading = Space(40) + runtime::Trim(text.substr(3)) + Space(125);
+    return PrintEmphasized(x, y, heading, kHeading);
+  }
+  if (text.size() > 7 && text[1] == '<' && runtime::UCase(text.substr(1, 6)) == "<HREF=")
+    if (size_t close = text.find('>'); close != string_view::npos)
+      return PrintEmphasized(x, y, text.substr(close + 1), kLink);
+  if (size_t bold = text.find(kBold); bold != string_view::npos)
+    return PaintSplit(x, y, text.substr(0, bold), text.substr(bold + 1), true, measured);
+  if (size_t comment = CommentIn(text); comment != string_view::npos) {
+    std::string behind(text.substr(comment));
+    std::replace(behind.begin(), behind.end(), kBlockComment, ' ');
+    return PaintSplit(x, y, text.substr(0, comment), behind, false, measured);
+  }
+  if (text.size() > 1 && text[1] == kPictureMark)
+    if (size_t end = text.find(kPictureMark, 2); end != string_view::npos && end > 2) {
+      pic.PaintPicture(PictureNamed(text.substr(2, end - 2)), x + 60, y + 10, rowHeight - 40, rowHeight - 40);
+      return Print(x + 240, y, std::string(1, ' ').append(text.substr(end + 1)), measured);
+    }
+  return Print(x, y, text, measured);
+}
+
+// Where a comment starts in a run of text; npos for none. With a string in the run an apostrophe counts only at its
+// start.
+size_t ucListBox::CommentIn(std::string_view text) const {
+  if (listMode == kSqlList) {
+    for (std::string_view start : {std::string_view("/*"), std::string_view(&kBlockComment, 1), std::string_view("--")})
+      if (size_t place = text.find(start); place != std::string_view::npos) return place;
+  }
+  if (listMode != kTreeList && listMode != kVbList) return std::string_view::npos;
+  const size_t place = text.find('\'');
+  return place >= 3 && runtime::Holds(text, "\"") ? std::string_view::npos : place;
+}
+
+Twips ucListBox::PaintSplit(Twips x, Twips y, std::string_view front, std::string_view behind, bool bold,
+                            bool measured) {
+  const Twips pen = x + Print(x, y, front, true);
+  if (ListRole == kScriptTree) PaintGroupPicture(pen, y, behind);
+  if (bold) {
+    Print(pen - kBoldShift, y, behind, false);
+  } else {
+    pic.SetForeColor(kComment);
+  }
+  return pen - x + Print(pen, y, behind, measured);
+}
+
+Twips ucListBox::PrintEmphasized(Twips x, Twips y, std::string_view text, Color colour) {
+  pic.SetForeColor(colour);
+  pic.SetFontBold(true);
+  pic.SetFontUnderline(true);
+  pic.PrintAt(x, y, text);
+  pic.SetFontBold(false);
+  pic.SetFontUnderline(false);
+  return WidthOf(text);
+}
+
+Twips ucListBox::Print(Twips x, Twips y, std::string_view text, bool measured) {
+  // No character is narrower than a pixel: what lies behind the right edge need not reach the surface.
+  const Twips room = std::max<Twips>(0, paneWidth - x);
+  const std::string_view seen = text.substr(0, static_cast<size_t>(room / forms::kTwipsPerPixel) + 1);
+  if (seen.find_first_not_of(' ') != std::string_view::npos && x < paneWidth) pic.PrintAt(x, y, seen);
+  return measured ? WidthOf(text) : 0;
+}
+
+// The small picture behind a menu group of the script tree.
+void ucListBox::PaintGroupPicture(Twips x, Twips y, std::string_view text) {
+  static const std::string group = Space(14) + "{", run = Space(100);
+  const long place = runtime::InStr(text, run);
+  if (place == 0 || !runtime::Holds(text, group)) return;
+  const Twips behind = x + pic.TextWidth(runtime::Left(text, place + 1));
+  pic.PaintPicture(runtime::InStr(text, "}!") > place ? img2 : img1, behind + 10, y + 10, rowHeight - 40,
+                   rowHeight - 40);
+}
+
+forms::PictureRef ucListBox::PictureNamed(std::string_view name) const {
+  return name == "*" ? img2 : imgList.Item(static_cast<int>(runtime::Val(name)));
+}
+
+// Bold unless it begins with character 3; behind that a tag in brackets is not shown, and gives a box when it ends in
+// "!".
+void ucListBox::PaintTreeEntry(Twips x, Twips y, long index, std::string_view text, long level, size_t skip) {
+  const long indent = std::max(0L, (level - BaseLevel) * kColumnsOfLevel);
+  bool box = true;
+  std::string shown = Space(indent + 1);
+  if (text.substr(0, 2) == std::string{' ', kPlainEntry}) {
+    text.remove_prefix(2);
+    box = false;
+    const size_t close = text.substr(0, 1) == "(" ? text.find(')') : std::string_view::npos;
+    if (close != std::string_view::npos && close >= 2) {
+      box = text[close - 1] == '!';
+      text.remove_prefix(close + 1);
+    }
+    shown.append(text);
+  } else {
+    (shown += kBold).append(text);
+  }
+  const size_t icon = runtime::UCase(shown).find("[ICON=", 1);
+  const size_t icon_end = icon == std::string::npos ? icon : shown.find(']', icon);
+  if (icon_end != std::string::npos) shown.erase(icon, icon_end - icon + 1);
+  if (skip < shown.size()) PaintSegment(x, y, std::string_view(shown).substr(skip), false);
+  if (!box || indent == 0 || skip > 0) return;
+  PaintTreeBox(x + TreeBoxOffset(indent), y, index < store.Count() && IsHidden(store.State(index + 1)));
+}
+
+Twips ucListBox::TreeBoxOffset(long indent) {
+  return WidthOf(Space(indent - 5)) + 2;
+}
+
+void ucListBox::PaintTreeBox(Twips x, Twips y, bool closed) {
+  const Color colour = pic.ForeColor();
+  pic.FrameBox(x, y + 40, x + kTreeBoxWidth, y + rowHeight - 40, colour);
+  if (closed) {
+    pic.DrawLine(x + 35, y + 120, x + 115, y + 120, colour);
+    pic.DrawLine(x + 74, y + 78, x + 74, y + 162, colour);
+  } else {
+    pic.DrawLine(x + 38, y + 120, x + 109, y + 120, colour);
+  }
+}
+
+// Cells at the positions of the grid, with a rule in front of each but the first. The bar moves them by twips.
+void ucListBox::PaintGrid(Twips x, Twips y, std::string_view text) {
+  const auto offset = static_cast<Twips>(hs.Value() * kTwipsOfGridStep);
+  const std::string_view separator = std::string_view(sGridText).substr(0, 1);
+  std::string_view positions = std::string_view(sGridText).substr(separator.size());
+  Twips pen = x + gutterWidth - offset;
+  while (true) {
+    const size_t end = positions.empty() ? std::string_view::npos : text.find(separator);
+    Print(pen, y, text.substr(0, end), false);
+    if (end == std::string_view::npos || end + 1 >= text.size()) return;
+    text.remove_prefix(end + 1);
+    const size_t comma = std::min(positions.find(','), positions.size());
+    const Twips place = static_cast<Twips>(runtime::Val(positions.substr(0, comma))) - offset;
+    positions.remove_prefix(std::min(positions.size(), comma + 1));
+    pic.DrawLine(place, y, place, y + rowHeight, kRule);
+    pen = place + 100;
+  }
+}
+
+}  // namespace corvane::codelist

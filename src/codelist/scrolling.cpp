@@ -1,0 +1,206 @@
+// Which lines the rows show, and how the current line and the top line move.
+#include <algorithm>
+
+#include "codelist/raised.h"
+#include "codelist/uc_list_box.h"
+
+namespace corvane::codelist {
+
+namespace {
+
+constexpr int32_t kTopHiddenFrom = 767;  // a top line of such a state gives its place to the next visible one
+constexpr long kRowOfStrPos = 3;
+
+}  // namespace
+
+// Count + 1 when there is none; a negative line counts as the last.
+long ucListBox::NextVisible(long index) const {
+  if (index < 0) index = store.Count();
+  do ++index;
+  while (index <= store.Count() && !store.IsVisible(index));
+  return std::min(index, store.Count() + 1);
+}
+
+// 0 when there is none.
+long ucListBox::PrevVisible(long index) const {
+  index = std::min(index, store.Count() + 1);
+  do --index;
+  while (index >= 1 && !store.IsVisible(index));
+  return std::max(index, 0L);
+}
+
+void ucListBox::SetBar(forms::ScrollBar& bar, long value) {
+  Raised guard(scrollGuard);
+  bar.SetValue(std::max(bar.Min(), std::min(bar.Max(), value)));
+}
+
+void ucListBox::FireClick() {
+  if (!scrollGuard) Click();
+}
+
+void ucListBox::GoHome() {
+  if (currentLine > 1) previousLine = currentLine;
+  SetStrPos(1);
+  SetBar(vs, 0);
+}
+
+long ucListBox::SetStrPos(long index) {
+  if (loading || !store.Has(index)) return index;
+  currentLine = index;
+  topLine = std::max(1L, PrevVisible(PrevVisible(index)));
+  currentRow = std::min(kRowOfStrPos, index);
+  {
+    Raised without(noRefresh);
+    Repaint();
+  }
+  SetBar(vs, topLine - 1);
+  pic.Refresh();
+  return index;
+}
+
+// The current row keeps its place; the current line is the one that comes to stand on it.
+void ucListBox::Repaint() {
+  if (loading || scrollGuard || store.Count() == 0) return;
+  runtime::PassOverErrors([this] {
+    ClearPane();
+    firstColumn = hs.Value();
+    const int32_t state = store.State(topLine);
+    if (state >= kTopHiddenFrom && state < kVisibleFrom) topLine = NextVisible(topLine);
+    long drawn = 0;
+    for (long line = topLine; drawn < visibleRows && line <= store.Count(); line = NextVisible(line)) {
+      PaintLineAt(++drawn, line, kPlain);
+      if (drawn <= currentRow) currentLine = line;
+    }
+    currentRow = std::min(currentRow, drawn);
+    PaintLineAt(currentRow, currentLine, highlightColor);
+    if (replaceIndex == 0 && !noRefresh) pic.Refresh();
+  });
+}
+
+void ucListBox::RepaintCurrent(Color colour) {
+  if (currentRow > 0) PaintLineAt(currentRow, currentLine, colour);
+}
+
+void ucListBox::PaintRows() {
+  long line = topLine;
+  for (long row = 1; row <= visibleRows && line <= store.Count(); ++row, line = NextVisible(line))
+    PaintLineAt(row, line, kPlain);
+}
+
+void ucListBox::LineUp() {
+  if (currentRow <= 0 || currentLine <= 1) return;
+  if (currentLine == topLine) return ScrollUpOne();
+  RepaintCurrent(kPlain);
+  --currentRow;
+  currentLine = PrevVisible(currentLine);
+  RepaintCurrent(highlightColor);
+  pic.Refresh();
+  FireClick();
+}
+
+void ucListBox::LineDown() {
+  if (currentRow <= 0 || NextVisible(currentLine) > store.Count()) return;
+  RepaintCurrent(kPlain);
+  ++currentRow;
+  currentLine = NextVisible(currentLine);
+  RepaintCurrent(highlightColor);
+  // The drawing position stands under the row now; the last rows lie behind the horizontal bar.
+  const bool behind_bar = currentRow > visibleRows || pic.CurrentY() >= pic.ScaleHeight() - hs.Height() + 1;
+  if (behind_bar) ScrollDownOne();
+  pic.Refresh();
+  FireClick();
+}
+
+void ucListBox::ScrollUpOne() {
+  const long above = PrevVisible(topLine);
+  if (above < 1) return;
+  topLine = above;
+  currentLine = std::max(1L, PrevVisible(currentLine));
+  PaintRows();
+  RepaintCurrent(highlightColor);
+  SetBar(vs, topLine - 1);
+  pic.Refresh();
+  FireClick();
+}
+
+void ucListBox::ScrollDownOne() {
+  topLine = NextVisible(topLine);
+  --currentRow;
+  PaintRows();
+  PaintRowsBehindLast();
+  RepaintCurrent(highlightColor);
+  SetBar(vs, topLine - 1);
+  pic.Refresh();
+}
+
+void ucListBox::PageUp() {
+  if (topLine < 2) return;
+  long line = topLine;
+  for (long step = visibleRows - 2; step > 0 && PrevVisible(line) >= 1; --step) line = PrevVisible(line);
+  PageTo(line);
+}
+
+void ucListBox::PageDown() {
+  long line = topLine;
+  for (long step = visibleRows - 2; step > 0 && line <= store.Count(); --step) line = NextVisible(line);
+  if (line < store.Count()) PageTo(line);
+}
+
+void ucListBox::PageTo(long index) {
+  ClearPane();
+  topLine = currentLine = NextVisible(index);  // ScrollUpOne takes this step back
+  currentRow = 1;
+  ScrollUpOne();
+}
+
+void ucListBox::GoFirst() {
+  if (store.Count() < 2) return;
+  ClearPane();
+  topLine = currentLine = 2;
+  currentRow = 1;
+  ScrollUpOne();
+}
+
+void ucListBox::GoLast() {
+  if (store.Count() < 3) return;
+  ClearPane();
+  topLine = currentLine = store.Count();
+  currentRow = 1;
+  ScrollUpOne();
+}
+
+// [line], or the visible line next to it in the direction of travel; the other direction where there is none.
+long ucListBox::LineToward(long line, bool down) const {
+  line = std::max(1L, std::min(line, store.Count()));
+  if (store.IsVisible(line)) return line;
+  const long next = NextVisible(line), previous = PrevVisible(line);
+  if (down) return next <= store.Count() ? next : previous;
+  return previous >= 1 ? previous : next;
+}
+
+void ucListBox::vs_Change() {
+  if (scrollGuard || loading || store.Count() == 0 || vs.Value() == topLine - 1) return;
+  if (vs.Value() > store.Count()) return SetBar(vs, topLine);
+  const long step = vs.Value() - (topLine - 1);
+  const long line = LineToward(vs.Value() + 1, step > 0);
+  if (line < 1 || line > store.Count()) return;
+  const long row_before = currentRow;
+  ClearPane();
+  topLine = currentLine = line;
+  currentRow = 1;
+  PaintRows();
+  if (step == 1 || step == -1) StandOnRow(std::min(row_before - step, visibleRows - 1));
+  RepaintCurrent(highlightColor);
+  SetBar(vs, topLine - 1);
+  pic.Refresh();
+}
+
+// Steps the current line on from the top to [row], as far as there are lines.
+void ucListBox::StandOnRow(long row) {
+  while (currentRow < row && NextVisible(currentLine) <= store.Count()) {
+    currentLine = NextVisible(currentLine);
+    ++currentRow;
+  }
+}
+
+}  // namespace corvane::codelist

@@ -1,0 +1,209 @@
+// The user's mouse and keys on the surface: current line, selected lines, branches of a tree.
+#include <cmath>
+#include <cstdlib>
+
+#include "codelist/uc_list_box.h"
+#include "runtime/strings.h"
+
+namespace corvane::codelist {
+
+namespace {
+
+constexpr uint32_t kDragDelay = 300;  // milliseconds between the press and the first step
+
+}  // namespace
+
+// Row 0 lies above the surface.
+long ucListBox::RowAt(Twips y) const {
+  return y < 0 || rowHeight <= 0 ? 0 : static_cast<long>(y / rowHeight) + 1;
+}
+
+// 0 for a row behind the last line.
+long ucListBox::LineOnRow(long row) const {
+  if (row < 1 || store.Count() == 0) return 0;
+  long line = topLine;
+  for (; row > 1 && line <= store.Count(); --row) line = NextVisible(line);
+  return line <= store.Count() ? line : 0;
+}
+
+bool ucListBox::MoveToRow(long row) {
+  const long line = LineOnRow(row);
+  if (line == 0) return false;
+  RepaintCurrent(kPlain);
+  currentRow = row;
+  currentLine = line;
+  RepaintCurrent(highlightColor);
+  pic.Refresh();
+  return true;
+}
+
+void ucListBox::FlipSelected() {
+  if (!store.Has(currentLine) || SelectionIsLocked()) return;
+  store.SetState(currentLine, store.State(currentLine) ^ kSelected);
+}
+
+void ucListBox::ToggleSelect() {
+  FlipSelected();
+  RepaintCurrent(highlightColor);
+  pic.Refresh();
+}
+
+void ucListBox::SelectAll() {
+  if (SelectionIsLocked()) return;
+  for (long line = 1; line <= store.Count(); ++line) store.SetState(line, store.State(line) | kSelected);
+  Repaint();
+}
+
+// With no line selected the clip book keeps what it holds.
+void ucListBox::CopySelection() {
+  if (SelectionIsLocked()) return;
+  std::string copied;
+  for (long line = 1; line <= store.Count(); ++line) {
+    if (!store.IsSelected(line)) continue;
+    store.SetState(line, store.State(line) & ~kSelected);
+    copied.append(List(line)).append(runtime::kCrLf);
+  }
+  if (!copied.empty()) clipBook = copied;
+  Repaint();
+  runtime::PassOverErrors([this] { services.Clipboard.Clear(); });
+  runtime::PassOverErrors([this] { services.Clipboard.SetText(clipBook); });
+  ClipBook();
+}
+
+void ucListBox::pic_MouseDown(int button, Twips x, Twips y) {
+  EndDrag();
+  mouseX = x;
+  mouseY = y;
+  if (!MoveToRow(RowAt(y))) return;
+  if (x < gutterWidth && button == forms::vbLeftButton) return ToggleSelect();
+  dragging = true;
+  dragRow = currentRow;
+  pressTick = services.Loop.TickCount();
+}
+
+void ucListBox::pic_MouseMove(int button, int shift, Twips x, Twips y) {
+  if (!SelectionIsLocked()) MouseMove(button, shift, x, y);
+  tmr.SetEnabled(false);
+  if (dragging && (button & forms::vbLeftButton)) DragTo(y);
+}
+
+// Outside the surface each turn of the timer is one step more.
+void ucListBox::DragTo(Twips y) {
+  const bool above = y<0, below = y> pic.ScaleHeight();
+  if (above || below) {
+    scrollDirection = above ? -1 : 1;
+    tmr.SetEnabled(true);
+  }
+  if (dragDirection == 0 && services.Loop.TickCount() - pressTick < kDragDelay) return;
+  long steps = above || below ? scrollDirection : RowAt(y) - dragRow;
+  const bool down = steps > 0;
+  for (steps = std::labs(steps); steps > 0; --steps)
+    if (!DragStep(down)) break;
+  pic.Refresh();
+}
+
+// Moving on selects line after line; turning back takes it off again.
+bool ucListBox::DragStep(bool down) {
+  const long target = down ? NextVisible(currentLine) : PrevVisible(currentLine);
+  if (!store.Has(target)) return false;
+  const int direction = down ? 1 : -1;
+  if (currentLine != dragLine || direction != dragDirection) FlipSelected();
+  if (down)
+    LineDown();
+  else
+    LineUp();
+  FlipSelected();
+  RepaintCurrent(highlightColor);
+  dragLine = currentLine;
+  dragRow = currentRow;
+  dragDirection = direction;
+  return true;
+}
+
+void ucListBox::tmr_Timer() {
+  tmr.SetEnabled(false);
+  if (!dragging || currentLine < 2 || currentLine >= store.Count()) return;
+  DragTo(scrollDirection < 0 ? -1 : pic.ScaleHeight() + 1);
+}
+
+void ucListBox::pic_MouseUp(int button, Twips x, Twips y) {
+  EndDrag();
+  mouseX = x;
+  mouseY = y;
+  if (button == forms::vbRightButton && store.Has(currentLine) && !loading) ClickLevel = store.LineLevel(currentLine);
+}
+
+void ucListBox::EndDrag() {
+  tmr.SetEnabled(false);
+  dragging = false;
+  dragRow = dragLine = dragDirection = scrollDirection = 0;
+}
+
+void ucListBox::pic_Click() {
+  UcClick();
+  if (LineOnRow(RowAt(mouseY)) == 0) return;
+  if (!treeMode) return FireClick();
+  const long indent = (store.LineLevel(currentLine) - BaseLevel) * kColumnsOfLevel;
+  if (indent < 5 || firstColumn != 0 || currentLine == store.Count()) return;
+  const Twips box = gutterWidth + TreeBoxOffset(indent);
+  if (mouseX >= box && mouseX <= box + kTreeBoxWidth) ToggleBranch(currentLine);
+}
+
+// Opening shows the entries one level deeper; closing hides all that are deeper.
+void ucListBox::ToggleBranch(long index) {
+  const long level = store.LineLevel(index);
+  const bool open = !store.IsVisible(index + 1);
+  for (long line = index + 1; line <= store.Count() && store.LineLevel(line) > level; ++line) {
+    if (!open)
+      store.SetState(line, store.State(line) | kHidden);
+    else if (store.LineLevel(line) == level + 1)
+      store.SetState(line, store.State(line) & ~kHidden);
+  }
+  Repaint();
+}
+
+void ucListBox::pic_KeyDown(int& key, int shift) {
+  const bool ctrl = (shift & forms::vbCtrlMask) != 0;
+  const int pressed = std::exchange(key, 0);
+  switch (pressed) {
+    case forms::vbKeyReturn:
+      if (!ctrl) break;
+      services.Loop.DoEvents();
+      return DblClick();
+    case forms::vbKeyTab:
+      if (shift != forms::vbCtrlMask) break;
+      return CtrlTab();
+    case forms::vbKeyC:
+      if (!ctrl) break;
+      return CopySelection();
+    case forms::vbKeyA:
+      if (!ctrl) break;
+      return SelectAll();
+    case forms::vbKeyUp:
+    case forms::vbKeyDown:
+      if (shift & forms::vbShiftMask) FlipSelected();
+      return pressed == forms::vbKeyUp ? LineUp() : LineDown();
+    case forms::vbKeyPageUp:
+      return PageUp();
+    case forms::vbKeyPageDown:
+      return PageDown();
+    case forms::vbKeyHome:
+      return GoFirst();
+    case forms::vbKeyEnd:
+      return GoLast();
+    default:
+      break;
+  }
+  key = pressed;
+}
+
+void ucListBox::pic_KeyPress(int& key) {
+  if (store.Count() == 0) return;
+  if (key == forms::vbKeyReturn) DblClick();
+  if (key == forms::vbKeyEscape && !KeepOnEscape) {
+    SetVisible(false);
+    EscapeClicked();
+  }
+}
+
+}  // namespace corvane::codelist

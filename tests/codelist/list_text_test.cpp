@@ -1,0 +1,355 @@
+#include "list_fixture.h"
+
+namespace corvane::codelist {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+using ListText = ListTest;
+
+TEST_F(ListText, StartsEmpty) {
+  EXPECT_EQ(list.ListCount(), 0);
+  EXPECT_EQ(list.ListIndex(), 0);
+  EXPECT_EQ(list.Text(), "");
+  EXPECT_EQ(list.getValue(), "");
+  EXPECT_FALSE(list.GetEndState());
+  EXPECT_EQ(list.hs.Max(), 10);
+}
+
+TEST_F(ListText, AnEmptyTextIsDoneWithBothBarsEnabled) {
+  list.SetText("");
+  EXPECT_THAT(events, ElementsAre("TextDone"));
+  EXPECT_EQ(list.ListCount(), 0);
+  EXPECT_TRUE(list.hs.Enabled());
+  EXPECT_TRUE(list.vs.Enabled());
+}
+
+TEST_F(ListText, ReadingGivesALineEndBehindTheLastLineToo) {
+  list.sGrid("TEXT");
+  list.SetText("a\r\nb");
+  EXPECT_EQ(list.Text(), "a\r\nb\r\n");
+  EXPECT_EQ(list.ListCount(), 2);
+}
+
+TEST_F(ListText, OnlyCrLfEndsALine) {
+  list.sGrid("TEXT");
+  list.SetText("a\rb\nc\r\n\r\nd\r\n");
+  EXPECT_EQ(list.ListCount(), 3);
+  EXPECT_EQ(list.List(1), "a\rb\nc");
+  EXPECT_EQ(list.List(2), "");
+}
+
+TEST_F(ListText, ATextSetDuringALoadWins) {
+  list.sGrid("TEXT");
+  services.loop.on_do_events = [this] {
+    services.loop.on_do_events = nullptr;
+    list.SetText("second\r\n");
+    EXPECT_EQ(list.SetStrPos(5), 5) << "ignored while loading";
+  };
+  list.SetText(runtime::Replace(std::string(40, 'x'), "x", "first\r\n"));
+  EXPECT_EQ(list.Text(), "second\r\n");
+  EXPECT_THAT(events, ElementsAre("TextDone"));
+}
+
+TEST_F(ListText, AnEmptyTextSetDuringALoadIsLost) {
+  list.sGrid("TEXT");
+  services.loop.on_do_events = [this] { list.SetText(""); };
+  list.SetText(runtime::Replace(std::string(40, 'x'), "x", "first\r\n"));
+  EXPECT_EQ(list.ListCount(), 40);
+}
+
+TEST_F(ListText, AClearDuringALoadEndsItQuietly) {
+  list.sGrid("TEXT");
+  services.loop.on_do_events = [this] { list.Clear(); };
+  list.SetText(runtime::Replace(std::string(40, 'x'), "x", "first\r\n"));
+  EXPECT_EQ(list.ListCount(), 0);
+  EXPECT_THAT(events, IsEmpty());
+  EXPECT_TRUE(list.vs.Enabled());
+}
+
+TEST_F(ListText, TheEventLoopRunsAfterEveryTwentyLines) {
+  list.sGrid("TEXT");
+  list.SetText(runtime::Replace(std::string(59, 'x'), "x", "a\r\n"));
+  EXPECT_EQ(services.loop.yields, 2);
+}
+
+constexpr char kTwoProcedures[] = "Sub a()\r\n'End Sub\r\nx = \"End Sub\"\r\nEnd Sub\r\nSub b()\r\nEnd Sub\r\nlast";
+
+TEST_F(ListText, ACodeViewStopsBehindTheFirstEndOfAProcedure) {
+  list.sGrid("VB");
+  list.SetText(kTwoProcedures);
+  EXPECT_EQ(list.ListCount(), 4);
+  EXPECT_EQ(list.List(4), "End Sub");
+  EXPECT_TRUE(list.GetEndState());
+}
+
+TEST_F(ListText, AllProcTextLetsOneEndPass) {
+  list.sGrid("VB");
+  list.AllProcText(true);
+  list.SetText(kTwoProcedures);
+  EXPECT_EQ(list.ListCount(), 6) << "stops behind the second";
+  list.SetText(kTwoProcedures);
+  EXPECT_EQ(list.ListCount(), 4) << "the permission was used";
+}
+
+TEST_F(ListText, AnotherRoleLoadsPastTheEnd) {
+  list.sGrid("VB");
+  list.ListRole = kSourcePane;
+  list.SetText(kTwoProcedures);
+  EXPECT_EQ(list.ListCount(), 7);
+}
+
+TEST_F(ListText, WithoutColourALoadStopsInTextModeToo) {
+  list.sGrid("TEXT");
+  list.ColorOff = true;
+  list.SetText("Send Subject\r\nx\r\n");
+  EXPECT_EQ(list.ListCount(), 1);
+}
+
+TEST_F(ListText, WithoutAnalysisALoadNeverStops) {
+  list.sGrid("VB");
+  list.NoAnalyse = true;
+  list.SetText("End Sub\r\nIf a Then\r\n");
+  EXPECT_EQ(list.ListCount(), 2);
+  EXPECT_EQ(Stored(2), "If a Then");
+}
+
+TEST_F(ListText, AModeIsChosenInAnyCase) {
+  list.sGrid("vb");
+  list.AddItem("if a");
+  EXPECT_EQ(Stored(1), "^If{ a");
+  list.sGrid("Sql");
+  list.AddItem("select a");
+  EXPECT_EQ(Stored(2), "^Select}{ a");
+  list.sGrid("text");
+  list.AddItem("if a");
+  EXPECT_EQ(Stored(3), "if a");
+}
+
+TEST_F(ListText, AnyOtherModeIsAGridOfRawLines) {
+  list.sGrid("|1000,2000");
+  list.AddItem("if a|next");
+  EXPECT_EQ(Stored(1), "if a|next");
+  EXPECT_THAT(Levels(), ElementsAre(33));
+}
+
+TEST_F(ListText, WithoutAModeItemsAreRawAndTextsAreAnalysed) {
+  list.AddItem("if a");
+  EXPECT_EQ(Stored(1), "if a");
+  list.SetText("if a\r\n");
+  EXPECT_EQ(Stored(1), "^If{ a");
+}
+
+TEST_F(ListText, ChoosingAModeSwitchesColourOn) {
+  list.ColorOff = true;
+  list.sGrid("VB");
+  EXPECT_FALSE(list.ColorOff);
+}
+
+TEST_F(ListText, SignsInFrontOfATreeItemAreItsDepth) {
+  list.sGrid("TREE");
+  list.AddItem("x");
+  list.AddItem("+x");
+  list.AddItem("+++x");
+  EXPECT_EQ(list.List(3), "x");
+  EXPECT_THAT(Levels(), ElementsAre(33, 34, 36));
+  EXPECT_TRUE(list.IsLineVisible(1));
+  EXPECT_TRUE(list.IsLineVisible(2));
+  EXPECT_FALSE(list.IsLineVisible(3));
+}
+
+TEST_F(ListText, ATreeItemMakesTheListATree) {
+  list.AddTreeItem("a", 33, false);
+  list.AddItem("+b");
+  EXPECT_EQ(list.List(2), "b");
+  list.Clear();
+  list.AddItem("+b");
+  EXPECT_EQ(list.List(1), "+b") << "but only until it is cleared";
+  list.sGrid("tree");
+  list.Clear();
+  list.AddItem("+b");
+  EXPECT_EQ(list.List(1), "b");
+}
+
+TEST_F(ListText, TheLastPieceOfATreeTextIsAnalysed) {
+  list.sGrid("TREE");
+  list.SetText("++a\r\n+if b");
+  EXPECT_EQ(Stored(2), "+if b");
+  EXPECT_FALSE(list.IsLineVisible(2)) << "it takes the state of the entry before";
+  list.SetText("a\r\nif b");
+  EXPECT_EQ(Stored(2), "^If{ b");
+}
+
+TEST_F(ListText, ACaptionKeepsItsText) {
+  list.sGrid("VB");
+  list.AddItem("::End If");
+  EXPECT_EQ(Stored(1), "::End If");
+}
+
+TEST_F(ListText, LinesOutsideTheListAreEmpty) {
+  Load(2);
+  EXPECT_EQ(list.List(0), "");
+  EXPECT_EQ(list.List(3), "");
+  EXPECT_EQ(list.List(-1), "");
+}
+
+TEST_F(ListText, LevelsFollowTheBlocks) {
+  list.sGrid("VB");
+  list.SetText(
+      "Sub a()\r\nFor i = 1 To 2\r\nIf a Then\r\nb\r\nElse\r\nc\r\nEnd If\r\nIf a Then b\r\nNext\r\nEnd Sub\r\n");
+  EXPECT_THAT(Levels(), ElementsAre(33, 33, 34, 35, 35, 35, 35, 34, 34, 33));
+}
+
+TEST_F(ListText, AnUnbalancedLineLeavesTheNextOutside) {
+  list.sGrid("VB");
+  list.SetText("Next\r\nx\r\n");
+  EXPECT_THAT(Levels(), ElementsAre(33, 32));
+  EXPECT_EQ(LevelColor(list.LineLevel(2)), forms::RGB(128, 0, 0));
+}
+
+TEST_F(ListText, ALevelBelowZeroIsStoredAbove200AndRunsOnFromThere) {
+  list.sGrid("TEXT");
+  list.SetText(runtime::Replace(std::string(34, 'x'), "x", "/-\\") + "\r\na/+\\\r\nb\r\n");
+  EXPECT_THAT(Levels(), ElementsAre(33, 201, 202));
+}
+
+TEST_F(ListText, AnAppendBehindALoadHasTheLevelBehindTheCurrentLine) {
+  list.sGrid("VB");
+  list.SetText("If a Then\r\nb\r\nEnd If\r\n");
+  list.AddItem("x");
+  EXPECT_EQ(list.LineLevel(4), 34);
+}
+
+TEST_F(ListText, ReplacingTheCurrentLineCarriesItsLevelOn) {
+  list.sGrid("VB");
+  list.SetText("a\r\nb\r\nc\r\n");
+  list.ReplaceItem(1, "if x then");
+  EXPECT_EQ(Stored(1), "^If{ x }^Then{");
+  EXPECT_THAT(Levels(), ElementsAre(33, 34, 34));
+  list.SetStrPos(1);
+  list.ReplaceItem(1, "x");
+  EXPECT_THAT(Levels(), ElementsAre(33, 33, 33));
+}
+
+TEST_F(ListText, ReplacingKeepsSelectionAndFolding) {
+  list.sGrid("VB");
+  list.SetText("a\r\nb\r\nc\r\n");
+  list.SetStrPos(2);
+  list.ToggleSelect();
+  list.SetStrPos(1);
+  list.ReplaceItem(1, "do");
+  EXPECT_THAT(SelectedLines(), ElementsAre(2));
+  EXPECT_THAT(Levels(), ElementsAre(33, 34, 34));
+}
+
+TEST_F(ListText, ReplacingTheLastOrNoLineCarriesNothing) {
+  list.sGrid("VB");
+  list.SetText("a\r\nb\r\n");
+  list.ReplaceItem(2, "do");
+  list.ReplaceItem(0, "do");
+  list.ReplaceItem(3, "do");
+  EXPECT_THAT(Levels(), ElementsAre(33, 33));
+  EXPECT_EQ(list.List(2), "Do ");
+}
+
+TEST_F(ListText, GetValueGivesTheSelectedLinesInOrder) {
+  Load(3);
+  list.SetStrPos(3);
+  list.ToggleSelect();
+  list.SetStrPos(1);
+  list.ToggleSelect();
+  EXPECT_EQ(list.getValue(), "1\r\n3\r\n");
+}
+
+TEST_F(ListText, GetValueWithNothingSelectedGivesTheCurrentLineWithoutALineEnd) {
+  Load(3);
+  list.SetStrPos(2);
+  EXPECT_EQ(list.getValue(), "2");
+}
+
+TEST_F(ListText, ClearEmptiesEverything) {
+  Load(3);
+  list.SetStrPos(2);
+  list.AddQuickItem(1);
+  list.Clear();
+  EXPECT_EQ(list.ListCount(), 0);
+  EXPECT_EQ(list.ListIndex(), 0);
+  EXPECT_EQ(list.TopLine(), 0);
+  EXPECT_EQ(list.vs.Value(), 0);
+  EXPECT_EQ(list.lbx.ListCount(), 0);
+}
+
+TEST_F(ListText, ABlockCommentEndsWithTheLoad) {
+  list.sGrid("SQL");
+  list.SetText("/* a\r\nb\r\n");
+  EXPECT_EQ(Stored(2), "~b");
+  list.AddItem("c");
+  EXPECT_EQ(Stored(3), "c");
+}
+
+TEST_F(ListText, ALoadSetsTheBars) {
+  Load(30);
+  EXPECT_EQ(list.vs.Min(), 1);
+  EXPECT_EQ(list.vs.Max(), 30);
+  EXPECT_EQ(list.vs.LargeChange(), list.VisibleRows() + 1);
+  EXPECT_EQ(list.hs.Max(), 120);
+}
+
+TEST_F(ListText, ALongAppendedLineWidensTheBar) {
+  list.sGrid("TEXT");
+  list.AddItem(std::string(200, 'x'));
+  EXPECT_EQ(list.hs.Max(), 240);
+  EXPECT_EQ(list.hs.LargeChange(), 4);
+}
+
+TEST_F(ListText, AnIconThatCannotBeReadAddsNone) {
+  EXPECT_EQ(list.AddIcon("C:\\no.bmp"), 0);
+  services.files.Write("C:\\yes.bmp", "BM");
+  EXPECT_EQ(list.AddIcon("C:\\yes.bmp"), 1);
+}
+
+TEST_F(ListText, ColourIsSwitchedOffWithTheNextLoadAndOnByTheContainer) {
+  Load(1);
+  list.ToggleColor();
+  EXPECT_FALSE(list.ColorOff) << "one line is not enough";
+  Load(3);
+  list.SetStrPos(2);
+  EXPECT_EQ(list.ColorCaption(), "Set Color analyze Off");
+  list.ToggleColor();
+  EXPECT_TRUE(list.ColorOff);
+  EXPECT_EQ(list.ColorCaption(), "Set Color analyze On");
+  EXPECT_THAT(events, IsEmpty());
+  list.ToggleColor();
+  EXPECT_FALSE(list.ColorOff);
+  EXPECT_EQ(list.ColorCaption(), "Set Color analyze Off");
+  EXPECT_THAT(events, ElementsAre("ColorOnOff 2"));
+}
+
+TEST_F(ListText, PropertyWritesAreAnnounced) {
+  list.SetBackColor(0x123456);
+  list.HScroll(false);
+  EXPECT_EQ(list.BackColor(), 0x123456u);
+  EXPECT_FALSE(list.hs.Enabled());
+  EXPECT_THAT(events, ElementsAre("PropertyChanged BackColor", "PropertyChanged HScroll"));
+}
+
+TEST_F(ListText, WholeAndLineByLineAreTheSame) {
+  const char text[] = "Sub a()\r\n\tIf x Then 'y\r\nDo\r\nLoop\r\nElse\r\nEnd If\r\nEnd Sub\r\n";
+  for (const char* mode : {"VB", "SQL", "TEXT", "TREE"}) {
+    list.sGrid(mode);
+    list.ListRole = kSourcePane;
+    list.SetText(text);
+    std::vector<std::string> whole;
+    for (long line = 1; line <= list.ListCount(); ++line) whole.push_back(Stored(line));
+    const std::vector<long> levels = Levels();
+    list.Clear();
+    for (std::string_view rest = text; !rest.empty(); rest.remove_prefix(rest.find("\r\n") + 2))
+      list.AddItem(rest.substr(0, rest.find("\r\n")));
+    for (long line = 1; line <= list.ListCount(); ++line) EXPECT_EQ(Stored(line), whole[static_cast<size_t>(line - 1)]);
+    EXPECT_EQ(Levels(), levels) << mode;
+  }
+}
+
+}  // namespace
+}  // namespace corvane::codelist
