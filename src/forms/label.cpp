@@ -23,22 +23,6 @@ constexpr PropertyEntry<Label> kProperties[] = {
     Entry<Label, &Label::UseMnemonic, &Label::SetUseMnemonic>(Property::UseMnemonic),
 };
 
-// Lines that [line] takes when it is broken at blanks to fit [width].
-int WrappedLines(TextMetrics& metrics, std::string_view line, const Font& font, Twips width) {
-  int lines = 1;
-  size_t start = 0, fits = 0;
-  while (true) {
-    const size_t blank = line.find(' ', fits + 1);
-    const size_t end = blank == std::string_view::npos ? line.size() : blank;
-    if (metrics.TextWidth(line.substr(start, end - start), font) > width && fits > start) {
-      ++lines;
-      start = fits + 1;
-    }
-    if (end == line.size()) return lines;
-    fits = end;
-  }
-}
-
 }  // namespace
 
 void Label::SetCaption(std::string value) {
@@ -64,9 +48,7 @@ void Label::FitToCaption() {
     return Move(Left(), Top(), WidestLine(metrics, text, Font()) + borders,
                 HeightOfLines(metrics, text, Font()) + borders);
   }
-  int lines = 0;
-  ForEachLine(text, [&](std::string_view line) { lines += WrappedLines(metrics, line, Font(), Width() - borders); });
-  Move(Left(), Top(), Width(), static_cast<Twips>(lines) * metrics.TextHeight(Font()) + borders);
+  Move(Left(), Top(), Width(), WrappedHeight(metrics, text, Font(), Width() - borders) + borders);
 }
 
 void Label::SetAlignment(forms::Alignment value) {

@@ -31,4 +31,27 @@ inline Twips HeightOfLines(TextMetrics& metrics, std::string_view text, const Fo
   return static_cast<Twips>(lines) * metrics.TextHeight(font);
 }
 
+// Lines that [line] takes when it is broken at blanks to fit [width].
+inline int WrappedLines(TextMetrics& metrics, std::string_view line, const Font& font, Twips width) {
+  int lines = 1;
+  size_t start = 0, fits = 0;
+  while (true) {
+    const size_t blank = line.find(' ', fits + 1);
+    const size_t end = blank == std::string_view::npos ? line.size() : blank;
+    if (metrics.TextWidth(line.substr(start, end - start), font) > width && fits > start) {
+      ++lines;
+      start = fits + 1;
+    }
+    if (end == line.size()) return lines;
+    fits = end;
+  }
+}
+
+// Height of [text] with its lines broken at blanks to fit [width].
+inline Twips WrappedHeight(TextMetrics& metrics, std::string_view text, const Font& font, Twips width) {
+  int lines = 0;
+  ForEachLine(text, [&](std::string_view line) { lines += WrappedLines(metrics, line, font, width); });
+  return static_cast<Twips>(lines) * metrics.TextHeight(font);
+}
+
 }  // namespace corvane::forms
