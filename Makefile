@@ -5,7 +5,7 @@ JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 packages = scripts/install-packages scripts/packages.txt
 program = build/corvane
 
-.PHONY: all run test bench screenshots format format-check lint sanitize sanitize-quick fuzz fuzz-quick packages clean
+.PHONY: all run test bench screenshots format format-check lint sanitize fuzz fuzz-quick packages clean
 
 all: $(program)
 
