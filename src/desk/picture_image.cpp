@@ -9,7 +9,6 @@ namespace corvane::desk {
 namespace {
 
 constexpr QRgb kFaceBackground = qRgb(0xC0, 0xC0, 0xC0);
-constexpr int kIconSizes[] = {16, 20, 24, 32, 40, 48};
 
 QByteArray BytesOf(const runtime::PictureRef& picture) {
   return picture ? QByteArray(picture->bytes.data(), static_cast<qsizetype>(picture->bytes.size())) : QByteArray();
@@ -19,10 +18,10 @@ bool IsSvg(const QByteArray& bytes) {
   return bytes.startsWith("<svg") || bytes.startsWith("<?xml");
 }
 
-QImage SvgImage(const QByteArray& bytes, const QSize& size) {
+QImage SvgImage(const QByteArray& bytes) {
   QSvgRenderer renderer(bytes);
   if (!renderer.isValid()) return {};
-  QImage image(size.isEmpty() ? renderer.defaultSize() : size, QImage::Format_ARGB32_Premultiplied);
+  QImage image(renderer.defaultSize(), QImage::Format_ARGB32_Premultiplied);
   image.fill(Qt::transparent);
   QPainter painter(&image);
   renderer.render(&painter);
@@ -34,27 +33,15 @@ QImage SvgImage(const QByteArray& bytes, const QSize& size) {
 QImage ImageOf(const runtime::PictureRef& picture) {
   const QByteArray bytes = BytesOf(picture);
   if (bytes.isEmpty()) return {};
-  return IsSvg(bytes) ? SvgImage(bytes, {}) : QImage::fromData(bytes);
+  return IsSvg(bytes) ? SvgImage(bytes) : QImage::fromData(bytes);
 }
 
 QIcon FaceOf(const runtime::PictureRef& picture) {
-  if (IsSvg(BytesOf(picture))) return IconOf(picture);
   QImage image = ImageOf(picture).convertToFormat(QImage::Format_ARGB32);
   for (int y = 0; y < image.height(); ++y)
     for (int x = 0; x < image.width(); ++x)
       if (image.pixel(x, y) == kFaceBackground) image.setPixel(x, y, 0);
   return image.isNull() ? QIcon() : QIcon(QPixmap::fromImage(image));
-}
-
-QIcon IconOf(const runtime::PictureRef& picture) {
-  const QByteArray bytes = BytesOf(picture);
-  QIcon icon;
-  if (!IsSvg(bytes)) {
-    const QImage image = ImageOf(picture);
-    return image.isNull() ? icon : QIcon(QPixmap::fromImage(image));
-  }
-  for (const int size : kIconSizes) icon.addPixmap(QPixmap::fromImage(SvgImage(bytes, {size, size})));
-  return icon;
 }
 
 }  // namespace corvane::desk

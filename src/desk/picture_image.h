@@ -12,7 +12,5 @@ namespace corvane::desk {
 QImage ImageOf(const runtime::PictureRef& picture);
 // A button's face: the light grey that pasted faces have as their background is transparent.
 QIcon FaceOf(const runtime::PictureRef& picture);
-// An SVG icon is drawn anew for each size and scale.
-QIcon IconOf(const runtime::PictureRef& picture);
 
 }  // namespace corvane::desk
