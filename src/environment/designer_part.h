@@ -71,6 +71,7 @@ class DesignerPart {
   // Edits. Texts given to them are kept by the part.
   std::string_view Keep(std::string text);
   void SetRaw(DesignerItem& item, std::string raw);  // a property line
+  // Requires: the Begin line has both.
   void SetBegin(DesignerBlock& block, std::string_view type, std::string_view name);
   DesignerItem NewProperty(std::string raw);  // with its line end
   DesignerBlockRef NewBlock(DesignerBlock& parent, bool is_property, std::string_view type, std::string_view name);

@@ -1,0 +1,151 @@
+#include "environment/designer_controls.h"
+
+#include <algorithm>
+
+#include "environment/designer_tree.h"
+#include "environment/lookup.h"
+#include "environment/properties.h"
+
+namespace corvane::environment {
+
+namespace {
+
+class Control : public host::VBControl, public std::enable_shared_from_this<Control> {
+ public:
+  Control(std::shared_ptr<DesignerState> state, DesignerBlockRef block)
+      : state_(std::move(state)), block_(std::move(block)) {}
+
+  std::string ClassName() override {
+    const std::string_view type = Block().type;
+    return std::string(type.substr(type.rfind('.') + 1));
+  }
+  std::string ProgId() override {
+    const ControlClass* known = FindControlClass(Block().type);
+    return std::string(known ? known->prog_id : block_->type);
+  }
+  host::Ref<host::Properties> Properties() override {
+    Block();
+    return NewPropertyList(state_, block_);
+  }
+  host::Ref<host::ControlObject> ControlObject() override;
+
+  // Error 91 for a control that was removed, or whose component is gone.
+  DesignerBlock& Block() const {
+    state_->Owner();
+    if (!state_->Holds(*block_)) throw host::Error(runtime::kObjectNotSet);
+    return *block_;
+  }
+  const DesignerBlockRef& Ref() const { return block_; }
+  const DesignerState* State() const { return state_.get(); }
+  host::Ref<host::VBControl> Container() const {
+    const DesignerBlock* parent = Block().parent;
+    for (const DesignerBlockRef& other : state_->Controls())
+      if (other.get() == parent) return std::make_shared<Control>(state_, other);
+    return nullptr;
+  }
+
+ private:
+  std::shared_ptr<DesignerState> state_;
+  DesignerBlockRef block_;
+};
+
+class DesignTimeObject : public host::ControlObject {
+ public:
+  explicit DesignTimeObject(std::shared_ptr<Control> control) : control_(std::move(control)) {}
+  host::Ref<host::VBControl> Container() override { return control_->Container(); }
+
+ private:
+  std::shared_ptr<Control> control_;
+};
+
+host::Ref<host::ControlObject> Control::ControlObject() {
+  Block();
+  return std::make_shared<DesignTimeObject>(shared_from_this());
+}
+
+std::string_view NameOf(const DesignerBlockRef& block) {
+  return block->name;
+}
+
+class Controls : public host::VBControls {
+ public:
+  explicit Controls(std::shared_ptr<DesignerState> state) : state_(std::move(state)) {}
+
+  long Count() override { return static_cast<long>(All().size()); }
+
+  // The name of a control array is its first element in the file.
+  host::Ref<host::VBControl> Item(const host::Index& index) override {
+    return std::make_shared<Control>(state_, ItemOf(All(), index, NameOf));
+  }
+
+  host::Ref<host::VBControl> Add(const std::string& prog_id, const host::Ref<host::VBControl>& container) override {
+    state_->RequireEditable();
+    DesignerBlock& parent = container ? BlockOf(container) : *state_->Root();
+    return std::make_shared<Control>(state_, AddControl(*state_, ClassToAdd(prog_id), parent));
+  }
+
+  void Remove(const host::Ref<host::VBControl>& control) override {
+    state_->RequireEditable();
+    RemoveControl(*state_, BlockOf(control));
+  }
+
+ private:
+  const std::vector<DesignerBlockRef>& All() {
+    state_->Owner();
+    return state_->Controls();
+  }
+
+  DesignerBlock& BlockOf(const host::Ref<host::VBControl>& control) {
+    const auto* own = dynamic_cast<Control*>(control.get());
+    if (!own || own->State() != state_.get()) throw host::Error(runtime::kObjectNotSet);
+    return own->Block();
+  }
+
+  // Windows and the head of a class are no controls; what another library's control needs is in its library.
+  static const ControlClass& ClassToAdd(const std::string& prog_id) {
+    const ControlClass* known = FindControlClass(prog_id);
+    if (!known || !known->unlisted.empty()) throw host::Error(runtime::kCannotCreateObject);
+    return *known;
+  }
+
+  std::shared_ptr<DesignerState> state_;
+};
+
+class SelectedControls : public host::SelectedVBControls {
+ public:
+  explicit SelectedControls(std::shared_ptr<DesignerState> state) : state_(std::move(state)) {}
+  long Count() override { return static_cast<long>(Selected().size()); }
+  host::Ref<host::VBControl> Item(const host::Index& index) override {
+    return std::make_shared<Control>(state_, ItemOf(Selected(), index, NameOf));
+  }
+
+ private:
+  std::vector<DesignerBlockRef> Selected() {
+    state_->Owner();
+    std::vector<DesignerBlockRef> selected;
+    for (const auto& weak : state_->selected)
+      if (DesignerBlockRef block = weak.lock(); block && state_->Holds(*block)) selected.push_back(std::move(block));
+    return selected;
+  }
+  std::shared_ptr<DesignerState> state_;
+};
+
+class Form : public host::VBForm {
+ public:
+  explicit Form(std::shared_ptr<DesignerState> state) : state_(std::move(state)) {}
+  host::Ref<host::VBControls> VBControls() override { return std::make_shared<Controls>(state_); }
+  host::Ref<host::SelectedVBControls> SelectedVBControls() override {
+    return std::make_shared<SelectedControls>(state_);
+  }
+
+ private:
+  std::shared_ptr<DesignerState> state_;
+};
+
+}  // namespace
+
+host::Ref<host::VBForm> NewForm(std::shared_ptr<DesignerState> state) {
+  return std::make_shared<Form>(std::move(state));
+}
+
+}  // namespace corvane::environment
