@@ -69,7 +69,7 @@ void WriteNewProperties(DesignerState& state, const ControlClass& known, Designe
   DesignerPart& part = state.Part();
   const std::string quoted_name = Quoted(control.name);
   const double width = static_cast<double>(known.width), height = static_cast<double>(known.height);
-  const double left = Middle(container, "ClientWidth", "Width", known.width ? width : kLineWidth);
+  const double left = Middle(container, "ClientWidth", "Width", known.Find("X1") ? kLineWidth : width);
   const double top = Middle(container, "ClientHeight", "Height", height);
   if (known.Find("X1")) return PlaceLine(part, control, left, top, kLineWidth, container);
 

@@ -68,6 +68,11 @@ std::vector<Listed> ListOf(const PropertyPlace& place) {
   return list;
 }
 
+// The value of a number or a boolean as WriteValue gives it.
+std::string_view WithoutComment(std::string_view written) {
+  return TrimBlanks(written.substr(0, written.find('\'')));
+}
+
 host::Ref<host::Properties> NewNestedList(const PropertyPlace& owner, const std::string& name);
 
 class ListedProperty : public host::Property {
@@ -279,7 +284,7 @@ void ListedProperty::SetRowLine(const Variant& value) {
   if (row.kind == PropertyKind::Text) return SetText(runtime::ToText(value));
 
   const std::string text = WriteValue(row.kind, row.choices, value);
-  const Variant written = ReadValue(row.kind, {std::string_view(text).substr(0, text.find("  '")), {}});
+  const Variant written = ReadValue(row.kind, {WithoutComment(text), {}});
   const bool is_default =
       (!row.default_value.empty() || row.kind == PropertyKind::Shortcut) && written == DefaultValue(row, {});
   if (is_default && !row.always_written)
@@ -319,7 +324,7 @@ void ListedProperty::SetFileLine(const Variant& value) {
     text = Quoted(runtime::ToText(value));
   else
     throw host::Error(runtime::kPropertyReadOnly);
-  if (before == value || GuessValue({text, {}}) == before) return;
+  if (before == value || GuessValue({WithoutComment(text), {}}) == before) return;
   if (SetLine(place_.Part(), place_.Block(), listed_.name, text)) place_.state->Edited();
 }
 
