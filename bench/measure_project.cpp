@@ -1,0 +1,150 @@
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <stdexcept>
+#include <unistd.h>
+
+#include "bench/measurements.h"
+#include "bench/process.h"
+#include "environment/disk_files.h"
+#include "environment/environment.h"
+#include "host/code_module.h"
+
+namespace corvane::bench {
+
+namespace {
+
+constexpr int kRounds = 5;
+constexpr const char* kWords[] = {"discount", "article"};  // one here and there, one nearly everywhere
+
+struct OpenProject {
+  explicit OpenProject(const std::string& path)
+      : files(environment::NewDiskFiles()), environment(environment::Environment::Create(*files)) {
+    environment->Open(environment::WindowsPath(path));
+  }
+  std::unique_ptr<host::Files> files;
+  std::shared_ptr<environment::Environment> environment;
+};
+
+struct Hit {
+  long component, line;
+  std::string text;
+};
+
+// Each line that holds [word] in any case, once, as the explorer would list it.
+std::vector<Hit> Search(OpenProject& project, const std::string& word) {
+  std::vector<Hit> hits;
+  const auto components = project.environment->ActiveVBProject()->VBComponents();
+  for (long component = 1; component <= components->Count(); ++component) {
+    const auto module = components->Item(component)->CodeModule();
+    if (!module) continue;
+    for (long line = 1, column = 1, end_line = -1, end_column = -1;
+         module->Find(word, line, column, end_line, end_column, false, false, false);
+         ++line, column = 1, end_line = end_column = -1) {
+      hits.push_back({component, line, module->Lines(line, 1)});
+      if (line >= module->CountOfLines()) break;
+    }
+  }
+  return hits;
+}
+
+long Resident() {
+  std::ifstream in("/proc/self/statm");
+  long total = 0, resident = 0;
+  in >> total >> resident;
+  return resident * sysconf(_SC_PAGESIZE);
+}
+
+std::string FolderOf(const GeneratedProject& project) {
+  return std::filesystem::path(project.path).parent_path().string();
+}
+
+// The modules of [project], one a line, for tools that take a list.
+std::string ListOfFiles(const Setting& setting, const GeneratedProject& project) {
+  const std::string path = setting.scratch + "/files";
+  std::ofstream out(path);
+  for (const auto& file : project.files) out << std::filesystem::path(file).filename().string() << "\n";
+  return path;
+}
+
+}  // namespace
+
+void MeasureListing(const Setting& setting, Table& table) {
+  double first = 0, last = 0;  // seconds a line
+  for (const auto& project : setting.projects) {
+    const std::string list = ListOfFiles(setting, project), folder = FolderOf(project);
+    long rows = 0, tags = 0;
+    const auto ours = [&] {
+      const auto run = Run({setting.program, "list", project.path, "--procedures"}, folder);
+      if (run.status != 0) throw std::runtime_error("corvane list ended with " + std::to_string(run.status));
+      rows = run.lines;
+      return run.seconds;
+    };
+    const auto peer = [&] {
+      const auto run =
+          Run({"ctags", "-L", list, "-f", "-", "--sort=no", "--kinds-Basic=f", "--langmap=Basic:+.frm.cls.ctl.pag"},
+              folder);
+      tags = run.lines;
+      return run.seconds;
+    };
+    const auto [our_time, peer_time] = InTurn(kRounds, ours, peer);
+    table.AtMost("listing procedures of " + Count(project.lines) + " lines (peer: ctags)", Milliseconds(our_time),
+                 Milliseconds(peer_time), our_time / peer_time, 1.0);
+    table.Note("  ours " + Count(rows) + " rows, properties with them; ctags " + Count(tags) + " tags, without them");
+    last = our_time / static_cast<double>(project.lines);
+    if (first == 0) first = last;
+  }
+  table.AtMost("  its time a line, the largest project to the smallest", "", "", last / first, 1.2);
+}
+
+void MeasureSearch(const Setting& setting, Table& table) {
+  double first = 0, last = 0;  // seconds a line
+  for (const auto& project : setting.projects) {
+    OpenProject open(project.path);
+    std::vector<std::string> grep = {"xargs", "-a", ListOfFiles(setting, project), "grep", "-F", "-i", "-n", "-H"};
+    for (const char* word : kWords) {
+      size_t hits = 0;
+      long lines = 0;
+      const auto ours = [&] { return Seconds([&] { hits = Search(open, word).size(); }); };
+      const auto peer = [&] {
+        auto arguments = grep;
+        arguments.push_back(word);
+        // The word goes in front of the files.
+        arguments.insert(arguments.end() - 1, "-e");
+        const auto run = Run(arguments, FolderOf(project));
+        lines = run.lines;
+        return run.seconds;
+      };
+      const auto [our_time, peer_time] = InTurn(kRounds, ours, peer);
+      table.AtMost("searching " + Count(project.lines) + " lines for \"" + word + "\" (peer: grep -Fin)",
+                   Milliseconds(our_time), Milliseconds(peer_time), our_time / peer_time, 1.0);
+      table.Note("  ours " + Count(static_cast<long>(hits)) + " lines of code; grep " + Count(lines) +
+                 " lines, designer parts with them");
+      if (word != kWords[0]) continue;
+      last = our_time / static_cast<double>(project.lines);
+      if (first == 0) first = last;
+    }
+  }
+  table.AtMost("  its time a line, the largest project to the smallest", "", "", last / first, 1.2);
+}
+
+int OpenAndTellMemory(const std::string& project) {
+  OpenProject open(project);
+  std::printf("%ld\n", Resident());
+  return 0;
+}
+
+void MeasureMemory(const Setting& setting, Table& table) {
+  for (const auto& project : setting.projects) {
+    const auto run = Run({setting.self, "--memory-of", project.path}, setting.scratch, true);
+    if (run.status != 0) throw std::runtime_error("the project could not be opened");
+    const double resident = std::stod(run.output), bytes = static_cast<double>(project.bytes);
+    table.AtMost("resident memory, " + Count(project.lines) + " lines open (beside: bytes of sources)",
+                 std::to_string(static_cast<long>(resident / 1e6)) + " MB",
+                 std::to_string(static_cast<long>(bytes / 1e6)) + " MB", resident / bytes, 2.5);
+  }
+}
+
+}  // namespace corvane::bench

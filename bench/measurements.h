@@ -1,0 +1,37 @@
+// What is measured. Each adds its rows to the table; all work on generated projects of three sizes.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "bench/generate_project.h"
+#include "bench/table.h"
+
+namespace corvane::bench {
+
+// The projects, the smallest first, and where our programs are.
+struct Setting {
+  std::vector<GeneratedProject> projects;
+  std::string program;  // corvane
+  std::string self;     // this program
+  std::string scratch;  // folder for files of the moment
+};
+
+// Analysing a text into stored lines with marks, and Scintilla's lexer for Visual Basic on the same text.
+void MeasureAnalysis(const Setting& setting, Table& table);
+
+// `corvane list --procedures` as a whole process, and universal-ctags over the same files.
+void MeasureListing(const Setting& setting, Table& table);
+
+// A word in any case in the open project, all hits listed, and grep over the same files.
+void MeasureSearch(const Setting& setting, Table& table);
+
+// Resident memory of the open project.
+void MeasureMemory(const Setting& setting, Table& table);
+// What the process that is measured does: opens [project], prints its resident bytes, ends. Returns its exit status.
+int OpenAndTellMemory(const std::string& project);
+
+// The code list on the Qt canvas, without a display.
+void MeasurePainting(const Setting& setting, Table& table);
+
+}  // namespace corvane::bench
