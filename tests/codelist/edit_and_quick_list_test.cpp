@@ -1,0 +1,142 @@
+#include "list_fixture.h"
+
+namespace corvane::codelist {
+namespace {
+
+using namespace forms;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class EditBox : public ListTest {
+ protected:
+  void SetUp() override {
+    list.sGrid("VB");
+    list.SetText("a\r\nif b then\r\nc\r\n");
+    list.SetStrPos(2);
+    list.CodeLostFocus = {};
+    events.clear();
+  }
+  void Type(const std::string& text) { list.txtEdit.UserEdit(text, 0, 0); }
+};
+
+TEST_F(EditBox, ShowsTheCleanLineAlongTheBottom) {
+  list.EditCodeline();
+  EXPECT_TRUE(list.txtEdit.Visible());
+  EXPECT_EQ(list.txtEdit.Text(), "If b Then");
+  EXPECT_EQ(list.txtEdit.Left(), 412);
+  EXPECT_EQ(list.txtEdit.Top(), 9 * 234 - 234 - 20);
+  EXPECT_EQ(list.txtEdit.Width(), 3745 - 392 - 30);
+  EXPECT_TRUE(list.txtEdit.HasFocus());
+}
+
+TEST_F(EditBox, EnterTellsTheChangeAndGivesTheFocusBack) {
+  list.EditCodeline();
+  Type("x");
+  list.txtEdit.UserKeyPress(vbKeyReturn);
+  EXPECT_THAT(events, ElementsAre("UpdateString 2 x"));
+  EXPECT_TRUE(list.pic.HasFocus());
+  EXPECT_FALSE(list.txtEdit.Visible());
+  EXPECT_EQ(list.List(2), "If b Then") << "the container replaces the line";
+}
+
+TEST_F(EditBox, EnterWithoutAChangeTellsNothing) {
+  list.EditCodeline();
+  list.txtEdit.UserKeyPress(vbKeyReturn);
+  EXPECT_THAT(events, IsEmpty());
+}
+
+TEST_F(EditBox, AnArrowTellsTheChangeAndGoesOn) {
+  list.EditCodeline();
+  Type("x");
+  list.txtEdit.UserKeyDown(vbKeyDown, 0);
+  EXPECT_THAT(events, ElementsAre("UpdateString 2 x", "Click"));
+  EXPECT_EQ(list.txtEdit.Text(), "c");
+  list.txtEdit.UserKeyDown(vbKeyUp, 0);
+  EXPECT_EQ(list.txtEdit.Text(), "If b Then");
+  EXPECT_TRUE(list.txtEdit.Visible());
+}
+
+TEST_F(EditBox, EscapeDropsTheEdit) {
+  list.EditCodeline();
+  Type("x");
+  list.txtEdit.UserKeyPress(vbKeyEscape);
+  EXPECT_THAT(events, IsEmpty());
+  EXPECT_FALSE(list.txtEdit.Visible());
+  EXPECT_EQ(list.txtEdit.Text(), "");
+}
+
+TEST_F(EditBox, LosingTheFocusDropsTheEdit) {
+  list.EditCodeline();
+  Type("x");
+  window.other.SetFocus();
+  EXPECT_THAT(events, IsEmpty());
+  EXPECT_FALSE(list.txtEdit.Visible());
+}
+
+TEST_F(EditBox, NeedsACurrentLine) {
+  list.Clear();
+  list.EditCodeline();
+  EXPECT_FALSE(list.txtEdit.Visible());
+}
+
+class QuickList : public ListTest {
+ protected:
+  void SetUp() override {
+    Load(30);
+    list.CodeLostFocus = {};
+    for (long line : {5, 20}) list.AddQuickItem(line);
+    list.ShowQuickList();
+  }
+};
+
+TEST_F(QuickList, LiesOverTheLowerHalf) {
+  EXPECT_TRUE(list.lbx.Visible());
+  EXPECT_TRUE(list.lbx.HasFocus());
+  EXPECT_EQ(list.lbx.Place(), (Rect{412, 6 * 234, 3745 - 392 - 30, 4 * 234}));
+}
+
+TEST_F(QuickList, AChoiceGoesToItsLineAndKeepsTheList) {
+  list.lbx.UserSelect(1);
+  EXPECT_EQ(list.ListIndex(), 20);
+  EXPECT_TRUE(list.lbx.Visible());
+  EXPECT_TRUE(list.lbx.HasFocus());
+}
+
+TEST_F(QuickList, AContainerThatTakesTheFocusDuringAChoiceDoesNotCloseIt) {
+  list.vs.Change = [this] { window.other.SetFocus(); };
+  list.lbx.UserSelect(1);
+  EXPECT_TRUE(list.lbx.Visible());
+  EXPECT_TRUE(list.lbx.HasFocus());
+}
+
+TEST_F(QuickList, DoubleClickEnterAndEscapeHideIt) {
+  list.lbx.UserDblClick();
+  EXPECT_FALSE(list.lbx.Visible());
+  for (int key : {vbKeyReturn, vbKeyEscape}) {
+    list.ShowQuickList();
+    list.lbx.UserKeyPress(key);
+    EXPECT_FALSE(list.lbx.Visible()) << key;
+    EXPECT_TRUE(list.Visible()) << "the list itself stays";
+  }
+}
+
+TEST_F(QuickList, LosingTheFocusHidesIt) {
+  window.other.SetFocus();
+  EXPECT_FALSE(list.lbx.Visible());
+}
+
+TEST_F(QuickList, MovingThePointerOverItIsTold) {
+  list.MouseMove = [this](int, int, Twips, Twips) { events.push_back("MouseMove"); };
+  list.lbx.UserMouseMove(0, 0, 10, 10);
+  EXPECT_THAT(events, ElementsAre("MouseMove"));
+}
+
+TEST_F(QuickList, AResizeShowsItAgain) {
+  window.other.SetFocus();
+  list.SetHeight(1170);
+  EXPECT_TRUE(list.lbx.Visible());
+  EXPECT_EQ(list.lbx.Top(), 3 * 234);
+}
+
+}  // namespace
+}  // namespace corvane::codelist

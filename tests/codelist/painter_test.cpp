@@ -1,0 +1,295 @@
+#include "list_fixture.h"
+
+namespace corvane::codelist {
+namespace {
+
+using testing::AllOf;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+constexpr char kGutterOfRow1[] = "fill 0 0 392 234 system:22";
+
+class Painter : public ListTest {
+ protected:
+  // One line in a list of [mode]; what is drawn for it, without the highlight, on row 2.
+  std::vector<std::string> TextsOf(const std::string& line, const std::string& mode = "TEXT") {
+    list.sGrid(mode);
+    list.SetText("::\r\n" + line + "\r\n");
+    return TextsOnRow(2);
+  }
+  std::vector<std::string> TextsOnRow(long row) {
+    const std::string y = " " + std::to_string((row - 1) * 234) + " \"";
+    std::vector<std::string> texts;
+    for (const std::string& call : DrawnTexts())
+      if (call.find(y) != std::string::npos) texts.push_back(call.substr(5));
+    Canvas().Forget();
+    return texts;
+  }
+  void Redraw() {
+    Canvas().Forget();
+    list.pic.Paint();
+  }
+};
+
+TEST_F(Painter, DrawsRunsBetweenMarksInTheColourOfTheirLevel) {
+  list.sGrid("VB");
+  list.SetText("x\r\nIf a Then b\r\n");
+  EXPECT_THAT(TextsOnRow(2), ElementsAre("482 234 \"If\" Arial 9.75 #000000", "490 234 \"If\" Arial 9.75 #000000",
+                                         "686 234 \" a \" Arial 9.75 #0000ff", "972 234 \"Then\" Arial 9.75 #000000",
+                                         "980 234 \"Then\" Arial 9.75 #000000", "1372 234 \" b\" Arial 9.75 #0000ff"));
+}
+
+TEST_F(Painter, DrawsACommentInGreyWithItsMark) {
+  EXPECT_THAT(TextsOf("a 'b", "VB"),
+              ElementsAre("392 234 \" a \" Arial 9.75 #000000", "686 234 \"'b\" Arial 9.75 #c0c0c0"));
+}
+
+TEST_F(Painter, AStringInTheRunKeepsTheCommentInTheCodesColour) {
+  EXPECT_THAT(TextsOf("a = \"\" 'b", "VB"), ElementsAre("392 234 \" a = \"\" 'b\" Arial 9.75 #000000"));
+  EXPECT_THAT(TextsOf("''\"", "VB"), Contains(HasSubstr("#c0c0c0"))) << "but not at the start of the run";
+}
+
+TEST_F(Painter, DrawsCommentsOfSql) {
+  EXPECT_THAT(TextsOf("a -- b", "SQL"),
+              ElementsAre("392 234 \" a \" Arial 9.75 #000000", "686 234 \"-- b\" Arial 9.75 #c0c0c0"));
+  EXPECT_THAT(TextsOf("a /* b */", "SQL"), Contains(HasSubstr("\"/* b */\" Arial 9.75 #c0c0c0")));
+}
+
+TEST_F(Painter, DrawsALineInsideABlockCommentInGrey) {
+  list.sGrid("SQL");
+  list.SetText("/* a\r\nb\r\n");
+  EXPECT_THAT(TextsOnRow(2), ElementsAre("490 234 \" b\" Arial 9.75 #c0c0c0"));
+}
+
+TEST_F(Painter, OtherListsHaveNoComments) {
+  EXPECT_THAT(TextsOf("a 'b -- c"), ElementsAre("392 234 \" a 'b -- c\" Arial 9.75 #000000"));
+}
+
+TEST_F(Painter, DrawsACaptionBoldAndUnderlinedBetweenItsBlanks) {
+  EXPECT_THAT(TextsOf("::  Heading "), ElementsAre("392 234 \"" + runtime::Space(40) + "Heading" + runtime::Space(125) +
+                                                   "\" Arial 9.75 bold underline #000080"));
+}
+
+TEST_F(Painter, DrawsAnEmptyCaptionForTheColonsAlone) {
+  EXPECT_THAT(TextsOf("::"), ElementsAre("392 234 \"" + runtime::Space(165) + "\" Arial 9.75 bold underline #000080"));
+}
+
+TEST_F(Painter, ABlankInFrontMakesNoCaption) {
+  EXPECT_THAT(TextsOf(" ::x"), ElementsAre("392 234 \"  ::x\" Arial 9.75 #000000"));
+}
+
+TEST_F(Painter, DrawsOnlyTheCaptionOfAHotLink) {
+  EXPECT_THAT(TextsOf("<href=target>here"), ElementsAre("392 234 \"here\" Arial 9.75 bold underline #800080"));
+  EXPECT_EQ(list.List(2), "<href=target>here");
+}
+
+TEST_F(Painter, TheFontIsPlainAgainBehindACaption) {
+  list.sGrid("TEXT");
+  list.SetText("::a\r\nb\r\n");
+  EXPECT_THAT(TextsOnRow(2), ElementsAre("392 234 \" b\" Arial 9.75 #000000"));
+}
+
+TEST_F(Painter, CutsCharactersScrolledOutAndKeepsTheLevels) {
+  list.sGrid("TEXT");
+  list.SetText("x\r\nab/+\\cd\r\n");
+  list.hs.SetValue(2);  // the blank in front counts
+  EXPECT_THAT(TextsOnRow(2), ElementsAre("392 234 \"b\" Arial 9.75 #000000", "490 234 \"cd\" Arial 9.75 #0000ff"));
+  list.hs.SetValue(3);
+  EXPECT_THAT(TextsOnRow(2), ElementsAre("392 234 \"cd\" Arial 9.75 #0000ff")) << "no gap in front of the run";
+  list.hs.SetValue(4);
+  EXPECT_THAT(TextsOnRow(2), ElementsAre("392 234 \"d\" Arial 9.75 #0000ff"));
+  list.hs.SetValue(5);
+  EXPECT_THAT(TextsOnRow(2), IsEmpty());
+}
+
+TEST_F(Painter, WhatLiesBehindTheRightEdgeIsNotDrawn) {
+  list.sGrid("TEXT");
+  list.SetText("x\r\n" + std::string(1'000'000, 'y') + "/+\\z\r\n");
+  const auto texts = TextsOnRow(2);
+  ASSERT_EQ(texts.size(), 1u);
+  EXPECT_LT(texts[0].size(), 500u);
+}
+
+TEST_F(Painter, TheCurrentLineHasItsColourAndItsPicture) {
+  Load(3);
+  Redraw();
+  EXPECT_THAT(Drawn("fill"), Contains("fill 0 0 3745 234 #a0ffdc"));
+  EXPECT_THAT(Drawn("picture"), ElementsAre(HasSubstr("picture 10 10 372 214")));
+}
+
+TEST_F(Painter, WithoutFocusTheCurrentLineIsFramed) {
+  Load(3);
+  window.other.SetFocus();
+  EXPECT_THAT(Drawn("frame"), ElementsAre("frame 0 0 3745 234 #00ff00"));
+  EXPECT_THAT(Drawn("fill"),
+              ElementsAre("fill 0 0 3745 234 #a0ffdc", kGutterOfRow1, "fill 0 0 3745 234 #d2ffe6", kGutterOfRow1));
+}
+
+TEST_F(Painter, SelectedLinesAreGreyAndTheCurrentOneDarker) {
+  Load(3);
+  list.SelectAll();
+  EXPECT_THAT(Drawn("fill"), AllOf(Contains("fill 0 234 3745 234 #c0c0c0"), Contains("fill 0 0 3745 234 #808080")));
+  Redraw();
+  EXPECT_THAT(Drawn("fill"), Contains("fill 0 468 3745 234 #c0c0c0")) << "the bits survive";
+}
+
+TEST_F(Painter, NothingIsDrawnDuringALoad) {
+  list.sGrid("TEXT");
+  services.loop.on_do_events = [this] { EXPECT_THAT(DrawnTexts(), IsEmpty()); };
+  list.SetText(runtime::Replace(std::string(40, 'x'), "x", "a\r\n"));
+  EXPECT_EQ(services.loop.yields, 2);
+  EXPECT_THAT(DrawnTexts(), Not(IsEmpty()));
+}
+
+TEST_F(Painter, AppendedLinesAreDrawnBelowOneAnother) {
+  list.sGrid("TEXT");
+  list.AddItem("a");
+  list.AddItem("b");
+  EXPECT_THAT(DrawnTexts(),
+              ElementsAre("text 392 0 \" a\" Arial 9.75 #000000", "text 392 234 \" b\" Arial 9.75 #000000"));
+  EXPECT_THAT(Drawn("fill"), Contains("fill 0 0 3745 234 #a0ffdc")) << "the first is the current one";
+}
+
+TEST_F(Painter, LinesBelowTheSurfaceAreCountedButNotDrawn) {
+  list.sGrid("VB");
+  for (int line = 0; line < 100; ++line) list.AddItem("do");
+  EXPECT_EQ(list.LineLevel(100), 33 + 99);
+  EXPECT_LT(DrawnTexts().size(), 30u);
+}
+
+TEST_F(Painter, ShowsThePictureOfALine) {
+  services.files.Write("C:\\a.bmp", "BMxx");
+  list.AddIcon("C:\\a.bmp");
+  EXPECT_THAT(TextsOf("\x04"
+                      "1\x04"
+                      "x"),
+              ElementsAre("632 234 \" x\" Arial 9.75 #000000"));
+  Redraw();
+  EXPECT_THAT(Drawn("picture"), Contains("picture 452 244 194 194 4 bytes"));
+}
+
+TEST_F(Painter, APictureThatIsNotThereLeavesItsPlace) {
+  EXPECT_THAT(TextsOf("\x04"
+                      "9\x04"
+                      "x"),
+              ElementsAre("632 234 \" x\" Arial 9.75 #000000"));
+}
+
+TEST_F(Painter, AnEmptyPictureNameIsText) {
+  EXPECT_THAT(TextsOf("\x04\x04"
+                      "x"),
+              ElementsAre(HasSubstr("392 234")));
+}
+
+TEST_F(Painter, DrawsTheCellsOfAGridAtItsPositions) {
+  EXPECT_THAT(TextsOf("a|b|c|d", "|1000,2000"),
+              ElementsAre("392 234 \" a\" Arial 9.75 #000000", "1100 234 \"b\" Arial 9.75 #000000",
+                          "2100 234 \"c|d\" Arial 9.75 #000000"));
+  Redraw();
+  EXPECT_THAT(Drawn("line"), AllOf(Contains("line 1000 234 1000 468 #000000 width 1"),
+                                   Contains("line 2000 234 2000 468 #000000 width 1")));
+}
+
+TEST_F(Painter, TheBarMovesAGridByFiftyTwips) {
+  TextsOf("a|b", "|1000");
+  list.hs.SetValue(2);
+  EXPECT_THAT(TextsOnRow(2), ElementsAre("292 234 \" a\" Arial 9.75 #000000", "1000 234 \"b\" Arial 9.75 #000000"));
+}
+
+TEST_F(Painter, ATreeEntryIsBoldAndHasABox) {
+  list.AddTreeItem("a", 33, false);
+  list.AddTreeItem("b", 34, false);
+  list.AddTreeItem("c", 35, true);
+  Redraw();
+  EXPECT_THAT(TextsOnRow(1), ElementsAre("482 0 \" a\" Arial 9.75 #000000", "490 0 \" a\" Arial 9.75 #000000",
+                                         "482 0 \" a\" Arial 9.75 #000000", "490 0 \" a\" Arial 9.75 #000000"));
+  Redraw();
+  // Twelve blanks of indent: the box stands five blanks in front of the text.
+  EXPECT_THAT(Drawn("frame"), ElementsAre("frame 1080 274 150 154 #0000ff"));
+  EXPECT_THAT(Drawn("line 1"),
+              ElementsAre("line 1115 354 1195 354 #0000ff width 1", "line 1154 312 1154 396 #0000ff width 1"))
+      << "a cross: the next entry is hidden";
+}
+
+TEST_F(Painter, AnOpenBoxHasOneBar) {
+  list.AddTreeItem("a", 34, false);
+  list.AddTreeItem(
+      "\x03"
+      "b",
+      35, false);
+  Redraw();
+  EXPECT_THAT(Drawn("line 1"),
+              ElementsAre("line 1118 120 1189 120 #0000ff width 1", "line 1118 120 1189 120 #0000ff width 1"));
+}
+
+TEST_F(Painter, APlainTreeEntryHasNoBox) {
+  list.AddTreeItem("x", 33, false);
+  list.AddTreeItem(
+      "\x03"
+      "b",
+      34, false);
+  Redraw();
+  EXPECT_THAT(Drawn("frame"), IsEmpty());
+  EXPECT_THAT(TextsOnRow(2), ElementsAre("392 234 \"" + runtime::Space(13) + "b\" Arial 9.75 #0000ff"));
+}
+
+struct Tag {
+  const char* entry;
+  const char* shown;
+  bool box;
+};
+
+TEST_F(Painter, ATagIsDroppedFromWhatIsShown) {
+  const Tag kTags[] = {{"\x03(key)b", "b", false},
+                       {"\x03(key!)b", "b", true},
+                       {"\x03(!)b", "b", true},
+                       {"\x03()b", "()b", false},
+                       {"\x03(b", "(b", false}};
+  for (const Tag& tag : kTags) {
+    list.Clear();
+    list.AddTreeItem("x", 33, false);
+    list.AddTreeItem(tag.entry, 34, false);
+    Redraw();
+    EXPECT_EQ(!Drawn("frame").empty(), tag.box) << tag.entry;
+    EXPECT_THAT(TextsOnRow(2), ElementsAre("392 234 \"" + runtime::Space(13) + tag.shown + "\" Arial 9.75 #0000ff"));
+    EXPECT_EQ(list.List(2), tag.entry + 1) << "it stays in the line";
+  }
+}
+
+TEST_F(Painter, AnIconTagIsNotShown) {
+  list.AddTreeItem("x", 33, false);
+  list.AddTreeItem(
+      "\x03"
+      "b[icon=3]c",
+      33, false);
+  Redraw();
+  EXPECT_THAT(TextsOnRow(2), ElementsAre("392 234 \" bc\" Arial 9.75 #000000"));
+}
+
+TEST_F(Painter, AMenuGroupOfTheScriptTreeHasAPicture) {
+  list.ListRole = kScriptTree;
+  list.AddTreeItem("x", 33, false);
+  list.AddTreeItem("Menu" + runtime::Space(100) + "{", 33, false);
+  Redraw();
+  // Behind " Menu" and two of the hundred blanks.
+  EXPECT_THAT(Drawn("picture"), Contains(HasSubstr("picture 1186 244 194 194")));
+}
+
+TEST_F(Painter, RowsAndRuleFillThePane) {
+  Load(3);
+  list.Clear();
+  EXPECT_THAT(Canvas().Calls(),
+              ElementsAre("clear #ffffff", "fill 0 0 392 2340 system:22", "line 392 0 392 2340 #000000 width 1"));
+}
+
+TEST_F(Painter, AStepDownDrawsTwoRowsOnly) {
+  Load(100);
+  Key(forms::vbKeyDown);
+  EXPECT_EQ(DrawnTexts().size(), 2u);
+}
+
+}  // namespace
+}  // namespace corvane::codelist

@@ -1,0 +1,262 @@
+#include "list_fixture.h"
+
+namespace corvane::codelist {
+namespace {
+
+using forms::vbKeyDown;
+using forms::vbKeyEnd;
+using forms::vbKeyHome;
+using forms::vbKeyPageDown;
+using forms::vbKeyPageUp;
+using forms::vbKeyUp;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+
+class Scrolling : public ListTest {
+ protected:
+  struct Place {
+    long top, current, row;
+    bool operator==(const Place& other) const = default;
+    friend void PrintTo(const Place& p, std::ostream* out) { *out << p.top << " " << p.current << " " << p.row; }
+  };
+  Place Where() { return {list.TopLine(), list.ListIndex(), list.CurrentRow()}; }
+  // A tree of four lines whose second and third are hidden.
+  void LoadFolded() {
+    list.sGrid("TREE");
+    list.SetText("a\r\n++b\r\n++c\r\nd\r\ne\r\n");
+    events.clear();
+  }
+};
+
+TEST_F(Scrolling, TheControlTakesTheHeightOfItsRows) {
+  list.Move(0, 0, 4000, 2000);
+  EXPECT_EQ(list.VisibleRows(), 9);
+  EXPECT_EQ(list.Height(), 9 * 234);
+  list.Move(0, 0, 4000, 1950);
+  EXPECT_EQ(list.VisibleRows(), 8);
+  EXPECT_EQ(list.pic.Height(), 8 * 234);
+  EXPECT_EQ(list.vs.Height(), 7 * 234);
+  EXPECT_EQ(list.hs.Top(), 7 * 234);
+}
+
+TEST_F(Scrolling, ALoadStartsAtTheFirstLine) {
+  Load(30);
+  EXPECT_EQ(Where(), (Place{1, 1, 1}));
+}
+
+TEST_F(Scrolling, SetStrPosShowsTheLineOnRowThree) {
+  Load(30);
+  EXPECT_EQ(list.SetStrPos(20), 20);
+  EXPECT_EQ(Where(), (Place{18, 20, 3}));
+  EXPECT_EQ(list.vs.Value(), 17);
+  EXPECT_THAT(events, IsEmpty());
+  list.SetStrPos(2);
+  EXPECT_EQ(Where(), (Place{1, 2, 2}));
+  list.SetStrPos(1);
+  EXPECT_EQ(Where(), (Place{1, 1, 1}));
+}
+
+TEST_F(Scrolling, SetStrPosOutsideTheListIsIgnored) {
+  Load(5);
+  list.SetStrPos(3);
+  EXPECT_EQ(list.SetStrPos(6), 6);
+  EXPECT_EQ(list.SetStrPos(0), 0);
+  EXPECT_EQ(list.ListIndex(), 3);
+}
+
+TEST_F(Scrolling, SetStrPosStepsOverHiddenLines) {
+  LoadFolded();
+  list.SetStrPos(5);
+  EXPECT_EQ(Where(), (Place{1, 5, 3}));
+}
+
+TEST_F(Scrolling, GoHomeShowsTheFirstLine) {
+  Load(30);
+  list.SetStrPos(20);
+  list.GoHome();
+  EXPECT_EQ(Where(), (Place{1, 1, 1}));
+  EXPECT_EQ(list.vs.Value(), list.vs.Min());
+}
+
+TEST_F(Scrolling, DownMovesTheCurrentLineAndScrollsInFrontOfTheBar) {
+  Load(30);
+  for (int step = 1; step <= 8; ++step) Key(vbKeyDown);
+  EXPECT_EQ(Where(), (Place{1, 9, 9}));
+  Key(vbKeyDown);
+  EXPECT_EQ(Where(), (Place{2, 10, 9})) << "row ten lies behind the bar";
+  EXPECT_EQ(list.vs.Value(), 1);
+  EXPECT_EQ(events, std::vector<std::string>(9, "Click"));
+}
+
+TEST_F(Scrolling, DownEndsAtTheLastLine) {
+  Load(3);
+  for (int step = 0; step < 5; ++step) Key(vbKeyDown);
+  EXPECT_EQ(Where(), (Place{1, 3, 3}));
+  EXPECT_EQ(events.size(), 2u);
+}
+
+TEST_F(Scrolling, DownPastTheLastLinesDrawsAnEmptyRow) {
+  Load(10);
+  for (int step = 1; step < 9; ++step) Key(vbKeyDown);
+  Canvas().Forget();
+  Key(vbKeyDown);
+  EXPECT_EQ(Where(), (Place{2, 10, 9}));
+  EXPECT_THAT(Drawn("fill"), testing::Contains("fill 0 2106 3745 234 #ffffff"));
+}
+
+TEST_F(Scrolling, UpMovesTheCurrentLineAndScrollsAtTheTop) {
+  Load(30);
+  list.SetStrPos(20);
+  Key(vbKeyUp);
+  Key(vbKeyUp);
+  EXPECT_EQ(Where(), (Place{18, 18, 1}));
+  Key(vbKeyUp);
+  EXPECT_EQ(Where(), (Place{17, 17, 1}));
+  EXPECT_EQ(list.vs.Value(), 16);
+  EXPECT_EQ(events, std::vector<std::string>(3, "Click"));
+}
+
+TEST_F(Scrolling, UpEndsAtTheFirstLine) {
+  Load(3);
+  Key(vbKeyUp);
+  EXPECT_EQ(Where(), (Place{1, 1, 1}));
+  EXPECT_THAT(events, IsEmpty());
+}
+
+TEST_F(Scrolling, StepsGoOverHiddenLines) {
+  LoadFolded();
+  Key(vbKeyDown);
+  EXPECT_EQ(Where(), (Place{1, 4, 2}));
+  Key(vbKeyUp);
+  EXPECT_EQ(Where(), (Place{1, 1, 1}));
+}
+
+TEST_F(Scrolling, DownStaysInFrontOfAHiddenEnd) {
+  list.sGrid("TREE");
+  list.SetText("a\r\n++b\r\n");
+  Key(vbKeyDown);
+  EXPECT_EQ(Where(), (Place{1, 1, 1}));
+}
+
+TEST_F(Scrolling, PageDownStepsByAllRowsButTwo) {
+  Load(30);
+  Key(vbKeyPageDown);
+  EXPECT_EQ(Where(), (Place{9, 9, 1}));
+  EXPECT_EQ(list.vs.Value(), 8);
+  EXPECT_THAT(events, ElementsAre("Click"));
+  Key(vbKeyPageDown);
+  Key(vbKeyPageDown);
+  EXPECT_EQ(Where(), (Place{25, 25, 1}));
+  Key(vbKeyPageDown);
+  EXPECT_EQ(Where(), (Place{25, 25, 1})) << "a page that would end behind the last line does nothing";
+}
+
+TEST_F(Scrolling, PageUpStepsBackButNotAboveTheFirstLine) {
+  Load(30);
+  list.SetStrPos(20);
+  Key(vbKeyPageUp);
+  EXPECT_EQ(Where(), (Place{10, 10, 1}));
+  Key(vbKeyPageUp);
+  Key(vbKeyPageUp);
+  EXPECT_EQ(Where(), (Place{1, 1, 1}));
+  events.clear();
+  Key(vbKeyPageUp);
+  EXPECT_THAT(events, IsEmpty());
+}
+
+TEST_F(Scrolling, HomeGoesToTheFirstLine) {
+  Load(30);
+  list.SetStrPos(20);
+  Key(vbKeyHome);
+  EXPECT_EQ(Where(), (Place{1, 1, 1}));
+}
+
+TEST_F(Scrolling, HomeWithOneLineDoesNothing) {
+  Load(1);
+  Key(vbKeyHome);
+  EXPECT_EQ(Where(), (Place{1, 1, 1}));
+  EXPECT_THAT(events, IsEmpty());
+}
+
+TEST_F(Scrolling, EndShowsTheLastLineUnderTheCurrentOne) {
+  Load(30);
+  Key(vbKeyEnd);
+  EXPECT_EQ(Where(), (Place{29, 29, 1}));
+  EXPECT_EQ(DrawnTexts().back(), "text 392 0 \" 29\" Arial 9.75 #000000");
+}
+
+TEST_F(Scrolling, EndWithTwoLinesDoesNothing) {
+  Load(2);
+  Key(vbKeyEnd);
+  EXPECT_EQ(Where(), (Place{1, 1, 1}));
+  EXPECT_THAT(events, IsEmpty());
+}
+
+TEST_F(Scrolling, AStepOfTheBarKeepsTheHighlightOnItsLine) {
+  Load(30);
+  list.SetStrPos(20);
+  list.vs.UserScroll(18, false);
+  EXPECT_EQ(Where(), (Place{19, 20, 2}));
+  list.vs.UserScroll(17, false);
+  EXPECT_EQ(Where(), (Place{18, 20, 3}));
+  EXPECT_THAT(events, IsEmpty());
+}
+
+TEST_F(Scrolling, AJumpOfTheBarMakesTheTopLineTheCurrentOne) {
+  Load(30);
+  list.vs.UserScroll(10, false);
+  EXPECT_EQ(Where(), (Place{11, 11, 1}));
+}
+
+TEST_F(Scrolling, TheBarFollowsWhileItIsDragged) {
+  Load(30);
+  list.vs.UserScroll(10, true);
+  EXPECT_EQ(Where(), (Place{11, 11, 1}));
+}
+
+TEST_F(Scrolling, TheBarCountsHiddenLinesToo) {
+  LoadFolded();
+  EXPECT_EQ(list.vs.Max(), 5);
+  list.vs.UserScroll(2, false);
+  EXPECT_EQ(list.TopLine(), 4) << "the visible line in the direction of travel";
+  EXPECT_EQ(list.vs.Value(), 3);
+  list.vs.UserScroll(1, false);
+  EXPECT_EQ(list.TopLine(), 1);
+}
+
+TEST_F(Scrolling, TheBarAtItsEndShowsTheLastLine) {
+  Load(30);
+  list.vs.UserScroll(30, false);
+  EXPECT_EQ(list.TopLine(), 30);
+}
+
+TEST_F(Scrolling, TheHorizontalBarRepaints) {
+  Load(3);
+  list.hs.UserScroll(1, false);
+  EXPECT_THAT(DrawnTexts(), testing::Contains("text 392 0 \"1\" Arial 9.75 #000000"));
+}
+
+TEST_F(Scrolling, AResizeKeepsTheCurrentLine) {
+  Load(30);
+  list.SetStrPos(20);
+  list.Move(0, 0, 3000, 1200);
+  EXPECT_EQ(Where(), (Place{18, 20, 3}));
+}
+
+TEST_F(Scrolling, AControlOfNoHeightIsHarmless) {
+  Load(30);
+  list.SetHeight(0);
+  Key(vbKeyDown);
+  Key(vbKeyPageDown);
+  list.Move(0, 0, 4000, 2340);
+  EXPECT_EQ(list.VisibleRows(), 10);
+}
+
+TEST_F(Scrolling, AnEmptyListTakesAnyKey) {
+  for (int key : {vbKeyUp, vbKeyDown, vbKeyPageUp, vbKeyPageDown, vbKeyHome, vbKeyEnd}) Key(key);
+  EXPECT_THAT(events, IsEmpty());
+}
+
+}  // namespace
+}  // namespace corvane::codelist
