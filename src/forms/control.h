@@ -139,7 +139,7 @@ class Control {
   virtual void UserDblClick();
   void UserFocus();  // the toolkit moved the focus here
   // Whether the user can reach it now.
-  bool AcceptsInput() const;
+  virtual bool AcceptsInput() const;
 
   forms::Peer* Peer() const { return peer_.get(); }
 

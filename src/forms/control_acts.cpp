@@ -58,7 +58,7 @@ void Control::UserDblClick() {
 }
 
 void Control::UserFocus() {
-  if (CanTakeFocus() && AcceptsInput()) form_->MoveFocus(this, true);
+  if (CanTakeFocus() && AcceptsInput()) form_->MoveFocus(this, Form::FocusMove::ByToolkit);
 }
 
 bool Control::OnKeyDown(int, int) {

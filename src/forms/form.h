@@ -140,8 +140,9 @@ class Form : public Container {
   friend class Toolkit;
   void Register(Control& control);
   void Forget(Control& control);
-  // [by_toolkit]: the toolkit's focus is there already.
-  void MoveFocus(Control* to, bool by_toolkit = false);
+  enum class FocusMove { ByCode, ByToolkit /* its focus is there already */, Forced /* nobody is asked */ };
+  void MoveFocus(Control* to, FocusMove how = FocusMove::ByCode);
+  bool MayLeave(Control& from, const Control& to, FocusMove how);
   void FocusLeaves(Control& control);  // it was hidden or disabled
   Control* NextStop(Control* from, int direction) const;
   void GainActivation();
@@ -150,6 +151,7 @@ class Form : public Container {
   void MakePeers();
   void MakePeer(Control& control);
   void DropPeers();
+  void LoadToShow();
   void Appear();
   void Renumber(Control& control, int tab_index);
   bool UseShortcut(int key_code, int shift);

@@ -144,22 +144,24 @@ bool Control::HasFocus() const {
   return Holds(chain, this);
 }
 
-void Form::MoveFocus(Control* to, bool by_toolkit) {
+void Form::MoveFocus(Control* to, FocusMove how) {
   Control* from = active_control_;
   if (to == from && (!IsActiveForm() || focused_ == from)) return;
-  if (from && to && from != to && to->CausesValidation()) {
-    bool cancel = false;
-    from->Validate(cancel);
-    if (active_control_ != from) return;  // the handler moved the focus itself
-    if (cancel) {
-      if (by_toolkit && from->peer_) from->peer_->TakeFocus();
-      return;
-    }
-  }
+  if (from && to && from != to && how != FocusMove::Forced && !MayLeave(*from, *to, how)) return;
   active_control_ = to;
   if (!IsActiveForm()) return;
-  if (to && !by_toolkit && to->peer_) to->peer_->TakeFocus();
+  if (to && how != FocusMove::ByToolkit && to->peer_) to->peer_->TakeFocus();
   TellFocus(focused_, to);
+}
+
+// Asks Validate; a refusal keeps the focus. A handler that moves the focus itself has its way.
+bool Form::MayLeave(Control& from, const Control& to, FocusMove how) {
+  if (!to.CausesValidation()) return true;
+  bool cancel = false;
+  from.Validate(cancel);
+  if (active_control_ != &from) return false;
+  if (cancel && how == FocusMove::ByToolkit && from.peer_) from.peer_->TakeFocus();
+  return !cancel;
 }
 
 void Form::TellFocus(Control* from, Control* to) {
@@ -176,7 +178,7 @@ void Form::TellFocus(Control* from, Control* to) {
 
 void Form::FocusLeaves(Control& control) {
   if (!active_control_ || !IsWithin(active_control_, control)) return;
-  MoveFocus(NextStop(active_control_, +1));
+  MoveFocus(NextStop(active_control_, +1), FocusMove::Forced);
 }
 
 }  // namespace corvane::forms

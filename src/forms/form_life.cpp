@@ -6,6 +6,12 @@
 
 namespace corvane::forms {
 
+namespace {
+
+constexpr long kObjectWasUnloaded = 364;
+
+}  // namespace
+
 void Form::LoadForm() {
   if (loaded_) return;
   loaded_ = true;
@@ -54,13 +60,19 @@ void Form::DropPeers() {
 
 void Form::Show() {
   if (!visible_ && toolkit_.IsBlocked(*this)) throw Error(runtime::kModelessOverModal);
-  LoadForm();
+  LoadToShow();
   Appear();
+}
+
+void Form::LoadToShow() {
+  LoadForm();
+  if (!loaded_) throw Error(kObjectWasUnloaded, "Object was unloaded");  // by its own Load
 }
 
 void Form::ShowModal() {
   if (visible_) throw Error(runtime::kFormAlreadyDisplayed);
-  LoadForm();
+  LoadToShow();
+  if (visible_) return;  // Load showed it
   modal_ = true;
   Appear();
   if (visible_) toolkit_.RunModal(*this);

@@ -4,11 +4,14 @@
 #include <algorithm>
 #include <utility>
 
+#include "forms/form.h"
 #include "forms/property_table.h"
 
 namespace corvane::forms {
 
 namespace {
+
+constexpr Twips kBorders = 60;  // above and below the rows
 
 constexpr PropertyEntry<ListControl> kProperties[] = {
     ReadOnly<ListControl, &ListControl::ListCount>(Property::ListCount),
@@ -85,11 +88,15 @@ void ListControl::SetListIndex(long row) {
   OnSelect();
 }
 
-// A row behind the list is taken as its last page: the toolkit knows how many rows fit.
+// The last page at most.
 void ListControl::SetTopIndex(long row) {
-  if (row < 0) throw Error(runtime::kInvalidPropertyValue);
-  top_index_ = std::clamp(row, 0L, std::max(0L, ListCount() - 1));
+  if (row < 0 || row >= std::max(1L, ListCount())) throw Error(runtime::kInvalidPropertyValue);
+  top_index_ = std::min(row, std::max(0L, ListCount() - RowsInView()));
   Changed(Property::TopIndex);
+}
+
+long ListControl::RowsInView() const {
+  return std::max(1L, static_cast<long>((Height() - kBorders) / FormOf().Toolkit().Metrics().TextHeight(Font())));
 }
 
 void ListControl::SetSorted(bool value) {

@@ -33,7 +33,9 @@ class ListControl : public Control {
   void SetListIndex(long row);
   std::string Text() const { return List(list_index_); }
   long TopIndex() const { return top_index_; }
+  // A row behind the last page is that page's first row; Error 380 outside the list.
   void SetTopIndex(long row);
+  long RowsInView() const;  // that fit, at least 1
   bool Sorted() const { return sorted_; }
   void SetSorted(bool value);  // at design time: before rows are added
 

@@ -90,12 +90,16 @@ int Menu::ShortcutShift() const {
   return shift;
 }
 
+bool Menu::AcceptsInput() const {
+  return Enabled() && FormOf().Visible() && !FormOf().Toolkit().IsBlocked(FormOf());
+}
+
 void Menu::UserOpen() {
-  if (Enabled() && !items_.empty()) Click();
+  if (AcceptsInput() && !items_.empty()) Click();
 }
 
 void Menu::UserClick() {
-  if (Enabled() && Visible() && !IsSeparator() && items_.empty()) Click();
+  if (AcceptsInput() && Visible() && !IsSeparator() && items_.empty()) Click();
 }
 
 Variant Menu::Get(Property property) const {

@@ -23,6 +23,8 @@ class Menu : public Control {
   const std::vector<Menu*>& Items() const { return items_; }
   Menu* Parent() const { return parent_; }
   void UserClick() override;  // nothing on a disabled or hidden item, a separator, or one with items
+  // Whether it is enabled on a form that takes input; a hidden menu can still pop up.
+  bool AcceptsInput() const override;
   // Its items are about to be shown, in the menu bar or by PopupMenu: raises Click, as Visual Basic does.
   void UserOpen();
   // The key that "^S" or "{F5}" names, and its shift state; 0 for a text that names none.

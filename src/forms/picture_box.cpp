@@ -33,6 +33,7 @@ forms::Canvas* PictureBox::CanvasOf() const {
 }
 
 void PictureBox::SetPicture(PictureRef value) {
+  if (picture_ == value) return;
   picture_ = std::move(value);
   Changed(Property::Picture);
   Change();
@@ -69,6 +70,12 @@ void PictureBox::Print(std::string_view text) {
     if (canvas && !line.empty()) canvas->Text(current_x_, current_y_, line, font_, fore_color_);
     current_x_ += metrics.TextWidth(line, font_);
   });
+}
+
+void PictureBox::PrintLine(std::string_view text) {
+  Print(text);
+  current_x_ = 0;
+  current_y_ += FormOf().Toolkit().Metrics().TextHeight(font_);
 }
 
 void PictureBox::FillBox(Twips x1, Twips y1, Twips x2, Twips y2, Color color) {

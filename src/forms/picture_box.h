@@ -29,8 +29,9 @@ class PictureBox : public Control, public Container {
   void SetCurrentY(Twips value) { current_y_ = value; }
 
   void Cls();
-  void Print(std::string_view text);  // without line advance, in ForeColor and Font
-  // The same at a place of its own: nothing is measured, and the place of the next text stays.
+  void Print(std::string_view text);      // without line advance, in ForeColor and Font
+  void PrintLine(std::string_view text);  // the next text stands at X 0 of the next line
+  // The same as Print at a place of its own: nothing is measured, and the place of the next text stays.
   void PrintAt(Twips x, Twips y, std::string_view text) {
     if (forms::Canvas* canvas = CanvasOf()) canvas->Text(x, y, text, font_, fore_color_);
   }

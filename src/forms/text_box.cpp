@@ -36,7 +36,7 @@ TextBox::TextBox(Container& container, std::string name, int index) : Control(co
 void TextBox::SetText(std::string value) {
   if (max_length_ > 0 && value.size() > static_cast<size_t>(max_length_)) value.resize(max_length_);
   sel_start_ = sel_length_ = 0;
-  if (text_ == value) return;
+  if (text_ == value) return Changed(Property::SelStart);
   text_ = std::move(value);
   Changed(Property::Text);
   Change();

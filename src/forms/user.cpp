@@ -7,8 +7,32 @@ namespace corvane::forms {
 
 namespace {
 
+// What a press can land on.
+bool IsSolid(const Control& control) {
+  const ControlKind kind = control.Kind();
+  return control.Visible() && kind != ControlKind::Line && kind != ControlKind::Shape && kind != ControlKind::Timer &&
+         kind != ControlKind::ImageList;
+}
+
 bool IsPressButton(const Control& control) {
   return dynamic_cast<const Button*>(&control) != nullptr;
+}
+
+// The innermost control below a place in [control]; the place becomes one in it. The last made stands in front.
+Control& ControlAt(Control& control, Twips& x, Twips& y) {
+  const auto* container = dynamic_cast<const Container*>(&control);
+  if (!container) return control;
+  const auto& children = container->Controls();
+  for (auto each = children.rbegin(); each != children.rend(); ++each) {
+    const Rect& place = (*each)->Place();
+    const bool inside =
+        x >= place.left && y >= place.top && x < place.left + place.width && y < place.top + place.height;
+    if (!inside || !IsSolid(**each)) continue;
+    x -= place.left;
+    y -= place.top;
+    return ControlAt(**each, x, y);
+  }
+  return control;
 }
 
 forms::Menu* ItemCaptioned(const std::vector<forms::Menu*>& menus, std::string_view caption) {
@@ -75,12 +99,15 @@ bool User::Click(Control& control) {
 }
 
 bool User::ClickAt(Control& control, Twips x, Twips y, int button, int shift) {
-  return Do(control, [&] { control.UserMouseDown(button, shift, x, y); }) &&
-         Do(control,
-            [&] {
-              if (button == vbLeftButton && IsPressButton(control)) control.UserClick();
-            }) &&
-         (Do(control, [&] { control.UserMouseUp(button, shift, x, y); }) || true);
+  Control& hit = ControlAt(control, x, y);
+  const auto press = [&] { hit.UserMouseDown(button, shift, x, y); };
+  const auto click = [&] {
+    if (button == vbLeftButton && IsPressButton(hit)) hit.UserClick();
+  };
+  if (!Do(hit, press)) return false;
+  Do(hit, click);
+  Do(hit, [&] { hit.UserMouseUp(button, shift, x, y); });
+  return true;
 }
 
 bool User::DblClick(Control& control) {
@@ -88,27 +115,41 @@ bool User::DblClick(Control& control) {
 }
 
 bool User::DblClickAt(Control& control, Twips x, Twips y) {
-  return ClickAt(control, x, y) && Do(control, [&] { control.UserDblClick(); }) &&
-         (Do(control, [&] { control.UserMouseUp(vbLeftButton, 0, x, y); }) || true);
+  if (!ClickAt(control, x, y)) return false;
+  Control& hit = ControlAt(control, x, y);
+  Do(hit, [&] { hit.UserDblClick(); });
+  Do(hit, [&] { hit.UserMouseUp(vbLeftButton, 0, x, y); });
+  return true;
 }
 
 bool User::MoveOver(Control& control, Twips x, Twips y, int button, int shift) {
-  return Do(control, [&] { control.UserMouseMove(button, shift, x, y); });
+  Control& hit = ControlAt(control, x, y);
+  return Do(hit, [&] { hit.UserMouseMove(button, shift, x, y); });
 }
 
+// The control that was pressed hears the moves and the release, wherever the pointer is.
 bool User::Drag(Control& control, Twips x1, Twips y1, Twips x2, Twips y2) {
-  return Do(control, [&] { control.UserMouseDown(vbLeftButton, 0, x1, y1); }) &&
-         MoveOver(control, x2, y2, vbLeftButton) && Do(control, [&] { control.UserMouseUp(vbLeftButton, 0, x2, y2); });
+  Twips dx = x2 - x1, dy = y2 - y1;
+  Control& hit = ControlAt(control, x1, y1);
+  if (!Do(hit, [&] { hit.UserMouseDown(vbLeftButton, 0, x1, y1); })) return false;
+  Do(hit, [&] { hit.UserMouseMove(vbLeftButton, 0, x1 + dx, y1 + dy); });
+  Do(hit, [&] { hit.UserMouseUp(vbLeftButton, 0, x1 + dx, y1 + dy); });
+  return true;
 }
 
 bool User::Choose(ListControl& list, long row) {
   if (row < 0 || row >= list.ListCount()) return false;
-  if (auto* combo = dynamic_cast<ComboBox*>(&list)) {
-    return Do(list, [&] { list.UserFocus(); }) && Do(list, [&] { combo->UserDropDown(); }) &&
-           Do(list, [&] { list.UserSelect(row); });
-  }
-  return Do(list, [&] { list.UserMouseDown(vbLeftButton, 0, 0, 0); }) && Do(list, [&] { list.UserSelect(row); }) &&
-         (Do(list, [&] { list.UserMouseUp(vbLeftButton, 0, 0, 0); }) || true);
+  if (auto* combo = dynamic_cast<ComboBox*>(&list)) return ChooseInCombo(*combo, row);
+  if (!Do(list, [&] { list.UserMouseDown(vbLeftButton, 0, 0, 0); })) return false;
+  Do(list, [&] { list.UserSelect(row); });
+  Do(list, [&] { list.UserMouseUp(vbLeftButton, 0, 0, 0); });
+  return true;
+}
+
+bool User::ChooseInCombo(ComboBox& combo, long row) {
+  if (!Do(combo, [&] { combo.UserFocus(); })) return false;
+  Do(combo, [&] { combo.UserDropDown(); });
+  return row < combo.ListCount() && Do(combo, [&] { combo.UserSelect(row); });
 }
 
 bool User::Choose(ListControl& list, std::string_view text) {
@@ -119,8 +160,10 @@ bool User::Choose(ListControl& list, std::string_view text) {
 }
 
 bool User::DblClickRow(ListBox& list, long row) {
-  return Choose(list, row) && Do(list, [&] { list.UserDblClick(); }) &&
-         (Do(list, [&] { list.UserMouseUp(vbLeftButton, 0, 0, 0); }) || true);
+  if (!Choose(list, row)) return false;
+  Do(list, [&] { list.UserDblClick(); });
+  Do(list, [&] { list.UserMouseUp(vbLeftButton, 0, 0, 0); });
+  return true;
 }
 
 bool User::Check(ListBox& list, long row) {

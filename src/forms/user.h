@@ -19,6 +19,7 @@ class User {
   // Each character typed; CR LF, CR or LF is Enter.
   bool Type(std::string_view text);
 
+  // A press lands on the visible control inside [control] that stands there, as in a frame or a user control.
   bool Click(Control& control);  // in its middle
   bool ClickAt(Control& control, Twips x, Twips y, int button = vbLeftButton, int shift = 0);
   bool DblClick(Control& control);
@@ -54,6 +55,7 @@ class User {
   template <class Act>
   bool Do(Control& control, Act&& act);
   bool TypeKey(int key_code, int shift, int key_ascii);
+  bool ChooseInCombo(ComboBox& combo, long row);
   bool ChooseMenu(std::initializer_list<std::string_view> captions);
 
   Form& form_;
