@@ -24,6 +24,7 @@ constexpr Row kDescriptions[] = {
     {kObjectNotSet, "Object variable or With block variable not set"},
     {kInvalidPatternString, "Invalid pattern string"},
     {kControlArrayElementMissing, "Control array element doesn't exist"},
+    {kInvalidFileFormat, "Invalid file format"},
     {kObjectAlreadyLoaded, "Object already loaded"},
     {kCannotUnloadDesignTimeControl, "Can't unload controls created at design time"},
     {kInvalidPropertyValue, "Invalid property value"},

@@ -23,6 +23,7 @@ enum ErrorNumber : long {
   kObjectNotSet = 91,
   kInvalidPatternString = 93,
   kControlArrayElementMissing = 340,
+  kInvalidFileFormat = 321,
   kObjectAlreadyLoaded = 360,
   kCannotUnloadDesignTimeControl = 362,
   kInvalidPropertyValue = 380,
