@@ -72,7 +72,7 @@ void MemoryFiles::Write(const std::string& path, std::string_view bytes) {
 uint32_t MemoryFiles::Attributes(const std::string& path) {
   File* file = Find(WithoutEndingSlash(path));
   if (file == nullptr) return host::kNoSuchFile;
-  return file->folder ? host::kDirectory : 0;
+  return file->folder ? uint32_t{host::kDirectory} : 0;
 }
 
 host::FileStamp MemoryFiles::Stamp(const std::string& path) {

@@ -1,0 +1,45 @@
+// What is not certain of the environment's behaviour, each as one switch with what is known about it.
+#pragma once
+
+namespace corvane::environment::doubtful {
+
+// "#Const X = 1" alone is no declaration line: it belongs to the first procedure when nothing is declared below it.
+inline constexpr bool kConstDirectiveIsDeclaration = false;
+
+// Comments directly below "End Sub" belong to the next procedure, as the documentation of ProcStartLine has it. One
+// observer saw them stay with the procedure above up to the first blank line.
+inline constexpr bool kCommentsBelowEndStay = false;
+
+// The name of "Function Mid1$()" is "Mid1": without its type sign.
+inline constexpr bool kTypeSignIsPartOfName = false;
+
+// Lines(start, ...) and ProcOfLine with a line number outside the module are Error 9. An empty module has no lines:
+// Lines(1, n) of it is empty text.
+inline constexpr bool kLinesOfEmptyModuleFail = false;
+
+// DeleteLines with a count past the end deletes what there is.
+inline constexpr bool kDeletePastTheEndFails = false;
+
+// InsertLines behind the end appends, without blank lines in between.
+inline constexpr bool kInsertBehindTheEndPads = false;
+
+// Find that starts behind the last line finds nothing; it does not fail.
+inline constexpr bool kFindBehindTheEndFails = false;
+
+// The end column of the range that Find searches is the last one that a hit may touch; the one that it returns is one
+// past the last character.
+inline constexpr bool kFindEndColumnIsInclusive = true;
+
+// matchcase and patternsearch together are an error by the documentation; its number is not given there.
+inline constexpr bool kCaseAndPatternFail = true;
+
+// A pattern with an unclosed "[" takes it literally; Error 93 is the other possibility.
+inline constexpr bool kUnclosedListFails = false;
+
+// FileCount of a form without an .frx.
+inline constexpr long kFileCountWithoutFrx = 1;
+
+// Opened from its texts, a project without a hint in its fonts keeps the code page in force.
+inline constexpr int kCodePageWithoutHint = 1252;
+
+}  // namespace corvane::environment::doubtful

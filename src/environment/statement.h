@@ -1,0 +1,49 @@
+// Statement: the few words of Visual Basic that the environment itself must know: continued lines, headers and ends of
+// procedures, names in declarations. Keywords are matched without case.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+#include "host/code_module.h"
+
+namespace corvane::environment {
+
+// Whether the next physical line belongs to this one: it ends in "_" behind a blank. True of comments too.
+bool IsContinued(std::string_view line);
+
+// Blanks and tabs.
+std::string_view WithoutIndent(std::string_view line);
+bool IsBlank(std::string_view line);
+bool IsComment(std::string_view line);  // an apostrophe or Rem at its start
+
+// Whether [text] begins with [word] (in lower case) as a whole word.
+bool StartsWithWord(std::string_view text, std::string_view word);
+
+struct ProcedureHeader {
+  host::ProcKind kind = host::ProcKind::Proc;
+  size_t name_at = 0;  // offset in the text that was parsed
+  size_t name_length = 0;
+};
+// Whether [text] is the header of a Sub, Function or Property (a Declare is none).
+bool ParseProcedureHeader(std::string_view text, ProcedureHeader& header);
+
+// Whether [text] starts with End Sub, End Function or End Property, a line number in front allowed.
+bool IsProcedureEnd(std::string_view text);
+// Whether an End Sub, End Function or End Property stands behind a colon of the line.
+bool HoldsProcedureEnd(std::string_view line);
+
+// Names that a declaration line declares: the procedure, the event, or each variable or constant.
+std::vector<std::string_view> DeclaredNames(std::string_view line);
+
+// An Attribute line as files hold it, hidden by the environment: "Attribute Foo.VB_UserMemId = 0".
+bool IsAttributeLine(std::string_view line);
+// "Foo"; empty for one of the module itself.
+std::string_view MemberOfAttribute(std::string_view line);
+
+// Names of Visual Basic compare without case, by the code page.
+bool NamesMatch(std::string_view a, std::string_view b);
+size_t NameHash(std::string_view name);
+
+}  // namespace corvane::environment
