@@ -1,5 +1,6 @@
-// DiskFiles: host::Files on this machine's disk. On Linux "Z:\a\b" is /a/b; each name of a path is found without regard to
-// case when the exact one does not exist, and bytes beyond ASCII are read in a code page when they are no UTF-8 name.
+// DiskFiles: host::Files on this machine's disk. On Linux "Z:\a\b" is /a/b; each name of a path is found without regard
+// to case when the exact one does not exist, and bytes beyond ASCII are read in a code page when they are no UTF-8
+// name.
 #pragma once
 
 #include <memory>

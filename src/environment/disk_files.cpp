@@ -1,0 +1,285 @@
+#include "environment/disk_files.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <unordered_map>
+#include <vector>
+
+#include "environment/wildcard.h"
+#include "runtime/code_page.h"
+#include "runtime/error.h"
+
+namespace corvane::environment {
+
+namespace {
+
+// The names of a Windows path, "Z:" in front left out. A drive other than Z: and a share have no place on this machine:
+// their paths stay as they are and are not found.
+struct Names {
+  bool has_place = true;
+  bool absolute = false;
+  std::vector<std::string> names;
+};
+
+Names Split(const std::string& windows) {
+  Names result;
+  size_t at = 0;
+  if (windows.size() >= 2 && windows[1] == ':') {
+    result.has_place = windows[0] == 'Z' || windows[0] == 'z';
+    at = 2;
+  } else if (windows.compare(0, 2, "\\\\") == 0) {
+    result.has_place = false;
+  }
+  result.absolute = at < windows.size() && (windows[at] == '\\' || windows[at] == '/');
+  const runtime::CodePage& page = runtime::AnsiCodePage();
+  std::string name;
+  for (; at < windows.size(); ++at) {
+    // The second byte of a character may look like a "\".
+    if (page.IsLead(static_cast<unsigned char>(windows[at])) && at + 1 < windows.size()) {
+      name += windows[at++];
+      name += windows[at];
+    } else if (windows[at] == '\\' || windows[at] == '/') {
+      if (!name.empty()) result.names.push_back(std::move(name));
+      name.clear();
+    } else {
+      name += windows[at];
+    }
+  }
+  if (!name.empty()) result.names.push_back(std::move(name));
+  return result;
+}
+
+bool Exists(const std::string& path) {
+  struct stat info;
+  return ::lstat(path.c_str(), &info) == 0;
+}
+
+std::vector<std::string> NamesIn(const std::string& folder) {
+  std::vector<std::string> names;
+  DIR* open = ::opendir(folder.empty() ? "." : folder.c_str());
+  if (open == nullptr) return names;
+  while (dirent* entry = ::readdir(open)) names.emplace_back(entry->d_name);
+  ::closedir(open);
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+// A name on disk as bytes of the code page; as it is where it holds what the page does not.
+std::string NameFromDisk(const std::string& name) {
+  std::string bytes;
+  return runtime::AnsiCodePage().FromUtf8(name, bytes) ? bytes : name;
+}
+
+bool SameWithoutCase(const std::string& a, const std::string& b) {
+  const runtime::CodePage& page = runtime::AnsiCodePage();
+  return page.ToUpper(a) == page.ToUpper(b);
+}
+
+// Finds the names of paths on disk; what was found without regard to case is remembered as long as it exists.
+class NameFinder {
+ public:
+  // The path of [name] in [folder] (ending in "/" or empty); the exact name where there is none yet.
+  std::string Find(const std::string& folder, const std::string& name) {
+    std::string exact = folder + name;
+    if (Exists(exact)) return exact;
+    std::string utf8 = folder + runtime::AnsiCodePage().ToUtf8(name);
+    if (utf8 != exact && Exists(utf8)) return utf8;
+    std::string& known = known_[utf8];
+    if (!known.empty() && Exists(known)) return known;
+    for (const std::string& other : NamesIn(folder))
+      if (SameWithoutCase(other, name) || SameWithoutCase(NameFromDisk(other), name)) return known = folder + other;
+    return utf8;
+  }
+
+ private:
+  std::unordered_map<std::string, std::string> known_;
+};
+
+[[noreturn]] void Fail(int error, bool reading, const std::string& path) {
+  long number = runtime::kPathFileAccessError;
+  if (error == ENOENT) number = reading ? runtime::kFileNotFound : runtime::kPathNotFound;
+  if (error == ENOTDIR) number = runtime::kPathNotFound;
+  if (error == EACCES || error == EPERM || error == EROFS) number = runtime::kPermissionDenied;
+  if (error == ENOSPC || error == EDQUOT || error == EFBIG) number = runtime::kDiskFull;
+  throw runtime::Error(number, path + ": " + runtime::DescriptionOf(number));
+}
+
+// An open file; closed at the end of its life.
+class Handle {
+ public:
+  explicit Handle(int number) : number_(number) {}
+  Handle(const Handle&) = delete;
+  Handle& operator=(const Handle&) = delete;
+  ~Handle() {
+    if (number_ >= 0) ::close(number_);
+  }
+  int Get() const { return number_; }
+
+ private:
+  int number_;
+};
+
+class DiskFiles : public host::Files {
+ public:
+  std::string Read(const std::string& path) override {
+    std::string native = Resolve(path);
+    if (native.empty()) throw runtime::Error(runtime::kPathNotFound, path + ": no such drive or share here");
+    Handle file(::open(native.c_str(), O_RDONLY | O_CLOEXEC));
+    struct stat info;
+    if (file.Get() < 0 || ::fstat(file.Get(), &info) != 0)
+      Fail(errno == ENOENT ? MissingPart(native) : errno, true, path);
+    if (!S_ISREG(info.st_mode)) throw runtime::Error(runtime::kPathFileAccessError, path + ": no file");
+    std::string bytes(static_cast<size_t>(info.st_size), '\0');
+    size_t got = 0;
+    while (got < bytes.size()) {
+      ssize_t part = ::read(file.Get(), bytes.data() + got, bytes.size() - got);
+      if (part < 0 && errno == EINTR) continue;
+      if (part < 0) Fail(errno, true, path);
+      if (part == 0) break;
+      got += static_cast<size_t>(part);
+    }
+    bytes.resize(got);
+    return bytes;
+  }
+
+  // The new file stands whole and flushed beside the old one before it takes its name. A link is followed to its file.
+  void Write(const std::string& path, std::string_view bytes) override {
+    std::string native = Resolve(path);
+    if (native.empty()) throw runtime::Error(runtime::kPathNotFound, path + ": no such drive or share here");
+    if (char* real = ::realpath(native.c_str(), nullptr)) {
+      native = real;
+      std::free(real);
+    }
+    struct stat old;
+    bool exists = ::stat(native.c_str(), &old) == 0;
+    if (exists && !S_ISREG(old.st_mode)) throw runtime::Error(runtime::kPathFileAccessError, path + ": no file");
+    if (exists && ::access(native.c_str(), W_OK) != 0) Fail(EACCES, false, path);
+    std::string temporary = native + ".XXXXXX";
+    Handle file(::mkostemp(temporary.data(), O_CLOEXEC));
+    if (file.Get() < 0) Fail(errno, false, path);
+    int error = Fill(file.Get(), bytes);
+    if (error == 0 && ::fchmod(file.Get(), exists ? old.st_mode & 07777 : NewFileMode()) != 0) error = errno;
+    // Somebody else's file keeps its owner where this user may give it.
+    if (error == 0 && exists && ::fchown(file.Get(), old.st_uid, old.st_gid) != 0) errno = 0;
+    if (error == 0 && ::fsync(file.Get()) != 0) error = errno;
+    if (error == 0 && ::rename(temporary.c_str(), native.c_str()) != 0) error = errno;
+    if (error != 0) {
+      ::unlink(temporary.c_str());
+      Fail(error, false, path);
+    }
+    FlushFolder(native);
+  }
+
+  uint32_t Attributes(const std::string& path) override {
+    std::string native = Resolve(path);
+    struct stat info;
+    if (native.empty() || ::stat(native.c_str(), &info) != 0) return host::kNoSuchFile;
+    if (S_ISDIR(info.st_mode)) return host::kDirectory;
+    return ::access(native.c_str(), W_OK) == 0 ? 0u : uint32_t{host::kReadOnly};
+  }
+
+  host::FileStamp Stamp(const std::string& path) override {
+    std::string native = Resolve(path);
+    struct stat info;
+    if (native.empty() || ::stat(native.c_str(), &info) != 0) return {};
+    return {info.st_size, int64_t{info.st_mtim.tv_sec} * 1000000000 + info.st_mtim.tv_nsec};
+  }
+
+  std::vector<std::string> List(const std::string& folder, const std::string& pattern) override {
+    std::vector<std::string> names;
+    std::string native = Resolve(folder) + "/";
+    for (const std::string& name : NamesIn(native)) {
+      struct stat info;
+      if (::stat((native + name).c_str(), &info) != 0 || !S_ISREG(info.st_mode)) continue;
+      if (std::string bytes = NameFromDisk(name); FitsWildcard(bytes, pattern)) names.push_back(bytes);
+    }
+    return names;
+  }
+
+ private:
+  // This machine's path; empty where there is none.
+  std::string Resolve(const std::string& windows) {
+    Names split = Split(windows);
+    if (!split.has_place) return {};
+    std::string path = split.absolute ? "/" : "";
+    for (size_t i = 0; i < split.names.size(); ++i) {
+      path = finder_.Find(path, split.names[i]);
+      if (i + 1 < split.names.size()) path += '/';
+    }
+    return path.empty() ? "." : path;
+  }
+
+  // ENOENT of a file in a folder that is there, ENOTDIR where the folder is missing too.
+  static int MissingPart(const std::string& native) {
+    size_t slash = native.rfind('/');
+    return slash == std::string::npos || slash == 0 || Exists(native.substr(0, slash)) ? ENOENT : ENOTDIR;
+  }
+
+  static int Fill(int file, std::string_view bytes) {
+    while (!bytes.empty()) {
+      ssize_t part = ::write(file, bytes.data(), bytes.size());
+      if (part < 0 && errno == EINTR) continue;
+      if (part < 0) return errno;
+      bytes.remove_prefix(static_cast<size_t>(part));
+    }
+    return 0;
+  }
+
+  static mode_t NewFileMode() {
+    mode_t mask = ::umask(0);
+    ::umask(mask);
+    return 0666 & ~mask;
+  }
+
+  static void FlushFolder(const std::string& native) {
+    Handle folder(::open(native.substr(0, native.rfind('/') + 1).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (folder.Get() >= 0) ::fsync(folder.Get());
+  }
+
+  NameFinder finder_;
+};
+
+}  // namespace
+
+std::unique_ptr<host::Files> NewDiskFiles() {
+  return std::make_unique<DiskFiles>();
+}
+
+std::string WindowsPath(const std::string& native) {
+  std::string whole = native;
+  if (native.empty() || native[0] != '/') {
+    char* folder = ::getcwd(nullptr, 0);
+    whole = std::string(folder == nullptr ? "" : folder) + "/" + native;
+    std::free(folder);
+  }
+  std::vector<std::string> names;
+  for (size_t at = 0; at < whole.size();) {
+    size_t slash = std::min(whole.find('/', at), whole.size());
+    std::string name = whole.substr(at, slash - at);
+    at = slash + 1;
+    if (name == ".." && !names.empty()) names.pop_back();
+    if (!name.empty() && name != "." && name != "..") names.push_back(name);
+  }
+  std::string windows = "Z:";
+  for (const std::string& name : names) windows += "\\" + name;
+  return windows.size() == 2 ? "Z:\\" : windows;
+}
+
+std::string NativePath(const std::string& windows) {
+  Names split = Split(windows);
+  if (!split.has_place) return windows;
+  NameFinder finder;
+  std::string path = split.absolute ? "/" : "";
+  for (size_t i = 0; i < split.names.size(); ++i) {
+    path = finder.Find(path, split.names[i]);
+    if (i + 1 < split.names.size()) path += '/';
+  }
+  return path.empty() ? "." : path;
+}
+
+}  // namespace corvane::environment

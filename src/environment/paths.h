@@ -1,0 +1,21 @@
+// Windows paths as texts: "C:\a\b", "\\server\share\a", relative ones.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace corvane::environment {
+
+std::string FolderOf(std::string_view path);     // with its ending "\"; empty where there is none
+std::string FileNameOf(std::string_view path);   // behind the last "\"
+std::string StemOf(std::string_view path);       // the file name without its extension
+std::string ExtensionOf(std::string_view path);  // ".frm"; empty where there is none
+
+bool IsAbsolutePath(std::string_view path);
+// [path] seen from [folder]; "." and ".." are resolved, "/" counts as "\".
+std::string JoinPath(std::string_view folder, std::string_view path);
+// [path] as a file in [folder] names it: relative where both are on one drive, else whole.
+std::string RelativePath(std::string_view folder, std::string_view path);
+bool SamePath(std::string_view a, std::string_view b);
+
+}  // namespace corvane::environment
