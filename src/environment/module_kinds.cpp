@@ -1,0 +1,57 @@
+#include "environment/module_kinds.h"
+
+#include "environment/statement.h"
+#include "runtime/error.h"
+
+namespace corvane::environment {
+
+namespace {
+
+using host::ComponentType;
+
+constexpr ModuleKind kKinds[] = {
+    {ComponentType::VBForm, "Form", ".frm", "VB.Form", "Form", false},
+    {ComponentType::VBMDIForm, "Form", ".frm", "VB.MDIForm", "MDIForm", false},
+    {ComponentType::StdModule, "Module", ".bas", "", "Module", true},
+    {ComponentType::ClassModule, "Class", ".cls", "", "Class", true},
+    {ComponentType::UserControl, "UserControl", ".ctl", "VB.UserControl", "UserControl", false},
+    {ComponentType::PropPage, "PropertyPage", ".pag", "VB.PropertyPage", "PropertyPage", false},
+    {ComponentType::DocObject, "UserDocument", ".dob", "VB.UserDocument", "UserDocument", false},
+    {ComponentType::ActiveXDesigner, "Designer", ".dsr", "", "", false},
+    {ComponentType::RelatedDocument, "RelatedDoc", "", "", "", false},
+};
+
+template <class Test>
+const ModuleKind* First(Test test) {
+  for (const ModuleKind& kind : kKinds)
+    if (test(kind)) return &kind;
+  return nullptr;
+}
+
+}  // namespace
+
+std::span<const ModuleKind> ModuleKinds() {
+  return kKinds;
+}
+
+const ModuleKind& KindOf(host::ComponentType type) {
+  const ModuleKind* found = First([&](const ModuleKind& kind) { return kind.type == type; });
+  if (found == nullptr) throw runtime::Error(runtime::kInvalidProcedureCall);
+  return *found;
+}
+
+const ModuleKind* KindOfKey(std::string_view key) {
+  return First([&](const ModuleKind& kind) { return NamesMatch(kind.key, key); });
+}
+
+const ModuleKind* KindOfExtension(std::string_view extension) {
+  if (extension.empty()) return nullptr;
+  return First([&](const ModuleKind& kind) { return NamesMatch(kind.extension, extension); });
+}
+
+const ModuleKind* KindOfRootClass(std::string_view root_class) {
+  if (root_class.empty()) return nullptr;
+  return First([&](const ModuleKind& kind) { return NamesMatch(kind.root_class, root_class); });
+}
+
+}  // namespace corvane::environment

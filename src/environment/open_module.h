@@ -1,0 +1,112 @@
+// OpenModule: a component that is open, with its text, its pane and its place on disk.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "environment/code_pane.h"
+#include "environment/module.h"
+#include "environment/module_head.h"
+#include "environment/module_kinds.h"
+#include "environment/module_text.h"
+#include "environment/procedure_index.h"
+#include "host/services.h"
+
+namespace corvane::environment {
+
+class OpenEnvironment;
+class OpenProject;
+
+class OpenModule : public Module, public PaneOwner, public std::enable_shared_from_this<OpenModule> {
+ public:
+  // A module of [project] as its file holds it; [path] is empty for one that was never saved.
+  struct Source {
+    const ModuleKind* kind = nullptr;
+    std::string path, bytes;
+    ModuleHead head;
+    host::FileStamp stamp;
+    std::string name;
+    long project_line = 0;  // id of its line in the project file; 0 for none
+  };
+  OpenModule(OpenProject& project, Source source);
+  ~OpenModule() override;
+  // The component was removed or its project ends.
+  void Detach();
+
+  // host::VBComponent
+  std::string Name() override { return name_; }
+  void SetName(const std::string& name) override;
+  host::ComponentType Type() override { return kind_->type; }
+  host::Ref<host::CodeModule> CodeModule() override;
+  host::Ref<host::VBForm> Designer() override;
+  bool HasOpenDesigner() override;
+  host::Ref<host::Window> DesignerWindow() override;
+  host::Ref<host::Properties> Properties() override;
+  long FileCount() override;
+  std::string FileNames(long index) override;
+  void SaveAs(const std::string& path) override;
+  host::Ref<host::VBE> VBE() override;
+
+  // Module
+  std::shared_ptr<Project> ProjectOf() const override;
+  long Position() const override;
+  bool IsDirty() const override { return dirty_; }
+  std::string Path() const override { return path_; }
+  std::string WriteToText() const override;
+  std::string_view LineView(long line) const override { return text_.Line(line); }
+  void ReplaceLines(long start, long count, const std::string& text) override;
+  void UserSelection(const host::Selection& selection) override;
+  void UserActivatePane() override;
+  void UserClosePane() override;
+  bool HasPane() const override { return pane_ && pane_->IsOpen(); }
+  host::Selection PaneSelection() const override;
+  void UserOpenDesigner(bool open) override;
+  void UserSelectControls(const std::vector<long>& positions) override;
+  bool ChangedOnDisk() const override;
+
+  // PaneOwner
+  host::Ref<host::CodeModule> PaneModule() override { return CodeModule(); }
+  std::string PaneCaption() override;
+  long PaneLines() override { return text_.Count(); }
+  long PaneLineLength(long line) override { return static_cast<long>(text_.Line(line).size()); }
+  void PaneWasShown() override;
+  void PaneWasClosed() override;
+  void PaneSelectionSet() override;
+
+  // For the code module.
+  const ModuleText& Text() const { return text_; }
+  const ProcedureIndex& Procedures() const;
+  // Replaces [count] lines from [start] by the lines of [text]; [text] null: by none.
+  void Change(long start, long count, const std::string* text, bool by_user);
+  Pane& PaneOf();
+
+  // For the project.
+  long ProjectLine() const { return project_line_; }
+  void SetProjectLine(long id) { project_line_ = id; }
+  const ModuleKind& Kind() const { return *kind_; }
+  const std::vector<long>& Charsets() const { return charsets_; }  // of its designer's fonts
+  // Its file holds what WriteToText gave.
+  void TakeSaved(const std::string& path, const host::FileStamp& stamp);
+  // Takes [bytes] from the disk for its own; nothing of it was edited.
+  void Reload(std::string bytes, const host::FileStamp& stamp);
+  void SetDirty();
+
+ private:
+  OpenEnvironment& Environment() const;  // Error 91 when it is closed
+  void ReadSource(std::string bytes, const ModuleHead& head);
+
+  std::weak_ptr<OpenProject> project_;
+  const ModuleKind* kind_;
+  std::string name_, path_;
+  long project_line_;
+  host::FileStamp stamp_;
+  ModuleText text_;
+  size_t designer_end_ = 0;
+  std::vector<long> charsets_;
+  bool dirty_ = false;
+  mutable std::optional<ProcedureIndex> procedures_;
+  std::shared_ptr<Pane> pane_;
+};
+
+}  // namespace corvane::environment

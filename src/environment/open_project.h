@@ -1,0 +1,71 @@
+// OpenProject: a .vbp that is open, with its modules.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "environment/open_module.h"
+#include "environment/project.h"
+#include "environment/project_file.h"
+
+namespace corvane::environment {
+
+class OpenEnvironment;
+
+class OpenProject : public Project, public std::enable_shared_from_this<OpenProject> {
+ public:
+  // [path] may be empty: never saved.
+  OpenProject(OpenEnvironment& environment, std::string path, ProjectFile file, const host::FileStamp& stamp);
+  ~OpenProject() override;
+  // Reads the modules that its file names, those in [sources] (paths as the project writes them) first.
+  void ReadModules(const std::vector<SourceFile>& sources);
+
+  // host::VBProject
+  std::string Name() override;
+  std::string FileName() override { return path_; }
+  host::Ref<host::VBComponents> VBComponents() override;
+
+  // Project
+  std::vector<std::shared_ptr<Module>> Modules() const override;
+  bool IsDirty() const override { return dirty_; }
+  std::string WriteToText() const override { return file_.Write(); }
+  void Save(Module& module, OnDiskChange rule) override;
+  void SaveProjectFile(OnDiskChange rule) override;
+
+  std::shared_ptr<OpenEnvironment> EnvironmentOf() const { return environment_.lock(); }
+  const std::vector<std::shared_ptr<OpenModule>>& OpenModules() const { return modules_; }
+  long PositionOf(const OpenModule& module) const;
+  void RequireFreeName(const std::string& name, const OpenModule* but) const;  // Error 32813
+  void WasRenamed(OpenModule& module, const std::string& old_name);
+  void SaveAs(OpenModule& module, const std::string& path);
+  std::shared_ptr<OpenModule> Add(host::ComponentType type);
+  std::shared_ptr<OpenModule> AddFile(const std::string& path);
+  void Remove(const host::Ref<host::VBComponent>& component);
+  void Close();
+
+ private:
+  class Components;
+  OpenEnvironment& Environment() const;  // Error 91 when it is closed
+  void ReadModule(const ComponentLine& line, const std::vector<SourceFile>& sources);
+  void TakeHead(OpenModule::Source& source, const std::string& name_in_project) const;
+  int CodePageOfFonts() const;
+  int CodePageOfPaths(const std::vector<ComponentLine>& lines) const;
+  void NotifyComponents();
+  bool ReadBytes(const ComponentLine& line, const std::vector<SourceFile>& sources, OpenModule::Source& source);
+  std::string Refusal(const OpenModule::Source& source) const;
+  void ReportAt(const ComponentLine& line, const std::string& reason);
+  void SetDirty();
+  void WriteModule(OpenModule& module, const std::string& path);
+  void ListInFile(OpenModule& module);
+  std::string NewName(const ModuleKind& kind) const;
+
+  std::weak_ptr<OpenEnvironment> environment_;
+  std::string path_;
+  ProjectFile file_;
+  host::FileStamp stamp_;
+  bool dirty_ = false;
+  std::vector<std::shared_ptr<OpenModule>> modules_;
+};
+
+}  // namespace corvane::environment

@@ -1,0 +1,157 @@
+// OpenProject: reading the modules that a project names. What cannot be read or is no module is reported and left out;
+// its line in the project file stays.
+#include <algorithm>
+#include <map>
+
+#include "environment/open_environment.h"
+#include "environment/open_project.h"
+#include "environment/paths.h"
+#include "environment/statement.h"
+#include "runtime/code_page.h"
+#include "runtime/error.h"
+
+namespace corvane::environment {
+
+namespace {
+
+constexpr size_t kLargestFile = 0x7FFFFFFF;
+
+const SourceFile* FindSource(const std::vector<SourceFile>& sources, const std::string& path) {
+  auto found = std::find_if(sources.begin(), sources.end(),
+                            [&](const SourceFile& source) { return SamePath(source.path, path); });
+  return found == sources.end() ? nullptr : &*found;
+}
+
+// The line of the first NUL byte; 0 if there is none.
+long LineOfNul(std::string_view bytes) {
+  size_t at = bytes.find('\0');
+  if (at == std::string_view::npos) return 0;
+  return std::count(bytes.begin(), bytes.begin() + static_cast<long>(at), '\n') + 1;
+}
+
+// A form whose root is an MDI form, a user control under a form's key: the root's class decides.
+const ModuleKind* KindInFile(const ModuleKind& by_key, const ModuleHead& head) {
+  const ModuleKind* by_root = KindOfRootClass(head.root_class);
+  return by_root != nullptr && HasDesigner(by_key.type) ? by_root : &by_key;
+}
+
+bool IsAscii(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+std::string FirstOf(std::initializer_list<std::string> names) {
+  for (const std::string& name : names)
+    if (!name.empty()) return name;
+  return {};
+}
+
+}  // namespace
+
+void OpenProject::ReportAt(const ComponentLine& line, const std::string& reason) {
+  Environment().Report({path_, file_.LineNumberOf(line.id), line.path + ": " + reason});
+}
+
+// A path beyond ASCII can be looked for only when the code page is known, and that may show in the other modules.
+void OpenProject::ReadModules(const std::vector<SourceFile>& sources) {
+  for (const Problem& problem : file_.Problems()) Environment().Report({path_, problem.line, problem.reason});
+  std::vector<ComponentLine> later;
+  for (const ComponentLine& line : file_.Components())
+    if (IsAscii(line.path))
+      ReadModule(line, sources);
+    else
+      later.push_back(line);
+  Environment().TakeCodePageHint(CodePageOfFonts());
+  if (later.empty()) return;
+  Environment().TakeCodePageHint(CodePageOfPaths(later));
+  for (const ComponentLine& line : later) ReadModule(line, sources);
+  auto in_file_order = [this](const auto& a, const auto& b) {
+    return file_.LineNumberOf(a->ProjectLine()) < file_.LineNumberOf(b->ProjectLine());
+  };
+  std::stable_sort(modules_.begin(), modules_.end(), in_file_order);
+}
+
+// The code page that most forms ask for; 0 if none asks for one.
+int OpenProject::CodePageOfFonts() const {
+  std::map<int, int> votes;
+  for (const auto& module : modules_)
+    for (long charset : module->Charsets())
+      if (int page = runtime::CodePageOfCharset(static_cast<int>(charset))) ++votes[page];
+  auto fewer = [](const auto& a, const auto& b) { return a.second < b.second; };
+  auto most = std::max_element(votes.begin(), votes.end(), fewer);
+  return most == votes.end() ? 0 : most->first;
+}
+
+// The code page under which the first of these files is found; 0 if there is none.
+int OpenProject::CodePageOfPaths(const std::vector<ComponentLine>& lines) const {
+  int in_force = runtime::AnsiCodePage().Number(), found = 0;
+  for (int page : {in_force, 932, 950, 936, 949, 1251, 1252, 1250, 1253, 1254, 874}) {
+    runtime::SetAnsiCodePage(page);
+    std::string path = JoinPath(FolderOf(path_), lines.front().path);
+    if (Environment().FilesInUse().Attributes(path) == host::kNoSuchFile) continue;
+    found = page;
+    break;
+  }
+  runtime::SetAnsiCodePage(in_force);
+  return found;
+}
+
+bool OpenProject::ReadBytes(const ComponentLine& line, const std::vector<SourceFile>& sources,
+                            OpenModule::Source& source) {
+  if (const SourceFile* text = FindSource(sources, line.path)) {
+    source.bytes = text->text;
+    return true;
+  }
+  try {
+    source.stamp = Environment().FilesInUse().Stamp(source.path);
+    if (static_cast<uint64_t>(std::max<int64_t>(source.stamp.size, 0)) > kLargestFile)
+      return ReportAt(line, "a file of 2 GB or more"), false;
+    source.bytes = Environment().FilesInUse().Read(source.path);
+    return true;
+  } catch (const runtime::Error& error) {
+    ReportAt(line, ReasonOf(error));
+    return false;
+  }
+}
+
+// Why a file that was read cannot be a module of the project; empty text for one that can.
+std::string OpenProject::Refusal(const OpenModule::Source& source) const {
+  if (long line = LineOfNul(source.bytes)) return "no text: NUL byte in line " + std::to_string(line);
+  if (HasDesigner(source.kind->type) && source.head.version.empty())
+    return "no " + std::string(source.kind->key) + ": its first line is not VERSION";
+  for (const auto& other : modules_) {
+    if (SamePath(other->Path(), source.path)) return "named twice in the project";
+    if (NamesMatch(other->Name(), source.name) && HasCode(other->Type()))
+      return "its name " + source.name + " is that of " + FileNameOf(other->Path());
+  }
+  return {};
+}
+
+// Reads the head of the source's bytes, and with it its kind and its name.
+void OpenProject::TakeHead(OpenModule::Source& source, const std::string& name_in_project) const {
+  if (!HasCode(source.kind->type)) {
+    source.name = FileNameOf(source.path);
+    return;
+  }
+  source.head = ReadModuleHead(source.bytes);
+  source.kind = KindInFile(*source.kind, source.head);
+  source.name = FirstOf({source.head.name, source.head.root_name, name_in_project, StemOf(source.path)});
+  FindConflictMarks(source.bytes, source.head.designer_end, source.head.problems);
+  if (source.kind->type == host::ComponentType::ClassModule && source.head.version.empty())
+    source.head.problems.push_back({{}, 1, "class without a VERSION line: all of it is taken for code"});
+}
+
+void OpenProject::ReadModule(const ComponentLine& line, const std::vector<SourceFile>& sources) {
+  if (line.path.empty()) return ReportAt(line, "a line without a path");
+  OpenModule::Source source;
+  source.kind = line.kind;
+  source.project_line = line.id;
+  source.path = JoinPath(FolderOf(path_), line.path);
+  if (SamePath(source.path, path_)) return ReportAt(line, "the project file names itself");
+  if (HasCode(line.kind->type) && !ReadBytes(line, sources, source)) return;
+  TakeHead(source, line.name);
+  if (std::string reason = Refusal(source); !reason.empty()) return ReportAt(line, reason);
+  for (const Problem& problem : source.head.problems) Environment().Report({source.path, problem.line, problem.reason});
+  modules_.push_back(std::make_shared<OpenModule>(*this, std::move(source)));
+}
+
+}  // namespace corvane::environment

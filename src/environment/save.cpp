@@ -1,0 +1,96 @@
+// Saving: each file is written as a whole or stays as it was; a file that somebody else changed is refused.
+#include "environment/observer.h"
+#include "environment/open_environment.h"
+#include "environment/open_project.h"
+#include "environment/paths.h"
+#include "runtime/error.h"
+
+namespace corvane::environment {
+
+namespace {
+
+void RequirePath(const std::string& path) {
+  if (path.empty()) throw host::Error(runtime::kPathFileAccessError, "never saved: it has no file yet");
+}
+
+void RequireUnchanged(bool changed, const std::string& path) {
+  if (changed) throw host::Error(runtime::kPermissionDenied, path + ": changed on disk since it was read");
+}
+
+}  // namespace
+
+void OpenProject::WriteModule(OpenModule& module, const std::string& path) {
+  if (!HasCode(module.Type())) return;
+  host::Files& files = Environment().FilesInUse();
+  std::string text = module.WriteToText();
+  files.Write(path, text);
+  module.TakeSaved(path, files.Stamp(path));
+  Environment().FileWasSaved(module, text);
+  if (Observer* observer = Environment().CurrentObserver()) observer->DirtyChanged();
+}
+
+void OpenProject::Save(Module& module, OnDiskChange rule) {
+  auto& open = dynamic_cast<OpenModule&>(module);
+  RequirePath(open.Path());
+  RequireUnchanged(rule == OnDiskChange::Refuse && open.ChangedOnDisk(), open.Path());
+  WriteModule(open, open.Path());
+}
+
+void OpenProject::SaveAs(OpenModule& module, const std::string& path) {
+  std::string whole = JoinPath(FolderOf(path_), path);
+  for (const auto& other : modules_)
+    if (other.get() != &module && SamePath(other->Path(), whole)) throw host::Error(runtime::kFileAlreadyExists);
+  if (!HasCode(module.Type())) throw host::Error(runtime::kNoSuchMember);
+  WriteModule(module, whole);
+  ListInFile(module);
+  NotifyComponents();
+}
+
+// The project file names the module by its path, from its own folder where it can.
+void OpenProject::ListInFile(OpenModule& module) {
+  std::string path = RelativePath(FolderOf(path_), module.Path());
+  if (file_.LineNumberOf(module.ProjectLine()) == 0)
+    module.SetProjectLine(file_.AddComponent(module.Kind(), module.Name(), path));
+  else
+    file_.SetPath(module.ProjectLine(), path);
+  SetDirty();
+}
+
+void OpenProject::SaveProjectFile(OnDiskChange rule) {
+  RequirePath(path_);
+  host::Files& files = Environment().FilesInUse();
+  host::FileStamp now = files.Stamp(path_);
+  RequireUnchanged(rule == OnDiskChange::Refuse && now.size != -1 && now != stamp_, path_);
+  files.Write(path_, file_.Write());
+  stamp_ = files.Stamp(path_);
+  dirty_ = false;
+  if (Observer* observer = Environment().CurrentObserver()) observer->DirtyChanged();
+}
+
+void OpenEnvironment::FileWasSaved(const OpenModule& module, const std::string& saved) {
+  for (const auto& project : projects_)
+    for (const auto& other : project->OpenModules())
+      if (other.get() != &module && !other->IsDirty() && SamePath(other->Path(), module.Path()))
+        other->Reload(saved, files_.Stamp(module.Path()));
+}
+
+std::vector<Problem> OpenEnvironment::SaveAll() {
+  std::vector<Problem> failed;
+  auto attempt = [&](const std::string& file, auto save) {
+    try {
+      save();
+    } catch (const host::Error& error) {
+      failed.push_back({file, 0, error.Description()});
+    }
+  };
+  for (const auto& project : projects_) {
+    for (const auto& module : project->OpenModules())
+      if (module->IsDirty())
+        attempt(module->Path().empty() ? module->Name() : module->Path(),
+                [&] { project->Save(*module, OnDiskChange::Refuse); });
+    if (project->IsDirty()) attempt(project->FileName(), [&] { project->SaveProjectFile(OnDiskChange::Refuse); });
+  }
+  return failed;
+}
+
+}  // namespace corvane::environment

@@ -1,0 +1,35 @@
+#include "tests/environment/host_contract.h"
+
+#include "environment/environment.h"
+#include "environment/memory_files.h"
+
+namespace corvane::tests {
+namespace {
+
+class FileFixture : public HostFixture {
+ public:
+  host::Ref<host::VBE> Open(const std::vector<Source>& sources) override {
+    std::vector<environment::SourceFile> files;
+    for (const Source& source : sources) {
+      std::string head = source.is_class ? "VERSION 1.0 CLASS\r\nBEGIN\r\n  MultiUse = -1  'True\r\nEND\r\n" : "";
+      std::string code = source.code.empty() ? "" : source.code + "\r\n";
+      files.push_back({source.name + (source.is_class ? ".cls" : ".bas"),
+                       head + "Attribute VB_Name = \"" + source.name + "\"\r\n" + code});
+    }
+    environment_->OpenFromModules("Contract", files);
+    return environment_;
+  }
+
+ private:
+  environment::MemoryFiles files_;
+  std::shared_ptr<environment::Environment> environment_ = environment::Environment::Create(files_);
+};
+
+std::unique_ptr<HostFixture> NewFileFixture() {
+  return std::make_unique<FileFixture>();
+}
+
+INSTANTIATE_TEST_SUITE_P(Files, HostContract, testing::Values(HostFactory(&NewFileFixture)));
+
+}  // namespace
+}  // namespace corvane::tests
