@@ -1,0 +1,261 @@
+// Saving, changes on disk, and the components of a project.
+#include <gtest/gtest.h>
+
+#include "environment/observer.h"
+#include "tests/environment/opened.h"
+
+namespace corvane::environment {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+class Saving : public testing::Test {
+ protected:
+  Saving() {
+    opened_.PutProject("Type=Exe|Module=Main; Main.bas|Class=Thing; Thing.cls|Startup=\"Sub Main\"|Name=\"P\"|");
+    opened_.Put("Main.bas", "Attribute VB_Name = \"Main\"|Sub Main()|End Sub|");
+    opened_.Put("Thing.cls", "VERSION 1.0 CLASS|BEGIN|  MultiUse = -1  'True|END|Attribute VB_Name = \"Thing\"|Dim x|");
+    opened_.environment->Open("C:\\P\\P.vbp");
+  }
+  host::Ref<host::VBComponents> Components() { return opened_.Project()->VBComponents(); }
+  Opened opened_;
+};
+
+TEST_F(Saving, WritesWhatWasEditedAndNothingElse) {
+  opened_.Code(0)->InsertLines(2, "    x = 1");
+  EXPECT_TRUE(opened_.environment->IsDirty());
+  EXPECT_EQ(opened_.environment->SaveAll().size(), 0u);
+  EXPECT_EQ(opened_.Disk("Main.bas"), Text("Attribute VB_Name = \"Main\"|Sub Main()|    x = 1|End Sub|"));
+  EXPECT_EQ(opened_.files.writes, 1);
+  EXPECT_FALSE(opened_.environment->IsDirty());
+  EXPECT_EQ(opened_.environment->SaveAll().size(), 0u);
+  EXPECT_EQ(opened_.files.writes, 1);
+}
+
+TEST_F(Saving, AFullDiskLeavesTheFileAndTheEdit) {
+  opened_.Code(0)->DeleteLines(1, 1);
+  opened_.files.FailWrites("C:\\P\\Main.bas", 61);
+  auto failed = opened_.environment->SaveAll();
+  ASSERT_EQ(failed.size(), 1u);
+  EXPECT_EQ(failed[0].file + ": " + failed[0].reason, "C:\\P\\Main.bas: Disk full");
+  EXPECT_TRUE(opened_.At(0)->IsDirty());
+  EXPECT_EQ(opened_.Disk("Main.bas"), Text("Attribute VB_Name = \"Main\"|Sub Main()|End Sub|"));
+}
+
+TEST_F(Saving, AFileThatSomebodyElseChangedIsRefusedUntilAsked) {
+  opened_.Code(0)->DeleteLines(1, 1);
+  opened_.Put("Main.bas", "theirs|");
+  EXPECT_TRUE(opened_.At(0)->ChangedOnDisk());
+  auto failed = opened_.environment->SaveAll();
+  ASSERT_EQ(failed.size(), 1u);
+  EXPECT_EQ(failed[0].reason, "C:\\P\\Main.bas: changed on disk since it was read");
+  EXPECT_EQ(opened_.Disk("Main.bas"), Text("theirs|"));
+  opened_.Project()->Save(*opened_.At(0), OnDiskChange::Overwrite);
+  EXPECT_EQ(opened_.Disk("Main.bas"), Text("Attribute VB_Name = \"Main\"|End Sub|"));
+  EXPECT_FALSE(opened_.At(0)->ChangedOnDisk());
+}
+
+TEST_F(Saving, AProjectFileThatSomebodyElseChangedIsRefusedUntilAsked) {
+  opened_.At(0)->SetName("Start");
+  opened_.PutProject("Type=OleDll|");
+  EXPECT_EQ(ErrorOf([&] { opened_.Project()->SaveProjectFile(); }), 70);
+  EXPECT_EQ(opened_.Disk("P.vbp"), Text("Type=OleDll|"));
+  opened_.Project()->SaveProjectFile(OnDiskChange::Overwrite);
+  EXPECT_NE(opened_.Disk("P.vbp").find("Module=Start; Main.bas"), std::string::npos);
+}
+
+TEST_F(Saving, AFileThatIsGoneIsWrittenAgain) {
+  opened_.Code(0)->DeleteLines(1, 1);
+  opened_.files.Remove("C:\\P\\Main.bas");
+  EXPECT_EQ(opened_.environment->SaveAll().size(), 0u);
+  EXPECT_EQ(opened_.Disk("Main.bas"), Text("Attribute VB_Name = \"Main\"|End Sub|"));
+}
+
+TEST_F(Saving, ANewComponentIsListedOnceItHasAFile) {
+  auto added = Components()->Add(host::ComponentType::StdModule);
+  EXPECT_EQ(added->FileNames(1), "");
+  EXPECT_EQ(opened_.Project()->WriteToText(), opened_.Disk("P.vbp"));
+  EXPECT_EQ(opened_.environment->SaveAll().size(), 1u);
+  added->CodeModule()->InsertLines(1, "Dim a");
+  added->SaveAs("C:\\P\\sub\\Module1.bas");
+  EXPECT_EQ(added->FileNames(1), "C:\\P\\sub\\Module1.bas");
+  EXPECT_EQ(opened_.Disk("sub\\Module1.bas"), Text("Attribute VB_Name = \"Module1\"|Dim a|"));
+  EXPECT_EQ(opened_.environment->SaveAll().size(), 0u);
+  EXPECT_EQ(opened_.Disk("P.vbp"), Text("Type=Exe|Module=Main; Main.bas|Module=Module1; sub\\Module1.bas|"
+                                        "Class=Thing; Thing.cls|Startup=\"Sub Main\"|Name=\"P\"|"));
+}
+
+TEST_F(Saving, SaveAsMakesThePathTheFileOfTheComponent) {
+  Components()->Item("Thing")->SaveAs("C:\\Other\\T2.cls");
+  EXPECT_EQ(opened_.files.Read("C:\\Other\\T2.cls"), opened_.Disk("Thing.cls"));
+  EXPECT_NE(opened_.Project()->WriteToText().find("Class=Thing; ..\\Other\\T2.cls\r\n"), std::string::npos);
+  EXPECT_EQ(ErrorOf([&] { Components()->Item("Thing")->SaveAs("C:\\P\\Main.bas"); }), 58);
+}
+
+TEST_F(Saving, AFileIsAddedByItsExtension) {
+  opened_.files.Put("C:\\lib\\Tools.bas", "Attribute VB_Name = \"Tools\"\n");
+  auto added = Components()->AddFile("C:\\lib\\Tools.bas");
+  EXPECT_EQ(added->Name(), "Tools");
+  EXPECT_EQ(added->Type(), host::ComponentType::StdModule);
+  EXPECT_EQ(Components()->Count(), 3);
+  EXPECT_NE(opened_.Project()->WriteToText().find("Module=Tools; ..\\lib\\Tools.bas\r\n"), std::string::npos);
+  EXPECT_EQ(ErrorOf([&] { Components()->AddFile("C:\\lib\\Tools.bas"); }), 32813);
+  EXPECT_EQ(ErrorOf([&] { Components()->AddFile("C:\\lib\\None.bas"); }), 53);
+  opened_.files.Put("C:\\lib\\x.frm", "no form");
+  EXPECT_EQ(ErrorOf([&] { Components()->AddFile("C:\\lib\\x.frm"); }), 321);
+  EXPECT_EQ(Components()->Count(), 3);
+}
+
+TEST_F(Saving, ARemovedComponentLosesItsLineAndKeepsItsFile) {
+  auto thing = Components()->Item("Thing");
+  opened_.environment->SelectComponent(thing);
+  thing->CodeModule()->CodePane()->Show();
+  Components()->Remove(thing);
+  EXPECT_EQ(opened_.Names(), Lines{"Main"});
+  EXPECT_EQ(opened_.Project()->WriteToText(), Text("Type=Exe|Module=Main; Main.bas|Startup=\"Sub Main\"|Name=\"P\"|"));
+  EXPECT_NE(opened_.files.Attributes("C:\\P\\Thing.cls"), host::kNoSuchFile);
+  EXPECT_EQ(opened_.environment->SelectedVBComponent(), nullptr);
+  EXPECT_EQ(opened_.environment->CodePanes()->Count(), 0);
+  EXPECT_EQ(ErrorOf([&] { thing->VBE(); }), 91);
+}
+
+TEST_F(Saving, ARenamedComponentKeepsItsFileAndItsOtherBytes) {
+  Components()->Item("Thing")->SetName("Item");
+  EXPECT_EQ(opened_.environment->SaveAll().size(), 0u);
+  EXPECT_EQ(opened_.Disk("Thing.cls"),
+            Text("VERSION 1.0 CLASS|BEGIN|  MultiUse = -1  'True|END|Attribute VB_Name = \"Item\"|Dim x|"));
+  EXPECT_NE(opened_.Disk("P.vbp").find("Class=Item; Thing.cls\r\n"), std::string::npos);
+}
+
+TEST_F(Saving, NewComponentsAreReadBackAsTheyWereMade) {
+  for (auto type : {host::ComponentType::StdModule, host::ComponentType::ClassModule}) {
+    auto added = Components()->Add(type);
+    added->SaveAs("C:\\P\\" + added->Name());
+    std::string text = opened_.Disk(added->Name());
+    Opened again;
+    again.files.Put("C:\\n.vbp", "Type=Exe\n");
+    again.files.Put("C:\\a" + std::string(type == host::ComponentType::StdModule ? ".bas" : ".cls"), text);
+    again.environment->Open("C:\\n.vbp");
+    auto read = again.Project()->VBComponents()->AddFile(type == host::ComponentType::StdModule ? "a.bas" : "a.cls");
+    EXPECT_EQ(read->Name(), added->Name());
+    EXPECT_EQ(read->Type(), type);
+    EXPECT_EQ(again.Problems(), Lines{});
+  }
+}
+
+TEST_F(Saving, KindsThatNobodyCanMakeAreRefused) {
+  EXPECT_EQ(ErrorOf([&] { Components()->Add(host::ComponentType::RelatedDocument); }), 5);
+  EXPECT_EQ(ErrorOf([&] { Components()->Add(host::ComponentType::ActiveXDesigner); }), 5);
+}
+
+// A module of two projects in a group is one file: what one saves the other shows, unless it was edited there too.
+class SharedModule : public testing::Test {
+ protected:
+  SharedModule() {
+    opened_.files.Put("C:\\P\\g.vbg", Text("VBGROUP 5.0|StartupProject=a.vbp|Project=b.vbp|"));
+    opened_.Put("a.vbp", "Name=\"A\"|Module=M; M.bas|");
+    opened_.Put("b.vbp", "Name=\"B\"|Module=M; m.BAS|");
+    opened_.Put("M.bas", "Attribute VB_Name = \"M\"|one|");
+    opened_.environment->Open("C:\\P\\g.vbg");
+    first_ = opened_.Project(0)->Modules().at(0);
+    second_ = opened_.Project(1)->Modules().at(0);
+  }
+  Opened opened_;
+  std::shared_ptr<Module> first_, second_;
+};
+
+TEST_F(SharedModule, ShowsWhatTheOtherProjectSaved) {
+  first_->ReplaceLines(1, 1, "two");
+  EXPECT_EQ(second_->CodeModule()->Lines(1, 1), "one");
+  opened_.Project(0)->Save(*first_);
+  EXPECT_EQ(second_->CodeModule()->Lines(1, 1), "two");
+  EXPECT_FALSE(second_->ChangedOnDisk());
+}
+
+TEST_F(SharedModule, AnEditIsNeverLostSilently) {
+  first_->ReplaceLines(1, 1, "two");
+  second_->ReplaceLines(1, 1, "three");
+  auto failed = opened_.environment->SaveAll();
+  ASSERT_EQ(failed.size(), 1u);
+  EXPECT_EQ(failed[0].reason, "C:\\P\\m.BAS: changed on disk since it was read");
+  EXPECT_EQ(second_->CodeModule()->Lines(1, 1), "three");
+  EXPECT_TRUE(second_->IsDirty());
+}
+
+class Recorder : public Observer {
+ public:
+  Lines log;
+  void LinesChanged(Module& module, long start, long removed, long inserted) override {
+    log.push_back(module.Name() + " " + std::to_string(start) + " -" + std::to_string(removed) + " +" +
+                  std::to_string(inserted));
+  }
+  void PaneShown(Module& module) override { log.push_back("pane " + module.Name()); }
+  void PaneClosed(Module& module) override { log.push_back("closed " + module.Name()); }
+  void SelectionSet(Module& module) override { log.push_back("selection " + module.Name()); }
+  void ComponentsChanged() override { log.push_back("components"); }
+  void MainWindowFocused() override { log.push_back("main window"); }
+  void DirtyChanged() override { log.push_back("dirty"); }
+};
+
+TEST_F(Saving, ObserversAreToldOfEveryChange) {
+  Recorder recorder;
+  opened_.environment->Observe(&recorder);
+  opened_.Code(0)->InsertLines(1, "a\r\nb");
+  opened_.At(0)->ReplaceLines(1, 2, "c\nd\ne");
+  opened_.Code(0)->DeleteLines(1, 3);
+  opened_.Code(0)->CodePane()->Show();
+  opened_.Code(0)->CodePane()->SetSelection({1, 1, 1, 1});
+  opened_.At(0)->UserSelection({2, 1, 2, 1});
+  opened_.environment->MainWindow()->SetFocus();
+  opened_.At(1)->SetName("Item");
+  opened_.At(0)->UserClosePane();
+  opened_.environment->SaveAll();
+  opened_.environment->Observe(nullptr);
+  opened_.Code(0)->InsertLines(1, "x");
+  EXPECT_EQ(recorder.log,
+            (Lines{"Main 1 -0 +2", "dirty", "Main 1 -2 +3", "Main 1 -3 +0", "pane Main", "selection Main", "main window",
+                   "dirty", "dirty", "components", "closed Main", "dirty", "dirty", "dirty"}));
+}
+
+TEST_F(Saving, AnEditorsEditIsOneChangeAndEmptyTextIsABlankLine) {
+  opened_.At(0)->ReplaceLines(1, 2, "");
+  EXPECT_EQ(opened_.Code(0)->CountOfLines(), 1);
+  EXPECT_EQ(ErrorOf([&] { opened_.At(0)->ReplaceLines(1, 2, "x"); }), 9);
+  EXPECT_EQ(ErrorOf([&] { opened_.At(0)->ReplaceLines(0, 0, "x"); }), 9);
+  opened_.At(0)->ReplaceLines(2, 0, "end");
+  EXPECT_EQ(opened_.Code(0)->Lines(1, 9), "\r\nend");
+}
+
+TEST(Environment, AnEmptyOneHasNothing) {
+  MemoryFiles files;
+  auto environment = Environment::Create(files);
+  EXPECT_EQ(environment->ActiveVBProject(), nullptr);
+  EXPECT_EQ(environment->ActiveCodePane(), nullptr);
+  EXPECT_EQ(environment->SelectedVBComponent(), nullptr);
+  EXPECT_EQ(environment->VBProjects()->Count(), 0);
+  EXPECT_EQ(ErrorOf([&] { environment->VBProjects()->Item(1); }), 9);
+}
+
+TEST(Environment, AProjectThatWasNeverSavedHasNoFileName) {
+  MemoryFiles files;
+  auto environment = Environment::Create(files);
+  environment->OpenFromTexts("", "Type=Exe\r\nName=\"New\"\r\nModule=M; M.bas\r\n", {{"M.bas", "x\r\n"}});
+  EXPECT_EQ(environment->ActiveVBProject()->FileName(), "");
+  EXPECT_EQ(environment->ActiveVBProject()->Name(), "New");
+  EXPECT_EQ(ErrorOf([&] { environment->Projects()[0]->SaveProjectFile(); }), 75);
+}
+
+TEST(Environment, ObjectsOutliveItAndFail) {
+  auto opened = Opened::Module("Sub A()|End Sub");
+  auto code = opened->Code();
+  auto component = opened->Project()->VBComponents()->Item(1);
+  auto project = opened->environment->ActiveVBProject();
+  opened->environment.reset();
+  EXPECT_EQ(ErrorOf([&] { component->VBE(); }), 91);
+  EXPECT_EQ(ErrorOf([&] { code->CodePane(); }), 91);
+  EXPECT_EQ(project->Name(), "P");
+  EXPECT_EQ(code->Lines(1, 1), "Sub A()");
+}
+
+}  // namespace
+}  // namespace corvane::environment
