@@ -68,7 +68,9 @@ class DesignerPart::Reader {
 
   void ReadTail(std::string_view raw, const DesignerLine&) {
     part_.tail_.push_back(raw);
-    if (!TrimBlanks(raw).empty()) Problem("behind the End of the designer part: " + Shown(TrimBlanks(raw)));
+    const bool first = TrimBlanks(raw).size() > 0 && !has_tail_;
+    has_tail_ = has_tail_ || first;
+    if (first) Problem("behind the End of the designer part: " + Shown(TrimBlanks(raw)));
   }
 
   void ReadInBlock(std::string_view raw, const DesignerLine& line) {
@@ -124,6 +126,7 @@ class DesignerPart::Reader {
   DesignerPart& part_;
   DesignerBlock* block_ = nullptr;
   long line_ = 0;
+  bool has_tail_ = false;  // a line with text behind the End: reported once
 };
 
 DesignerPart::DesignerPart(std::string text) : text_(std::move(text)) {

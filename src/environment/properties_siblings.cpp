@@ -22,6 +22,11 @@ std::string TextOf(std::string_view bytes, const SiblingReference& reference) {
   return text.value_or("");
 }
 
+bool IsPicture(const Variant& value, const runtime::Picture& picture) {
+  const PictureRef& there = std::get<PictureRef>(value);
+  return there && there->bytes == picture.bytes;
+}
+
 // The reference that a property's line holds now.
 bool ReferenceOf(const PropertyPlace& place, std::string_view name, SiblingReference& reference) {
   return ReadReference(LineValue(place.Block(), name).text, reference);
@@ -63,6 +68,7 @@ void WritePicture(const PropertyPlace& place, std::string_view name, const Pictu
   }
   SiblingReference before;
   const bool had = ReferenceOf(place, name, before);
+  if (had && IsPicture(ReadSiblingValue(place, PropertyKind::Picture, before), *picture)) return;
   const SiblingReference after =
       place.state->AppendRecord(frx::PictureRecord(picture->bytes), false, had ? &before : nullptr);
   SetLine(place.Part(), place.Block(), name, WriteReference(after));

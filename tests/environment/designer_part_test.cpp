@@ -83,7 +83,7 @@ const Awkward kAwkward[] = {
     {"BeginInAProperty",
      "VERSION 5.00\nBegin VB.Form F \n BeginProperty Font \n Begin VB.Label L \n End\n EndProperty\nEnd\n",
      {"4: Begin inside BeginProperty"}},
-    {"TextBehindTheEnd", "VERSION 5.00\nBegin VB.Form F \nEnd\nEnd\n", {"4: behind the End of the designer part: End"}},
+    {"TextBehindTheEnd", "VERSION 5.00\nBegin VB.Form F \nEnd\nEnd\nEnd\n", {"4: behind the End of the designer part: End"}},
     {"StrangeHead",
      "VERSION 5.00\nnot of the head\nBegin VB.Form F \nEnd\n",
      {"2: neither VERSION, Object nor Begin: not of the head"}},

@@ -416,6 +416,9 @@ TEST(Properties, APictureIsSetAndTakenAway) {
   EXPECT_EQ(std::get<PictureRef>(open.Of("I", "Picture")->Value())->bytes, "GIF89a");
   EXPECT_EQ(open.designer.Siblings()[0].bytes, "older bytes" + frx::PictureRecord("GIF89a"));
   EXPECT_NE(open.Text().find("Picture         =   \"F.frx\":000B\n"), std::string::npos);
+  const long changes = open.owner.changes;
+  open.Of("I", "Picture")->SetValue(open.Of("I", "Picture")->Value());
+  EXPECT_EQ(open.owner.changes, changes) << "the picture that is there already";
   open.Of("I", "Picture")->SetValue(PictureRef());
   EXPECT_EQ(open.Text(), before);
   EXPECT_EQ(ErrorOf([&] { open.Of("I", "Picture")->SetValue(1L); }), 13);
