@@ -1,0 +1,182 @@
+#include "toolkit_qt/menu.h"
+
+#include <QActionGroup>
+#include <algorithm>
+
+#include "forms/form.h"
+#include "toolkit_qt/fonts.h"
+#include "toolkit_qt/form.h"
+#include "toolkit_qt/texts.h"
+#include "toolkit_qt/toolkit.h"
+
+namespace corvane::toolkit_qt {
+namespace {
+
+struct KeyText {
+  int code;
+  const char* text;
+};
+
+constexpr KeyText kKeyTexts[] = {
+    {8, "Backspace"}, {9, "Tab"}, {13, "Enter"}, {27, "Esc"}, {32, "Space"}, {45, "Ins"}, {46, "Del"},
+};
+
+QString ShortcutText(const forms::Menu& item) {
+  const int code = item.ShortcutKey(), shift = item.ShortcutShift();
+  if (code == 0) return {};
+  QString text;
+  if (shift & forms::vbCtrlMask) text += "Ctrl+";
+  if (shift & forms::vbShiftMask) text += "Shift+";
+  if (shift & forms::vbAltMask) text += "Alt+";
+  if (code >= forms::vbKeyF1 && code < forms::vbKeyF1 + 16) return text + QString("F%1").arg(code - forms::vbKeyF1 + 1);
+  for (const KeyText& key : kKeyTexts) {
+    if (key.code == code) return text + key.text;
+  }
+  return text + QChar(code);
+}
+
+bool Holds(const std::vector<forms::Menu*>& items, const forms::Menu* wanted) {
+  return std::any_of(items.begin(), items.end(),
+                     [&](forms::Menu* item) { return item == wanted || Holds(item->Items(), wanted); });
+}
+
+using OnChosen = std::function<void(forms::Menu&)>;
+
+void Fill(QtToolkit& toolkit, QMenu& shown, const forms::Menu& menu, const OnChosen& on_chosen);
+
+// Entries of a menu that opens out of another are read when it opens.
+void AddSubmenu(QtToolkit& toolkit, QMenu& shown, forms::Menu& item, const OnChosen& on_chosen) {
+  QMenu* sub = shown.addMenu(ShownText(item.Caption()));
+  sub->menuAction()->setEnabled(item.Enabled());
+  QObject::connect(sub, &QMenu::aboutToShow, sub, [&toolkit, sub, &item, on_chosen] {
+    toolkit.Guard([&] { item.UserOpen(); });
+    sub->clear();
+    Fill(toolkit, *sub, item, on_chosen);
+  });
+}
+
+void AddItem(QMenu& shown, forms::Menu& item, const OnChosen& on_chosen) {
+  QString text = ShownText(item.Caption());
+  if (const QString keys = ShortcutText(item); !keys.isEmpty()) text += '\t' + keys;
+  QAction* action = shown.addAction(text);
+  action->setCheckable(item.Checked());
+  action->setChecked(item.Checked());
+  action->setEnabled(item.Enabled());
+  QObject::connect(action, &QAction::triggered, action, [&item, on_chosen] { on_chosen(item); });
+}
+
+void Fill(QtToolkit& toolkit, QMenu& shown, const forms::Menu& menu, const OnChosen& on_chosen) {
+  shown.setFont(MenuFont());
+  for (forms::Menu* item : menu.Items()) {
+    if (!item->Visible()) continue;
+    if (item->IsSeparator()) {
+      shown.addSeparator();
+    } else if (!item->Items().empty()) {
+      AddSubmenu(toolkit, shown, *item, on_chosen);
+    } else {
+      AddItem(shown, *item, on_chosen);
+    }
+  }
+}
+
+// The letter behind the single "&"; 0 for none.
+char AccessKeyOf(const std::string& caption) {
+  for (size_t i = 0; i + 1 < caption.size(); ++i) {
+    if (caption[i] != '&') continue;
+    if (caption[i + 1] != '&') return static_cast<char>(std::toupper(static_cast<unsigned char>(caption[i + 1])));
+    ++i;
+  }
+  return 0;
+}
+
+// Titles of the bar follow their menus; items are read when they are opened.
+class MenuPeer : public forms::Peer {
+ public:
+  explicit MenuPeer(forms::Menu& menu) : menu_(menu) {}
+  void Changed(forms::Property) override {
+    if (menu_.Parent()) return;
+    if (auto* form = dynamic_cast<FormWindowPeer*>(menu_.FormOf().Peer())) form->Menus().Renew();
+  }
+
+ private:
+  forms::Menu& menu_;
+};
+
+}  // namespace
+
+std::unique_ptr<forms::Peer> NewMenuPeer(forms::Menu& menu) {
+  return std::make_unique<MenuPeer>(menu);
+}
+
+bool MenuBar::IsWanted(const forms::Form& form) {
+  return std::any_of(form.Menus().begin(), form.Menus().end(), [](forms::Menu* menu) { return menu->Visible(); });
+}
+
+MenuBar::MenuBar(QtToolkit& toolkit, forms::Form& form, QWidget& window)
+    : toolkit_(toolkit), form_(form), bar_(new QMenuBar(&window)) {
+  bar_->setNativeMenuBar(false);
+  bar_->setFont(MenuFont());
+}
+
+void MenuBar::Renew() {
+  if (stale_ || !bar_) return;
+  stale_ = true;
+  QMetaObject::invokeMethod(
+      bar_, [this] { ShowTitles(); }, Qt::QueuedConnection);
+}
+
+void MenuBar::ShowTitles() {
+  if (!stale_ || !bar_) return;
+  stale_ = false;
+  bar_->clear();
+  const auto on_chosen = [this](forms::Menu& item) {
+    toolkit_.Guard([&] {
+      if (Holds(form_.Menus(), &item)) item.UserClick();
+    });
+  };
+  for (forms::Menu* menu : form_.Menus()) {
+    if (!menu->Visible()) continue;
+    QMenu* shown = bar_->addMenu(ShownText(menu->Caption()));
+    shown->menuAction()->setEnabled(menu->Enabled());
+    QObject::connect(shown, &QMenu::aboutToShow, shown, [this, shown, menu, on_chosen] {
+      toolkit_.Guard([&] { menu->UserOpen(); });
+      shown->clear();
+      Fill(toolkit_, *shown, *menu, on_chosen);
+    });
+  }
+}
+
+int MenuBar::ShownHeight() {
+  return IsWanted(form_) ? kHeight : 0;
+}
+
+int MenuBar::LayOut(int width) {
+  if (!bar_) return 0;
+  ShowTitles();
+  bar_->setVisible(ShownHeight() > 0);
+  bar_->setGeometry(0, 0, width, ShownHeight());
+  return ShownHeight();
+}
+
+bool MenuBar::Open(int key_code) {
+  if (!bar_ || !bar_->isVisible()) return false;
+  int place = -1;
+  for (forms::Menu* menu : form_.Menus()) {
+    if (!menu->Visible()) continue;
+    ++place;
+    if (!menu->Enabled() || AccessKeyOf(menu->Caption()) != key_code) continue;
+    bar_->setActiveAction(bar_->actions().value(place));
+    return true;
+  }
+  return false;
+}
+
+forms::Menu* ChooseFrom(QtToolkit& toolkit, forms::Menu& menu, QPoint place) {
+  forms::Menu* chosen = nullptr;
+  QMenu shown;
+  Fill(toolkit, shown, menu, [&](forms::Menu& item) { chosen = &item; });
+  if (!shown.isEmpty()) shown.exec(place);
+  return chosen;
+}
+
+}  // namespace corvane::toolkit_qt

@@ -1,0 +1,41 @@
+// The menu bar of a form, and popup menus. Their entries are read from the form's menus each time one opens, so there
+// is nothing to keep in step but the titles of the bar.
+#pragma once
+
+#include <QMenu>
+#include <QMenuBar>
+#include <QPointer>
+#include <memory>
+
+#include "forms/menu.h"
+
+namespace corvane::toolkit_qt {
+
+class QtToolkit;
+
+class MenuBar {
+ public:
+  static constexpr int kHeight = 22;  // logical pixels
+  static bool IsWanted(const forms::Form& form);
+
+  MenuBar(QtToolkit& toolkit, forms::Form& form, QWidget& window);
+  // The titles again, at the next turn of the loop or the next layout.
+  void Renew();
+  int ShownHeight();
+  int LayOut(int width);  // returns the height it takes
+  bool Open(int key_code);
+
+ private:
+  void ShowTitles();
+  QtToolkit& toolkit_;
+  forms::Form& form_;
+  QPointer<QMenuBar> bar_;
+  bool stale_ = true;
+};
+
+// Shows the items of [menu] at a place of the screen and waits. The chosen one, null for none.
+forms::Menu* ChooseFrom(QtToolkit& toolkit, forms::Menu& menu, QPoint place);
+
+std::unique_ptr<forms::Peer> NewMenuPeer(forms::Menu& menu);
+
+}  // namespace corvane::toolkit_qt
