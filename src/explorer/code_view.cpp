@@ -75,7 +75,6 @@ Ref<host::VBComponent> frmAddIn::ComponentAt(const std::string& row, long index)
 
 void frmAddIn::ShowDeclarations(host::CodeModule& module) {
   textOffset = 1;
-  txtCode.Clear();
   lblSub.SetCaption(LTrim(kDeclarations));
   long lines = module.CountOfDeclarationLines();
   ShowRaw(lines > 0 ? module.Lines(1, lines) : std::string());
@@ -150,10 +149,12 @@ void frmAddIn::cmdMore_Click() {
   if (maximise) {
     codePlace = txtCode.Place();
     forms::Twips top = tlbr.Top() + tlbr.Height() + 60;
-    txtCode.Move(lbxProc1.Left(), top, lbxProc1.Width(), Frame4.Top() - top - 60);
+    txtCode.Move(lbxProc1.Left(), top, lbxProc1.Width(), txtCode.Height());
+    SetCodeHeight(Frame4.Top() - top - 60);
     txtCode.ZOrder();
   } else {
-    txtCode.Move(codePlace.left, codePlace.top, codePlace.width, codePlace.height);
+    txtCode.Move(codePlace.left, codePlace.top, codePlace.width, txtCode.Height());
+    SetCodeHeight(codePlace.height);
   }
   cmdMore.SetCaption(maximise ? "Min" : "Max");
   cmGo.SetVisible(!maximise);

@@ -186,6 +186,7 @@ void frmAddIn::ShowComponent(long index) {
   SetWhile filling(busy);
   Ref<host::CodeModule> module;
   PassOverErrors([&] { module = Object(ActiveComponents(VBInstance)->Item(index)).CodeModule(); });
+  txtCode.Clear();
   PassOverErrors([&] { ShowDeclarations(Object(module)); });
   lbxProc->Clear();
   AddRow(kDeclarations, 0);

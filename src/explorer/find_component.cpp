@@ -22,8 +22,9 @@ Ref<host::CodeModule> ActiveModule(const Ref<host::VBE>& vbe) {
 
 long FindComponentIndex(const Ref<host::VBE>& vbe, std::string_view name) {
   std::string wanted = runtime::UCase(name);
+  Ref<host::VBComponents> components = ActiveComponents(vbe);
   long index = 0;
-  for (Ref<host::VBComponent> component : host::Each(*ActiveComponents(vbe))) {
+  for (Ref<host::VBComponent> component : host::Each(*components)) {
     ++index;
     if (HasCode(*component) && runtime::UCase(component->Name()) == wanted) return index;
   }
@@ -31,8 +32,9 @@ long FindComponentIndex(const Ref<host::VBE>& vbe, std::string_view name) {
 }
 
 Ref<host::VBComponent> FindComponent(const Ref<host::VBE>& vbe, std::string_view name, long* index) {
+  Ref<host::VBComponents> components = ActiveComponents(vbe);
   long position = 0;
-  for (Ref<host::VBComponent> component : host::Each(*ActiveComponents(vbe))) {
+  for (Ref<host::VBComponent> component : host::Each(*components)) {
     ++position;
     if (!HasCode(*component) || component->Name() != name) continue;
     if (index) *index = position;

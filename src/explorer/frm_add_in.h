@@ -132,7 +132,9 @@ class frmAddIn : public forms::Form {
   void Form_Resize();
   void KeepMinimumSize();
   void PlaceByWidth(forms::Twips w);
+  void AlignRight(forms::Twips right);
   void PlaceByHeight();
+  void SetCodeHeight(forms::Twips height);
 
   // component_list.cpp
   void FillComponentList();

@@ -15,7 +15,7 @@ enum class Visibility { All, Public, Private, Static };
 struct ProcedureFilter {
   ProcedureKind kind = ProcedureKind::All;
   Visibility visibility = Visibility::All;
-  std::string name;  // in any case; empty for none. With one, only Private is looked at of the visibilities.
+  std::string name = {};  // in any case; empty for none. With one, only Private is looked at of the visibilities.
 };
 
 // Takes the number of a line that is a row, and its text.

@@ -10,7 +10,7 @@ using forms::Twips;
 namespace {
 
 constexpr Twips kWidest = 12300, kLeastWidth = 10530, kLeastHeight = 8400;
-constexpr Twips kFrameWidth = 260, kBelowFrames = 550;
+constexpr Twips kFrameWidth = 260, kBelowFrames = 550, kBetweenButtons = 45;
 
 }  // namespace
 
@@ -37,8 +37,18 @@ void frmAddIn::PlaceByWidth(Twips w) {
   for (forms::Control* control : {static_cast<forms::Control*>(&txtCode), static_cast<forms::Control*>(&lbxProc1),
                                   static_cast<forms::Control*>(&lbxProc2)})
     control->SetWidth(w - kFrameWidth);
+  AlignRight(lbxProc1.Left() + lbxProc1.Width());
   tlbr.SetWidth(ScaleWidth());
   codePlace.width = txtCode.Width();
+}
+
+// What stands at the right edge of the views stays there.
+void frmAddIn::AlignRight(Twips right) {
+  txtFind.SetWidth(right - txtFind.Left());
+  cmdNext.SetLeft(right - cmdNext.Width());
+  cmdPrev.SetLeft(cmdNext.Left() - kBetweenButtons - cmdPrev.Width());
+  cmGo.SetLeft(right - cmGo.Width());
+  txtClip.SetWidth(right - txtClip.Left());
 }
 
 // The frames keep their height and stand 550 above the bottom of the window; their top is the line for the rest.
@@ -46,12 +56,17 @@ void frmAddIn::PlaceByHeight() {
   Twips line = Height() - Frame4.Height() - kBelowFrames;
   Frame4.SetTop(line);
   Frame6.SetTop(line);
-  txtClip.Move(txtClip.Left(), line + 90, lbxProc1.Left() + lbxProc1.Width() - txtClip.Left(),
-               ScaleHeight() - 180 - (line + 90));
+  txtClip.Move(txtClip.Left(), line + 90, txtClip.Width(), ScaleHeight() - 180 - (line + 90));
   cmdMore.SetTop(line + 90);
   cmdColor.SetTop(line + 500);
-  txtCode.SetHeight(line - txtCode.Top() - 60);
+  SetCodeHeight(line - txtCode.Top() - 60);
   codePlace.height = line - codePlace.top - 60;
+}
+
+// The view rounds its height to whole rows; it must not grow into what stands below.
+void frmAddIn::SetCodeHeight(Twips height) {
+  txtCode.SetHeight(height);
+  if (txtCode.Height() > height) txtCode.SetHeight(txtCode.Height() - txtCode.RowHeight());
 }
 
 }  // namespace corvane::explorer
