@@ -1,0 +1,105 @@
+// The jumps into the environment.
+#include "tests/explorer/explorer_fixture.h"
+
+namespace corvane::tests {
+namespace {
+
+class GoTo : public ExplorerTest {
+ protected:
+  const Sources kShop = {
+      Frm("frmMain", {"Option Explicit", "' the form", "Private a As Long", "", "Private Sub Form_Load()", "    Fill",
+                      "    a = 1", "End Sub", "", "Sub Fill()", "    a = 2", "End Sub"}),
+      Bas("modMain", {"Public Total As Long", "Public Count As Long", "", "Public Sub Main()", "End Sub"}),
+      Bas("modMore", {"Public More As Long", "Public Most As Long"}),
+  };
+  // The user double-clicks a row of the code view.
+  void GoFrom(long row) {
+    form.txtCode.SetStrPos(row);
+    form.txtCode.DblClick();
+  }
+  long LineIn(const std::string& module) {
+    auto pane = environment->ActiveCodePane();
+    if (!pane || pane->CodeModule()->Name() != module) return 0;
+    return pane->GetSelection().start_line;
+  }
+};
+
+TEST_F(GoTo, ADoubleClickStandsOnThatLineInTheCodePane) {
+  OpenWindow(kShop);
+  ChooseComponent("frmMain");
+  ChooseProcedure("Fill()");
+  GoFrom(2);
+  EXPECT_EQ(LineIn("frmMain"), 11);
+  EXPECT_EQ(SelectionOf("frmMain"), (host::Selection{11, 1, 11, 1}));
+}
+
+TEST_F(GoTo, FromTheDeclarationsOfAComponent) {
+  OpenWindow(kShop);
+  ChooseComponent("frmMain");
+  for (long row = 1; row <= 3; ++row) {
+    GoFrom(row);
+    EXPECT_EQ(LineIn("frmMain"), row);
+  }
+}
+
+TEST_F(GoTo, FromTheGlobalsTheLineCountsFromTheTitle) {
+  OpenWindow(kShop);
+  long title = RowOf(CodeRows(), "Standart Module: modMore") + 1;
+  GoFrom(title + 2);
+  EXPECT_EQ(LineIn("modMore"), 2);
+  GoFrom(2);
+  EXPECT_EQ(LineIn("modMain"), 1);
+}
+
+TEST_F(GoTo, ATitleLineGivesTheMessage) {
+  OpenWindow(kShop);
+  GoFrom(1);
+  EXPECT_THAT(Messages(), ElementsAre("Don't select \"Standart Module\" line. It's a title"));
+  EXPECT_EQ(environment->ActiveCodePane(), nullptr);
+}
+
+TEST_F(GoTo, ALineThatMovedIsFoundByItsText) {
+  OpenWindow(kShop);
+  ChooseComponent("frmMain");
+  ChooseProcedure("Form_Load");
+  Module("frmMain").InsertLines(6, "    Debug.Print a");
+  GoFrom(3);
+  EXPECT_EQ(LineIn("frmMain"), 8);
+}
+
+TEST_F(GoTo, ARowOfTheGlobalsGoesToItsOwnModule) {
+  OpenWindow(kShop);
+  ChooseProcedure("Main()");
+  GoFrom(2);
+  EXPECT_EQ(LineIn("modMain"), 5);
+}
+
+TEST_F(GoTo, WithNothingListedItGoesNowhere) {
+  OpenWindow(kShop);
+  form.lbxComp->Clear();
+  form.lbxProc->Clear();
+  form.txtCode.Clear();
+  form.txtCode.DblClick();
+  EXPECT_EQ(environment->ActiveCodePane(), nullptr);
+}
+
+TEST_F(GoTo, WithoutGoModeItOnlyTellsTheComponent) {
+  OpenWindow(kShop);
+  ChooseProcedure("Main()");
+  EXPECT_EQ(form.GoToCode(), 2);
+  EXPECT_EQ(environment->ActiveCodePane(), nullptr);
+}
+
+TEST_F(GoTo, ThePlaceThatWasLeftBecomesThePreviousPoint) {
+  Open(kShop);
+  Caret("modMain", 4);
+  OpenWindow();
+  form.optProj.UserClick();
+  ChooseComponent("frmMain");
+  ChooseProcedure("Fill()");
+  GoFrom(1);
+  EXPECT_EQ(form.previousPoint, "<Previous point>" + std::string(160, ' ') + "\\+\\modMain\t4");
+}
+
+}  // namespace
+}  // namespace corvane::tests

@@ -1,0 +1,83 @@
+#include "tests/explorer/explorer_fixture.h"
+
+namespace corvane::tests {
+namespace {
+
+class ListPairs : public ExplorerTest {
+ protected:
+  const Sources kShop = {
+      Frm("frmMain", {"Option Explicit", "", "", "", "Private Sub Form_Load()", "    Fill", "End Sub"}),
+      Bas("modMain",
+          {"Public Total As Long", "", "", "", "Public Sub Main()", "    Total = 1", "    Total = 2", "End Sub"}),
+      Cls("clsItem", {"Private a", "Private b"}),
+  };
+};
+
+TEST_F(ListPairs, TheSecondPairStandsInThePlaceOfTheFirst) {
+  OpenWindow(kShop);
+  EXPECT_EQ(form.lbxProc2.Place(), form.lbxProc1.Place());
+  EXPECT_EQ(form.lbxComp2.Place(), form.lbxComp1.Place());
+  form.optSecond.UserClick();
+  EXPECT_FALSE(form.lbxComp1.Visible());
+  EXPECT_FALSE(form.lbxProc1.Visible());
+  EXPECT_TRUE(form.lbxComp2.Visible());
+  EXPECT_TRUE(form.lbxProc2.Visible());
+}
+
+TEST_F(ListPairs, EachKeepsWhatWasListedInItLast) {
+  OpenWindow(kShop);
+  ChooseProcedure("Main()");
+  form.txtCode.SetStrPos(3);
+  form.optSecond.UserClick();
+  EXPECT_THAT(Components(), IsEmpty());
+  EXPECT_THAT(CodeRows(), IsEmpty());
+  form.axClasses.Click();
+  EXPECT_THAT(Components(), ElementsAre(" Project Globals", "clsItem"));
+  form.optFirst.UserClick();
+  EXPECT_THAT(Components(), ElementsAre(" Project Globals", "clsItem", "frmMain", "modMain"));
+  EXPECT_EQ(form.txtCode.List(1), "Public Sub Main()");
+  EXPECT_EQ(form.txtCode.ListIndex(), 3);
+  EXPECT_TRUE(form.lbxProc == &form.lbxProc1);
+}
+
+TEST_F(ListPairs, EachKeepsItsMode) {
+  Open(kShop);
+  Caret("modMain", 6);
+  OpenWindow();
+  ASSERT_TRUE(form.optCurMod.Value());
+  form.optSecond.UserClick();
+  EXPECT_TRUE(form.optProj.Value());
+  EXPECT_FALSE(form.optCurMod.Value());
+  form.optFirst.UserClick();
+  EXPECT_TRUE(form.optCurMod.Value());
+  EXPECT_THAT(Components(), ElementsAre("modMain"));
+  EXPECT_THAT(Messages(), IsEmpty());
+}
+
+TEST_F(ListPairs, TheSecondPairIsOfferedTheComponentInView) {
+  Open(kShop);
+  Caret("modMain", 6);
+  OpenWindow();
+  form.optSecond.UserClick();
+  EXPECT_EQ(form.pendingComponent, "modMain");
+}
+
+TEST_F(ListPairs, AWaitingComponentIsTakenByTheNextChoice) {
+  OpenWindow(kShop);
+  form.pendingComponent = "clsItem";
+  ChooseComponent("Project Globals");
+  EXPECT_EQ(form.lbxComp->List(0), "clsItem");
+  EXPECT_THAT(CodeRows(), ElementsAre("Private a", "Private b"));
+  EXPECT_EQ(form.pendingComponent, "");
+}
+
+TEST_F(ListPairs, AWaitingComponentThatTheProjectDoesNotHoldIsForgotten) {
+  OpenWindow(kShop);
+  form.pendingComponent = "clsGone";
+  ChooseComponent("clsItem");
+  EXPECT_THAT(CodeRows(), ElementsAre("Private a", "Private b"));
+  EXPECT_EQ(form.pendingComponent, "");
+}
+
+}  // namespace
+}  // namespace corvane::tests
