@@ -1,6 +1,7 @@
 // OpenProject: its components as a collection; adding, removing and renaming them.
 #include <algorithm>
 
+#include "environment/lookup.h"
 #include "environment/new_module.h"
 #include "environment/observer.h"
 #include "environment/open_environment.h"
@@ -22,7 +23,7 @@ class OpenProject::Components : public host::VBComponents {
       if (*position >= 1 && *position <= Count()) return modules[static_cast<size_t>(*position - 1)];
     } else {
       for (const auto& module : modules)
-        if (NamesMatch(module->Name(), std::get<std::string>(index))) return module;
+        if (SameName(module->Name(), std::get<std::string>(index))) return module;
     }
     throw host::Error(runtime::kSubscriptOutOfRange);
   }
@@ -41,7 +42,7 @@ host::Ref<host::VBComponents> OpenProject::VBComponents() {
 
 void OpenProject::RequireFreeName(const std::string& name, const OpenModule* but) const {
   for (const auto& module : modules_)
-    if (module.get() != but && NamesMatch(module->Name(), name)) throw host::Error(runtime::kNameInUse);
+    if (module.get() != but && SameName(module->Name(), name)) throw host::Error(runtime::kNameInUse);
 }
 
 void OpenProject::WasRenamed(OpenModule& module, const std::string& old_name) {
@@ -58,7 +59,7 @@ void OpenProject::NotifyComponents() {
 std::string OpenProject::NewName(const ModuleKind& kind) const {
   for (long number = 1;; ++number) {
     std::string name = std::string(kind.base_name) + std::to_string(number);
-    auto has_it = [&](const auto& module) { return NamesMatch(module->Name(), name); };
+    auto has_it = [&](const auto& module) { return SameName(module->Name(), name); };
     if (std::none_of(modules_.begin(), modules_.end(), has_it)) return name;
   }
 }

@@ -1,5 +1,6 @@
 #include "environment/group_file.h"
 
+#include "environment/lookup.h"
 #include "environment/statement.h"
 
 namespace corvane::environment {
@@ -29,8 +30,8 @@ GroupFile::GroupFile(std::string_view bytes) {
     if (line.empty() || number == 1) continue;
     size_t equals = line.find('=');
     std::string_view key = Trimmed(line.substr(0, equals));
-    bool startup = NamesMatch(key, "StartupProject");
-    if (equals == std::string_view::npos || (!startup && !NamesMatch(key, "Project")))
+    bool startup = SameName(key, "StartupProject");
+    if (equals == std::string_view::npos || (!startup && !SameName(key, "Project")))
       problems_.push_back({{}, number, "neither Project nor StartupProject"});
     else
       projects_.push_back({number, std::string(Trimmed(line.substr(equals + 1))), startup});

@@ -1,6 +1,7 @@
 // ModuleText: the hidden Attribute lines, which follow their members through edits.
 #include <algorithm>
 
+#include "environment/lookup.h"
 #include "environment/module_text.h"
 #include "environment/statement.h"
 
@@ -10,7 +11,7 @@ namespace {
 
 bool Declares(std::string_view line, std::string_view member) {
   for (std::string_view name : DeclaredNames(line))
-    if (NamesMatch(name, member)) return true;
+    if (SameName(name, member)) return true;
   return false;
 }
 
@@ -63,7 +64,7 @@ bool ModuleText::PlaceAttribute(Attribute& attribute, size_t start, size_t count
 
 void ModuleText::LoseAttribute(const Attribute& attribute) {
   std::string_view text = View(attribute.text), member = MemberOfAttribute(text);
-  auto same = [&](const Lost& lost) { return NamesMatch(lost.member, member); };
+  auto same = [&](const Lost& lost) { return SameName(lost.member, member); };
   auto found = std::find_if(lost_.begin(), lost_.end(), same);
   if (found == lost_.end()) found = lost_.insert(lost_.end(), {std::string(member), {}});
   found->lines.emplace_back(text);
@@ -83,17 +84,20 @@ void ModuleText::Revive(size_t start, size_t count) {
 }
 
 // An attribute names its member: where the member was renamed the name follows, where the line declares nothing any
-// more the attribute is left out, as the environment could not read it.
-void ModuleText::WriteAttribute(std::string& out, const Attribute& attribute) const {
+// more the attribute is left out, as the environment could not read it. Returns where the text of the line ends in
+// [out], 0 where there is none.
+size_t ModuleText::WriteAttribute(std::string& out, const Attribute& attribute) const {
   if (!attribute.touched) return WriteLine(out, attribute.text);
   std::vector<std::string_view> names = DeclaredNames(View(lines_[HeaderStart(attribute.line)]));
   std::string_view text = View(attribute.text), member = MemberOfAttribute(text);
   for (std::string_view name : names)
-    if (NamesMatch(name, member)) return WriteLine(out, attribute.text);
-  if (names.size() != 1 || member.empty()) return;
+    if (SameName(name, member)) return WriteLine(out, attribute.text);
+  if (names.size() != 1 || member.empty()) return 0;
   size_t at = static_cast<size_t>(member.data() - text.data());
   out.append(text, 0, at).append(names[0]).append(text.substr(at + member.size()));
+  size_t end = out.size();
   out += line_end_;
+  return end;
 }
 
 }  // namespace corvane::environment

@@ -90,18 +90,17 @@ class HeadReader {
 
   // Leaves the reader on the first line behind the root block.
   void ReadDesigner() {
-    long depth = 0, root_line = 0;
+    long depth = 0;
     head_.designer_end = lines_.End();
     while (lines_.Next()) {
       std::string_view line = Trimmed(lines_.Line()), word = FirstWord(line);
       if (depth == 0 && IsAttributeLine(lines_.Line())) return ReportMissingRoot();
       if (StartsWithWord(word, "begin") || StartsWithWord(word, "beginproperty")) {
-        if (depth++ == 0) root_line = lines_.Number(), ReadRoot(line);
+        if (depth++ == 0) ReadRoot(line);
       } else if (StartsWithWord(line, "end") || StartsWithWord(line, "endproperty")) {
         if (--depth <= 0) return Leave();
       } else if (depth > 0 && IsAttributeLine(lines_.Line())) {
-        head_.problems.push_back({{}, root_line, "designer part without its End"});
-        return;
+        return ReportCutOff(lines_.Number() - 1);
       } else if (depth > 0) {
         ReadProperty(line);
       }
@@ -110,9 +109,10 @@ class HeadReader {
     if (depth == 0) return ReportMissingRoot();
     // The line on which the file breaks off is no problem of its own.
     if (!head_.problems.empty() && head_.problems.back().line == lines_.Number()) head_.problems.pop_back();
-    head_.problems.push_back({{}, root_line, "designer part without its End"});
+    ReportCutOff(lines_.Number());
     head_.designer_end = bytes_.size();
   }
+  void ReportCutOff(long line) { head_.problems.push_back({{}, line, "the designer part breaks off before its End"}); }
   void ReportMissingRoot() { head_.problems.push_back({{}, 1, "no Begin behind the VERSION line"}); }
   void Leave() {
     head_.designer_end = lines_.End();
@@ -139,7 +139,10 @@ class HeadReader {
   void ReadAttributes() {
     for (head_.code_start = lines_.Start(); lines_.Start() < bytes_.size(); lines_.Next()) {
       std::string_view line = lines_.Line();
-      if (!IsAttributeLine(line) || !MemberOfAttribute(line).empty()) return;
+      if (head_.designer_end > 0 && head_.name.empty() && Trimmed(line) == "End")
+        Report("End without a Begin");
+      else if (!IsAttributeLine(line) || !MemberOfAttribute(line).empty())
+        return;
       if (IsNameAttribute(line)) head_.name = QuotedValue(line);
       head_.code_start = lines_.End();
     }

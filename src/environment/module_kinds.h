@@ -13,6 +13,7 @@ struct ModuleKind {
   std::string_view key;         // in a .vbp
   std::string_view extension;   // of its file
   std::string_view root_class;  // of its designer part; empty where it has none
+  std::string_view sibling;     // extension of the binary file beside it
   std::string_view base_name;   // of a new one: "Form1"
   bool named_in_project;        // "Module=Name; path", else "Form=path"
 };
@@ -23,6 +24,7 @@ const ModuleKind& KindOf(host::ComponentType type);  // Error 5 for a kind that 
 const ModuleKind* KindOfKey(std::string_view key);
 const ModuleKind* KindOfExtension(std::string_view extension);  // ".frm"
 const ModuleKind* KindOfRootClass(std::string_view root_class);
+bool IsSiblingExtension(std::string_view extension);  // ".frx" and the like
 
 inline bool HasCode(host::ComponentType type) {
   return type != host::ComponentType::RelatedDocument;

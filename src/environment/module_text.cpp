@@ -133,29 +133,31 @@ std::string_view ModuleText::OwnLineEnd(Span span) const {
   return !behind.empty() && behind[0] == '\n' ? "\n" : std::string_view();
 }
 
-void ModuleText::WriteLine(std::string& out, Span span) const {
+// Returns where the text of the line ends in [out].
+size_t ModuleText::WriteLine(std::string& out, Span span) const {
   out += View(span);
+  size_t end = out.size();
   std::string_view own = OwnLineEnd(span);
   out += own.empty() ? line_end_ : own;
+  return end;
 }
 
-std::string ModuleText::Write() const {
+std::string ModuleText::Write(std::string_view head) const {
   std::string out;
-  out.reserve(Head().size() + bytes_.size() - code_start_ + added_.size() + 64);
-  out += Head();
+  out.reserve(head.size() + bytes_.size() - code_start_ + added_.size() + 64);
+  out += head;
   if (lines_.empty()) return out;
   if (!EndsALine(out)) out += line_end_;
   auto attribute = attributes_.begin();
+  size_t last_end = 0;  // of the text of the last line
   for (size_t i = 0; i < lines_.size(); ++i) {
-    WriteLine(out, lines_[i]);
+    last_end = WriteLine(out, lines_[i]);
     // Behind the last line of a header, wherever that is now.
     bool due = attribute != attributes_.end() && attribute->line <= i && !IsContinued(View(lines_[i]));
-    for (; due && attribute != attributes_.end() && attribute->line <= i; ++attribute) WriteAttribute(out, *attribute);
+    for (; due && attribute != attributes_.end() && attribute->line <= i; ++attribute)
+      if (size_t end = WriteAttribute(out, *attribute)) last_end = end;
   }
-  if (!final_line_end_) {
-    out.pop_back();
-    if (!out.empty() && out.back() == '\r') out.pop_back();
-  }
+  if (!final_line_end_) out.resize(last_end);
   return out;
 }
 

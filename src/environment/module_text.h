@@ -46,7 +46,8 @@ class ModuleText {
   std::string_view Head() const;
   void SetHead(std::string head);
 
-  std::string Write() const;
+  std::string Write() const { return Write(Head()); }
+  std::string Write(std::string_view head) const;  // with another head
   std::string_view LineEnd() const { return line_end_; }
 
   // For searching: where the lines lie. Valid until the next change.
@@ -87,8 +88,8 @@ class ModuleText {
   size_t HeaderStart(size_t line) const;
   size_t HeaderEnd(size_t line) const;
   std::string_view OwnLineEnd(Span span) const;
-  void WriteLine(std::string& out, Span span) const;
-  void WriteAttribute(std::string& out, const Attribute& attribute) const;
+  size_t WriteLine(std::string& out, Span span) const;
+  size_t WriteAttribute(std::string& out, const Attribute& attribute) const;
 
   std::string bytes_, added_;
   std::string head_;  // when it is no longer the start of bytes_

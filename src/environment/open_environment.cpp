@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "environment/lookup.h"
 #include "environment/module_kinds.h"
 #include "environment/observer.h"
 #include "environment/open_project.h"
@@ -24,7 +25,7 @@ class ProjectList : public host::VBProjects {
       if (*position >= 1 && *position <= Count()) return projects_[static_cast<size_t>(*position - 1)];
     } else {
       for (const auto& project : projects_)
-        if (NamesMatch(project->Name(), std::get<std::string>(index))) return project;
+        if (SameName(project->Name(), std::get<std::string>(index))) return project;
     }
     throw host::Error(runtime::kSubscriptOutOfRange);
   }
@@ -37,6 +38,7 @@ class ProjectList : public host::VBProjects {
 std::string ProjectTextFor(const std::string& name, const std::vector<SourceFile>& sources) {
   std::string text = "Type=Exe\r\n";
   for (const SourceFile& source : sources) {
+    if (IsSiblingExtension(ExtensionOf(source.path))) continue;
     const ModuleKind* kind = KindOfExtension(ExtensionOf(source.path));
     if (kind == nullptr)
       text += "RelatedDoc=" + source.path + "\r\n";
@@ -122,6 +124,11 @@ void OpenEnvironment::OpenFromModules(const std::string& name, const std::vector
 void OpenEnvironment::TakeCodePageHint(int code_page) {
   if (code_page == 0 || options_.code_page != 0 || std::exchange(knows_code_page_, true)) return;
   runtime::SetAnsiCodePage(code_page);
+}
+
+void OpenEnvironment::ReportOnce(Problem problem) {
+  auto same = [&](const Problem& other) { return other.line == problem.line && SamePath(other.file, problem.file); };
+  if (std::none_of(problems_.begin(), problems_.end(), same)) problems_.push_back(std::move(problem));
 }
 
 void OpenEnvironment::Forget(const OpenModule& module) {

@@ -64,6 +64,8 @@ class OpenEnvironment : public Environment {
   // those are refused when they are saved, as after any other change on disk.
   void FileWasSaved(const OpenModule& module, const std::string& saved);
   const std::string& GroupPath() const { return group_path_; }
+  // Unless something of that line was reported already.
+  void ReportOnce(Problem problem);
   void Report(Problem problem) { problems_.push_back(std::move(problem)); }
 
  private:

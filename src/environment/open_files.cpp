@@ -1,5 +1,6 @@
 // OpenEnvironment: opening project files and groups from disk.
 #include "environment/group_file.h"
+#include "environment/lookup.h"
 #include "environment/open_environment.h"
 #include "environment/open_project.h"
 #include "environment/paths.h"
@@ -58,7 +59,7 @@ std::shared_ptr<OpenProject> OpenEnvironment::OpenInGroup(const std::string& gro
     if (GroupFile::IsGroup(bytes)) return refuse("a group inside a group");
     std::shared_ptr<OpenProject> project = AddProject(path, bytes, {});
     for (const auto& other : projects_)
-      if (other != project && NamesMatch(other->Name(), project->Name()))
+      if (other != project && SameName(other->Name(), project->Name()))
         refuse("its name " + project->Name() + " is that of another project of the group");
     return project;
   } catch (const host::Error& error) {

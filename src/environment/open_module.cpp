@@ -1,5 +1,6 @@
 #include "environment/open_module.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "environment/doubtful_points.h"
@@ -7,10 +8,23 @@
 #include "environment/open_code_module.h"
 #include "environment/open_environment.h"
 #include "environment/open_project.h"
+#include "environment/paths.h"
 #include "environment/statement.h"
+#include "runtime/code_page.h"
 #include "runtime/error.h"
 
 namespace corvane::environment {
+
+namespace {
+
+// A letter, then letters, digits and underscores; at most 40.
+bool IsLegalName(const std::string& name) {
+  auto is_word = [](char c) { return runtime::AnsiCodePage().IsWordByte(static_cast<unsigned char>(c)); };
+  bool starts = !name.empty() && name[0] != '_' && !(name[0] >= '0' && name[0] <= '9');
+  return starts && name.size() <= 40 && std::all_of(name.begin(), name.end(), is_word);
+}
+
+}  // namespace
 
 OpenModule::OpenModule(OpenProject& project, Source source)
     : project_(project.weak_from_this()),
@@ -29,6 +43,11 @@ OpenModule::~OpenModule() {
 void OpenModule::Detach() {
   if (pane_) pane_->Detach();
   pane_.reset();
+  if (designer_) designer_->Detach();
+  if (auto project = project_.lock(); designer_window_ && project && project->EnvironmentOf())
+    project->EnvironmentOf()->WindowsOf().Remove(designer_window_);
+  if (designer_window_) designer_window_->Detach();
+  designer_window_.reset();
   project_.reset();
 }
 
@@ -56,39 +75,33 @@ host::Ref<host::CodeModule> OpenModule::CodeModule() {
   return std::make_shared<OpenCodeModule>(shared_from_this());
 }
 
-host::Ref<host::VBForm> OpenModule::Designer() {
-  return nullptr;
-}
-bool OpenModule::HasOpenDesigner() {
-  return false;
-}
-host::Ref<host::Window> OpenModule::DesignerWindow() {
-  throw host::Error(runtime::kNoSuchMember);
-}
-host::Ref<host::Properties> OpenModule::Properties() {
-  throw host::Error(runtime::kNoSuchMember);
-}
-void OpenModule::UserOpenDesigner(bool) {}
-void OpenModule::UserSelectControls(const std::vector<long>&) {}
-
 void OpenModule::SetName(const std::string& name) {
   auto project = project_.lock();
   if (!project) throw host::Error(runtime::kObjectNotSet);
   if (name == name_) return;
+  if (!IsLegalName(name)) throw host::Error(runtime::kInvalidPropertyValue);
   project->RequireFreeName(name, this);
-  text_.SetHead(HeadWithName(text_.Head(), name));
+  if (HasDesigner(kind_->type)) DesignerOf().SetRootName(name);
+  if (HasCode(kind_->type)) RenameHead(name);
   std::string old_name = std::exchange(name_, name);
   SetDirty();
   project->WasRenamed(*this, old_name);
 }
 
+// The designer part keeps its own name; the attributes behind it are text.
+void OpenModule::RenameHead(const std::string& name) {
+  std::string head(text_.Head());
+  text_.SetHead(head.substr(0, designer_end_) + HeadWithName(head.substr(designer_end_), name));
+}
+
 long OpenModule::FileCount() {
-  return doubtful::kFileCountWithoutFrx;
+  bool has_sibling = !path_.empty() && !SiblingName().empty();
+  return has_sibling ? 2 : doubtful::kFileCountWithoutFrx;
 }
 
 std::string OpenModule::FileNames(long index) {
   if (index < 1 || index > FileCount()) throw host::Error(runtime::kSubscriptOutOfRange);
-  return path_;
+  return index == 1 || SiblingName().empty() ? path_ : JoinPath(FolderOf(path_), SiblingName());
 }
 
 void OpenModule::SaveAs(const std::string& path) {
@@ -111,7 +124,7 @@ long OpenModule::Position() const {
 }
 
 std::string OpenModule::WriteToText() const {
-  return text_.Write();
+  return text_.Write(HeadText());
 }
 
 void OpenModule::Change(long start, long count, const std::string* text, bool by_user) {
@@ -140,12 +153,16 @@ void OpenModule::TakeSaved(const std::string& path, const host::FileStamp& stamp
   path_ = path;
   stamp_ = stamp;
   dirty_ = false;
+  if (designer_) designer_->SetClean();
 }
 
 void OpenModule::Reload(std::string bytes, const host::FileStamp& stamp) {
   long old_count = text_.Count();
   ModuleHead head = ReadModuleHead(bytes);
   ReadSource(std::move(bytes), head);
+  if (designer_) designer_->Detach();
+  designer_.reset();
+  siblings_read_.clear();
   stamp_ = stamp;
   if (Observer* observer = Environment().CurrentObserver()) observer->LinesChanged(*this, 1, old_count, text_.Count());
 }

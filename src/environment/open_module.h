@@ -1,11 +1,15 @@
-// OpenModule: a component that is open, with its text, its pane and its place on disk.
+// OpenModule: a component that is open, with its text, its designer, its windows and its place on disk. The designer is
+// read when somebody asks for it.
 #pragma once
 
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "environment/code_pane.h"
+#include "environment/designer_form.h"
 #include "environment/module.h"
 #include "environment/module_head.h"
 #include "environment/module_kinds.h"
@@ -18,7 +22,10 @@ namespace corvane::environment {
 class OpenEnvironment;
 class OpenProject;
 
-class OpenModule : public Module, public PaneOwner, public std::enable_shared_from_this<OpenModule> {
+class OpenModule : public Module,
+                   public PaneOwner,
+                   public DesignerOwner,
+                   public std::enable_shared_from_this<OpenModule> {
  public:
   // A module of [project] as its file holds it; [path] is empty for one that was never saved.
   struct Source {
@@ -40,7 +47,7 @@ class OpenModule : public Module, public PaneOwner, public std::enable_shared_fr
   host::ComponentType Type() override { return kind_->type; }
   host::Ref<host::CodeModule> CodeModule() override;
   host::Ref<host::VBForm> Designer() override;
-  bool HasOpenDesigner() override;
+  bool HasOpenDesigner() override { return designer_open_; }
   host::Ref<host::Window> DesignerWindow() override;
   host::Ref<host::Properties> Properties() override;
   long FileCount() override;
@@ -74,6 +81,14 @@ class OpenModule : public Module, public PaneOwner, public std::enable_shared_fr
   void PaneWasClosed() override;
   void PaneSelectionSet() override;
 
+  // DesignerOwner
+  std::string ComponentName() override { return name_; }
+  void RenameComponent(const std::string& name) override { SetName(name); }
+  std::string ModuleAttribute(const std::string& name) override;
+  std::string ReadSibling(const std::string& name) override;
+  std::string NewSiblingName() override;
+  void DesignerChanged() override;
+
   // For the code module.
   const ModuleText& Text() const { return text_; }
   const ProcedureIndex& Procedures() const;
@@ -86,6 +101,19 @@ class OpenModule : public Module, public PaneOwner, public std::enable_shared_fr
   void SetProjectLine(long id) { project_line_ = id; }
   const ModuleKind& Kind() const { return *kind_; }
   const std::vector<long>& Charsets() const { return charsets_; }  // of its designer's fonts
+  // Reports what was not understood of its designer and of its references to binary files, once.
+  void ReportDesigner();
+  // The binary files of its designer, all read.
+  std::vector<DesignerSibling> Siblings() { return designer_ ? designer_->Siblings() : std::vector<DesignerSibling>(); }
+  // Writes the binary files of the designer that were changed beside [path].
+  void WriteSiblings(const std::string& path);
+  // Error 70 where somebody else changed one of these since it was read.
+  void RequireUnchangedSiblings() const;
+  // The name of the binary file that its designer part refers to; empty if there is none.
+  std::string SiblingName() const;
+  // The designer's references name a file beside [path] instead. Returns the name that they had.
+  std::string MoveSibling(const std::string& path);
+  void MoveSiblingBack(const std::string& name);
   // Its file holds what WriteToText gave.
   void TakeSaved(const std::string& path, const host::FileStamp& stamp);
   // Takes [bytes] from the disk for its own; nothing of it was edited.
@@ -95,6 +123,11 @@ class OpenModule : public Module, public PaneOwner, public std::enable_shared_fr
  private:
   OpenEnvironment& Environment() const;  // Error 91 when it is closed
   void ReadSource(std::string bytes, const ModuleHead& head);
+  environment::Designer& DesignerOf();
+  std::string HeadText() const;
+  void RenameHead(const std::string& name);
+  void ShowDesigner(bool open);
+  WindowActs DesignerActs();
 
   std::weak_ptr<OpenProject> project_;
   const ModuleKind* kind_;
@@ -107,6 +140,11 @@ class OpenModule : public Module, public PaneOwner, public std::enable_shared_fr
   bool dirty_ = false;
   mutable std::optional<ProcedureIndex> procedures_;
   std::shared_ptr<Pane> pane_;
+  // The designer and what it was made from: the head in front of the attributes of the module.
+  std::unique_ptr<environment::Designer> designer_;
+  std::map<std::string, host::FileStamp> siblings_read_;  // by path
+  std::shared_ptr<ActWindow> designer_window_;
+  bool designer_open_ = false, designer_reported_ = false;
 };
 
 }  // namespace corvane::environment

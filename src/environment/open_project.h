@@ -33,6 +33,8 @@ class OpenProject : public Project, public std::enable_shared_from_this<OpenProj
   void Save(Module& module, OnDiskChange rule) override;
   void SaveProjectFile(OnDiskChange rule) override;
 
+  // A file in the folder of [path]: from the texts that the project was opened with, else from disk.
+  std::string ReadBeside(const std::string& path, const std::string& name) const;
   std::shared_ptr<OpenEnvironment> EnvironmentOf() const { return environment_.lock(); }
   const std::vector<std::shared_ptr<OpenModule>>& OpenModules() const { return modules_; }
   long PositionOf(const OpenModule& module) const;
@@ -49,6 +51,10 @@ class OpenProject : public Project, public std::enable_shared_from_this<OpenProj
   OpenEnvironment& Environment() const;  // Error 91 when it is closed
   void ReadModule(const ComponentLine& line, const std::vector<SourceFile>& sources);
   void TakeHead(OpenModule::Source& source, const std::string& name_in_project) const;
+  void CheckResourceFile();
+  bool IsMissing(const std::string& path) const;
+  void ReportName(const ComponentLine& line, const OpenModule::Source& source);
+  void KeepLooseTexts(const std::vector<SourceFile>& sources);
   int CodePageOfFonts() const;
   int CodePageOfPaths(const std::vector<ComponentLine>& lines) const;
   void NotifyComponents();
@@ -66,6 +72,7 @@ class OpenProject : public Project, public std::enable_shared_from_this<OpenProj
   host::FileStamp stamp_;
   bool dirty_ = false;
   std::vector<std::shared_ptr<OpenModule>> modules_;
+  std::vector<SourceFile> loose_texts_;  // those that no line names: binary files of designers
 };
 
 }  // namespace corvane::environment

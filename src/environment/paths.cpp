@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "environment/lookup.h"
 #include "environment/statement.h"
 #include "runtime/code_page.h"
 
@@ -119,14 +120,14 @@ std::string RelativePath(std::string_view folder, std::string_view path) {
   std::vector<std::string> steps = NamesIn(std::string_view(from).substr(from_root));
   std::vector<std::string> names = NamesIn(std::string_view(to).substr(to_root));
   size_t common = 0;
-  while (common < steps.size() && common + 1 < names.size() && NamesMatch(steps[common], names[common])) ++common;
+  while (common < steps.size() && common + 1 < names.size() && SameName(steps[common], names[common])) ++common;
   std::vector<std::string> result(steps.size() - common, "..");
   result.insert(result.end(), names.begin() + static_cast<long>(common), names.end());
   return Joined({}, result);
 }
 
 bool SamePath(std::string_view a, std::string_view b) {
-  return NamesMatch(a, b);
+  return SameName(a, b);
 }
 
 }  // namespace corvane::environment

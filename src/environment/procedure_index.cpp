@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "environment/doubtful_points.h"
+#include "environment/lookup.h"
 #include "environment/statement.h"
 
 namespace corvane::environment {
@@ -242,7 +243,7 @@ const Procedure* ProcedureIndex::Find(std::string_view name, host::ProcKind kind
                                 [](const ByName& entry, uint64_t value) { return entry.hash < value; });
   for (; found != by_name_.end() && found->hash == hash; ++found) {
     const Procedure& procedure = procedures_[found->position];
-    if (procedure.kind == kind && NamesMatch(NameOf(procedure), name)) return &procedure;
+    if (procedure.kind == kind && SameName(NameOf(procedure), name)) return &procedure;
   }
   return nullptr;
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "environment/lookup.h"
 #include "environment/statement.h"
 
 namespace corvane::environment {
@@ -49,7 +50,7 @@ std::string TextOf(const ModuleKind& kind, const std::string& name, const std::s
 }
 
 bool NamesAFile(std::string_view key) {
-  return KindOfKey(key) != nullptr || NamesMatch(key, "Reference") || NamesMatch(key, "Object");
+  return KindOfKey(key) != nullptr || SameName(key, "Reference") || SameName(key, "Object");
 }
 
 }  // namespace
@@ -101,9 +102,15 @@ std::string ProjectFile::Write() const {
 
 std::string ProjectFile::Value(std::string_view key) const {
   for (const Line& line : lines_)
-    if (KeyValue parts = Split(line.text); !line.in_section && NamesMatch(parts.key, key))
+    if (KeyValue parts = Split(line.text); !line.in_section && SameName(parts.key, key))
       return std::string(WithoutQuotes(parts.value));
   return {};
+}
+
+long ProjectFile::IdOf(std::string_view key) const {
+  for (const Line& line : lines_)
+    if (!line.in_section && SameName(Split(line.text).key, key)) return line.id;
+  return 0;
 }
 
 std::vector<ComponentLine> ProjectFile::Components() const {
@@ -128,8 +135,8 @@ size_t ProjectFile::PlaceFor(const ModuleKind& kind) const {
   size_t place = std::min<size_t>(1, lines_.size()), own = 0;
   for (size_t i = 0; i < lines_.size() && !lines_[i].in_section; ++i) {
     std::string_view key = Split(lines_[i].text).key;
-    if (NamesMatch(key, kind.key)) own = i + 1;
-    if (NamesAFile(key) && !NamesMatch(key, "RelatedDoc")) place = i + 1;
+    if (SameName(key, kind.key)) own = i + 1;
+    if (NamesAFile(key) && !SameName(key, "RelatedDoc")) place = i + 1;
   }
   return own != 0 ? own : place;
 }
@@ -169,10 +176,10 @@ void ProjectFile::SetPath(long id, const std::string& path) {
 void ProjectFile::RenameInSettings(const std::string& old_name, const std::string& name) {
   for (Line& line : lines_) {
     KeyValue parts = Split(line.text);
-    bool names = NamesMatch(parts.key, "Startup") || NamesMatch(parts.key, "IconForm") ||
-                 NamesMatch(parts.key, "DebugStartupComponent");
+    bool names = SameName(parts.key, "Startup") || SameName(parts.key, "IconForm") ||
+                 SameName(parts.key, "DebugStartupComponent");
     std::string_view value = WithoutQuotes(parts.value);
-    if (!line.in_section && names && NamesMatch(value, old_name)) ReplaceView(line.text, value, name);
+    if (!line.in_section && names && SameName(value, old_name)) ReplaceView(line.text, value, name);
   }
 }
 

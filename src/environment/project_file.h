@@ -29,6 +29,7 @@ class ProjectFile {
 
   // Value of a key in front of the first section, without its quotes; empty where there is none.
   std::string Value(std::string_view key) const;
+  long IdOf(std::string_view key) const;          // of that line; 0 where there is none
   std::vector<ComponentLine> Components() const;  // in file order
   long LineNumberOf(long id) const;               // from 1; 0 for a line that is gone
 

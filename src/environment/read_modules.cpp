@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 
+#include "environment/lookup.h"
 #include "environment/open_environment.h"
 #include "environment/open_project.h"
 #include "environment/paths.h"
@@ -54,6 +55,8 @@ void OpenProject::ReportAt(const ComponentLine& line, const std::string& reason)
 // A path beyond ASCII can be looked for only when the code page is known, and that may show in the other modules.
 void OpenProject::ReadModules(const std::vector<SourceFile>& sources) {
   for (const Problem& problem : file_.Problems()) Environment().Report({path_, problem.line, problem.reason});
+  KeepLooseTexts(sources);
+  CheckResourceFile();
   std::vector<ComponentLine> later;
   for (const ComponentLine& line : file_.Components())
     if (IsAscii(line.path))
@@ -68,6 +71,36 @@ void OpenProject::ReadModules(const std::vector<SourceFile>& sources) {
     return file_.LineNumberOf(a->ProjectLine()) < file_.LineNumberOf(b->ProjectLine());
   };
   std::stable_sort(modules_.begin(), modules_.end(), in_file_order);
+}
+
+// The environment only passes the resource file on: it is looked for, not read.
+void OpenProject::CheckResourceFile() {
+  std::string path = file_.Value("ResFile32");
+  if (path.empty() || !IsMissing(path)) return;
+  Environment().Report({path_, file_.LineNumberOf(file_.IdOf("ResFile32")), path + ": file not found"});
+}
+
+bool OpenProject::IsMissing(const std::string& path) const {
+  for (const SourceFile& text : loose_texts_)
+    if (SamePath(text.path, path)) return false;
+  return Environment().FilesInUse().Attributes(JoinPath(FolderOf(path_), path)) == host::kNoSuchFile;
+}
+
+void OpenProject::KeepLooseTexts(const std::vector<SourceFile>& sources) {
+  std::vector<ComponentLine> lines = file_.Components();
+  for (const SourceFile& source : sources) {
+    auto names_it = [&](const ComponentLine& line) {
+      return HasCode(line.kind->type) && SamePath(line.path, source.path);
+    };
+    if (std::none_of(lines.begin(), lines.end(), names_it)) loose_texts_.push_back(source);
+  }
+}
+
+std::string OpenProject::ReadBeside(const std::string& path, const std::string& name) const {
+  std::string whole = JoinPath(FolderOf(path), name);
+  for (const SourceFile& text : loose_texts_)
+    if (SamePath(JoinPath(FolderOf(path_), text.path), whole)) return text.text;
+  return Environment().FilesInUse().Read(whole);
 }
 
 // The code page that most forms ask for; 0 if none asks for one.
@@ -120,7 +153,7 @@ std::string OpenProject::Refusal(const OpenModule::Source& source) const {
     return "no " + std::string(source.kind->key) + ": its first line is not VERSION";
   for (const auto& other : modules_) {
     if (SamePath(other->Path(), source.path)) return "named twice in the project";
-    if (NamesMatch(other->Name(), source.name) && HasCode(other->Type()))
+    if (SameName(other->Name(), source.name) && HasCode(other->Type()))
       return "its name " + source.name + " is that of " + FileNameOf(other->Path());
   }
   return {};
@@ -140,6 +173,17 @@ void OpenProject::TakeHead(OpenModule::Source& source, const std::string& name_i
     source.head.problems.push_back({{}, 1, "class without a VERSION line: all of it is taken for code"});
 }
 
+// A related document is listed though its file is missing: nobody reads it.
+void OpenProject::ReportName(const ComponentLine& line, const OpenModule::Source& source) {
+  if (!HasCode(source.kind->type)) {
+    if (IsMissing(line.path)) ReportAt(line, "file not found");
+  } else if (source.head.name.empty()) {
+    if (source.head.problems.empty()) ReportAt(line, "no line in it says its name: called " + source.name);
+  } else if (!line.name.empty() && !SameName(line.name, source.head.name)) {
+    ReportAt(line, "called " + line.name + " here and " + source.head.name + " in its file");
+  }
+}
+
 void OpenProject::ReadModule(const ComponentLine& line, const std::vector<SourceFile>& sources) {
   if (line.path.empty()) return ReportAt(line, "a line without a path");
   OpenModule::Source source;
@@ -150,6 +194,7 @@ void OpenProject::ReadModule(const ComponentLine& line, const std::vector<Source
   if (HasCode(line.kind->type) && !ReadBytes(line, sources, source)) return;
   TakeHead(source, line.name);
   if (std::string reason = Refusal(source); !reason.empty()) return ReportAt(line, reason);
+  ReportName(line, source);
   for (const Problem& problem : source.head.problems) Environment().Report({source.path, problem.line, problem.reason});
   modules_.push_back(std::make_shared<OpenModule>(*this, std::move(source)));
 }

@@ -19,9 +19,11 @@ void RequireUnchanged(bool changed, const std::string& path) {
 
 }  // namespace
 
+// The binary files first: they only grow, so that the old text stays right whatever happens in between.
 void OpenProject::WriteModule(OpenModule& module, const std::string& path) {
   if (!HasCode(module.Type())) return;
   host::Files& files = Environment().FilesInUse();
+  module.WriteSiblings(path);
   std::string text = module.WriteToText();
   files.Write(path, text);
   module.TakeSaved(path, files.Stamp(path));
@@ -32,7 +34,10 @@ void OpenProject::WriteModule(OpenModule& module, const std::string& path) {
 void OpenProject::Save(Module& module, OnDiskChange rule) {
   auto& open = dynamic_cast<OpenModule&>(module);
   RequirePath(open.Path());
-  RequireUnchanged(rule == OnDiskChange::Refuse && open.ChangedOnDisk(), open.Path());
+  if (rule == OnDiskChange::Refuse) {
+    RequireUnchanged(open.ChangedOnDisk(), open.Path());
+    open.RequireUnchangedSiblings();
+  }
   WriteModule(open, open.Path());
 }
 
@@ -41,7 +46,13 @@ void OpenProject::SaveAs(OpenModule& module, const std::string& path) {
   for (const auto& other : modules_)
     if (other.get() != &module && SamePath(other->Path(), whole)) throw host::Error(runtime::kFileAlreadyExists);
   if (!HasCode(module.Type())) throw host::Error(runtime::kNoSuchMember);
-  WriteModule(module, whole);
+  std::string old_sibling = module.MoveSibling(whole);
+  try {
+    WriteModule(module, whole);
+  } catch (const host::Error&) {
+    module.MoveSiblingBack(old_sibling);
+    throw;
+  }
   ListInFile(module);
   NotifyComponents();
 }

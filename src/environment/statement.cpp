@@ -212,13 +212,6 @@ std::string_view MemberOfAttribute(std::string_view line) {
   return dot == std::string_view::npos || dot > rest.find('=') ? std::string_view() : rest.substr(0, dot);
 }
 
-bool NamesMatch(std::string_view a, std::string_view b) {
-  if (a.size() != b.size()) return false;
-  if (a == b) return true;
-  const runtime::CodePage& page = runtime::AnsiCodePage();
-  return page.ToUpper(a) == page.ToUpper(b);
-}
-
 size_t NameHash(std::string_view name) {
   const runtime::CodePage& page = runtime::AnsiCodePage();
   size_t hash = 1469598103934665603u;

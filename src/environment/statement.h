@@ -42,8 +42,7 @@ bool IsAttributeLine(std::string_view line);
 // "Foo"; empty for one of the module itself.
 std::string_view MemberOfAttribute(std::string_view line);
 
-// Names of Visual Basic compare without case, by the code page.
-bool NamesMatch(std::string_view a, std::string_view b);
+// Equal for names that are one by SameName of lookup.h.
 size_t NameHash(std::string_view name);
 
 }  // namespace corvane::environment

@@ -33,6 +33,7 @@ TEST(ModuleText, UneditedFilesAreWrittenAsTheyWere) {
                             "x\ny\r\nz\n",
                             "\n\n\n",
                             "x\ry\n",
+                            "x\ny\r",
                             "x\r\r\ny\r\n",
                             "Attribute VB_Name = \"A\"",
                             "Attribute VB_Name = \"A\"\r\n",

@@ -1,6 +1,7 @@
 // Opening projects and groups from their files, sound ones and bad ones.
 #include <gtest/gtest.h>
 
+#include "environment/lookup.h"
 #include "environment/statement.h"
 #include "runtime/code_page.h"
 #include "tests/environment/opened.h"
@@ -22,6 +23,7 @@ TEST(Opening, TakesTheComponentsInTheOrderOfTheProject) {
   opened.files.Put("C:\\P\\sub\\Form1.frm", Text(kForm));
   opened.files.Put("C:\\Main.bas", Text(kMain));
   opened.Put("Thing.cls", "VERSION 1.0 CLASS|BEGIN|END|Attribute VB_Name = \"Thing\"|");
+  opened.Put("notes.txt", "notes");
   opened.environment->Open("C:\\P\\P.vbp");
   EXPECT_EQ(opened.Problems(), Lines{});
   EXPECT_EQ(opened.Names(), (Lines{"Form1", "notes.txt", "Main", "Thing"}));
@@ -41,7 +43,9 @@ TEST(Opening, TheNameInTheFileCountsThenTheRootsThenTheProjectsThenTheFiles) {
   opened.Put("c.bas", "");
   opened.environment->Open("C:\\P\\P.vbp");
   EXPECT_EQ(opened.Names(), (Lines{"InProject", "Root", "c"}));
-  EXPECT_EQ(opened.Problems(), Lines{"C:\\P\\b.frm:1: form of an older version of Visual Basic"});
+  EXPECT_EQ(opened.Problems(), (Lines{"C:\\P\\P.vbp:1: a.bas: no line in it says its name: called InProject",
+                                      "C:\\P\\b.frm:1: form of an older version of Visual Basic",
+                                      "C:\\P\\P.vbp:3: c.bas: no line in it says its name: called c"}));
 }
 
 TEST(Opening, TheRootTellsAnMdiForm) {
@@ -69,7 +73,7 @@ TEST_P(BadModules, AreReportedAndTheRestOpens) {
   opened.files.FailReads("C:\\P\\locked.bas", 70);
   opened.environment->Open("C:\\P\\P.vbp");
   EXPECT_EQ(opened.Problems(), Lines{std::string("C:\\P\\") + bad.problem});
-  EXPECT_TRUE(NamesMatch(opened.Names().back(), "Main"));
+  EXPECT_TRUE(SameName(opened.Names().back(), "Main"));
   EXPECT_EQ(opened.Project()->WriteToText(), opened.Disk("P.vbp"));
   for (const auto& module : opened.Project()->Modules())
     EXPECT_EQ(module->WriteToText(), opened.files.Read(module->Path()));
@@ -100,15 +104,35 @@ INSTANTIATE_TEST_SUITE_P(
         BadCase{"junk", "Form=f.frm", "f.frm", "VERSION 5.00|Begin VB.Form F |  what|End|Attribute VB_Name = \"F\"|",
                 "f.frm:3: neither a property nor a block", 0},
         BadCase{"cut", "Form=f.frm", "f.frm", "VERSION 5.00|Begin VB.Form F |   Begin VB.Label L |      Capt",
-                "f.frm:2: designer part without its End", 0},
+                "f.frm:4: the designer part breaks off before its End", 0},
         BadCase{"cutattribute", "Form=f.frm", "f.frm",
                 "VERSION 5.00|Begin VB.Form F |   A = 1|Attribute VB_Name = \"F\"|",
-                "f.frm:2: designer part without its End", 0},
+                "f.frm:3: the designer part breaks off before its End", 0},
+        BadCase{"stray", "Form=f.frm", "f.frm", "VERSION 5.00|Begin VB.Form F |End|End|Attribute VB_Name = \"F\"|x|",
+                "f.frm:4: End without a Begin", 0},
         BadCase{"rootless", "Form=f.frm", "f.frm", "VERSION 5.00|Attribute VB_Name = \"F\"|",
                 "f.frm:1: no Begin behind the VERSION line", 0},
         BadCase{"old", "Form=f.frm", "f.frm", "VERSION 2.00|Begin Form F |   Icon = F.FRX:0000|End|Sub A ()|End Sub|",
                 "f.frm:1: form of an older version of Visual Basic", 0}),
     [](const auto& info) { return std::string(info.param.name); });
+
+TEST(Opening, FilesThatAreOnlyPassedOnAreLookedFor) {
+  Opened opened;
+  opened.PutProject("RelatedDoc=notes.txt|ResFile32=\"P.res\"|");
+  opened.environment->Open("C:\\P\\P.vbp");
+  EXPECT_EQ(opened.Problems(),
+            (Lines{"C:\\P\\P.vbp:2: P.res: file not found", "C:\\P\\P.vbp:1: notes.txt: file not found"}));
+  EXPECT_EQ(opened.Names(), Lines{"notes.txt"});
+}
+
+TEST(Opening, ANameThatTheProjectGivesOtherwiseIsReported) {
+  Opened opened;
+  opened.PutProject("Module=Old; Main.bas|");
+  opened.Put("Main.bas", kMain);
+  opened.environment->Open("C:\\P\\P.vbp");
+  EXPECT_EQ(opened.Problems(), Lines{"C:\\P\\P.vbp:1: Main.bas: called Old here and Main in its file"});
+  EXPECT_EQ(opened.Names(), Lines{"Main"});
+}
 
 TEST(Opening, TheSameFileTwiceIsOneModule) {
   Opened opened;
@@ -228,7 +252,7 @@ TEST_F(CodePages, ModulesKeepTheirOrderWhenSomeWaitForTheCodePage) {
   opened.Put("Main.bas", kMain);
   opened.environment->Open("C:\\P\\P.vbp");
   EXPECT_EQ(opened.Names(), (Lines{"\xC4", "A", "Main"}));
-  EXPECT_TRUE(NamesMatch("\xC4", "\xE4"));  // letters of 1251
+  EXPECT_TRUE(SameName("\xC4", "\xE4"));  // letters of 1251
   EXPECT_EQ(opened.At(0)->Path(), "C:\\P\\\xC4.bas");
 }
 

@@ -213,8 +213,8 @@ TEST_F(Saving, ObserversAreToldOfEveryChange) {
   opened_.environment->Observe(nullptr);
   opened_.Code(0)->InsertLines(1, "x");
   EXPECT_EQ(recorder.log,
-            (Lines{"Main 1 -0 +2", "dirty", "Main 1 -2 +3", "Main 1 -3 +0", "pane Main", "selection Main", "main window",
-                   "dirty", "dirty", "components", "closed Main", "dirty", "dirty", "dirty"}));
+            (Lines{"Main 1 -0 +2", "dirty", "Main 1 -2 +3", "Main 1 -3 +0", "pane Main", "selection Main",
+                   "main window", "dirty", "dirty", "components", "closed Main", "dirty", "dirty", "dirty"}));
 }
 
 TEST_F(Saving, AnEditorsEditIsOneChangeAndEmptyTextIsABlankLine) {
