@@ -86,8 +86,8 @@ double FrameLength(const DesignerBlock& root, const ControlClass& window, Proper
   return LengthValue(root, ClientName(rule), otherwise) + FramePart(root, rule);
 }
 
-void SetFrameLength(DesignerPart& part, DesignerBlock& root, PropertyRule rule, double value) {
-  SetLine(part, root, ClientName(rule), WriteLength(value - FramePart(root, rule)));
+bool SetFrameLength(DesignerPart& part, DesignerBlock& root, PropertyRule rule, double value) {
+  return SetLine(part, root, ClientName(rule), WriteLength(value - FramePart(root, rule)));
 }
 
 double TwipsPerUnit(long scale_mode, bool vertical) {
@@ -96,18 +96,18 @@ double TwipsPerUnit(long scale_mode, bool vertical) {
   return scale_mode >= 0 && scale_mode <= 7 ? kTwips[scale_mode] : 1;
 }
 
-void UpdateScale(DesignerPart& part, DesignerBlock& block, const ControlClass& known) {
-  if (!known.Find("ScaleMode")) return;
+bool UpdateScale(DesignerPart& part, DesignerBlock& block, const ControlClass& known) {
+  if (!known.Find("ScaleMode")) return false;
   const long mode = LongValue(block, "ScaleMode", 1);
-  if (mode == kUserScale) return;
+  if (mode == kUserScale) return false;
   const bool is_window = !known.unlisted.empty();
   const double border = is_window ? 0 : BorderOf(block);
   const double width =
       LengthValue(block, is_window ? "ClientWidth" : "Width", static_cast<double>(known.width)) - border;
   const double height =
       LengthValue(block, is_window ? "ClientHeight" : "Height", static_cast<double>(known.height)) - border;
-  SetLine(part, block, "ScaleHeight", WriteLength(height / TwipsPerUnit(mode, true)));
-  SetLine(part, block, "ScaleWidth", WriteLength(width / TwipsPerUnit(mode, false)));
+  const bool taller = SetLine(part, block, "ScaleHeight", WriteLength(height / TwipsPerUnit(mode, true)));
+  return SetLine(part, block, "ScaleWidth", WriteLength(width / TwipsPerUnit(mode, false))) || taller;
 }
 
 }  // namespace corvane::environment

@@ -15,10 +15,11 @@ FrameSizes FrameOf(const DesignerBlock& root);
 
 // A length of a window by its rule: Height of a form and the like.
 double FrameLength(const DesignerBlock& root, const ControlClass& window, PropertyRule rule);
-void SetFrameLength(DesignerPart& part, DesignerBlock& root, PropertyRule rule, double value);
+// False when the part says so already.
+bool SetFrameLength(DesignerPart& part, DesignerBlock& root, PropertyRule rule, double value);
 
 // ScaleWidth and ScaleHeight follow the size, where the environment keeps them.
-void UpdateScale(DesignerPart& part, DesignerBlock& block, const ControlClass& known);
+bool UpdateScale(DesignerPart& part, DesignerBlock& block, const ControlClass& known);
 // Twips of one unit of a container's scale; 1 for user scales.
 double TwipsPerUnit(long scale_mode, bool vertical);
 

@@ -105,9 +105,9 @@ class ListedProperty : public host::Property {
   void SetName(const std::string& name);
   void SetIndex(const Variant& value);
   void SetRow(const Variant& value);
-  void SetRowLine(const Variant& value);
+  bool SetRowLine(const Variant& value);  // whether anything changed
   void SetFileLine(const Variant& value);
-  void SetText(const std::string& text);
+  bool SetText(const std::string& text);
 
   PropertyPlace place_;
   Listed listed_;
@@ -245,7 +245,15 @@ void ListedProperty::SetIndex(const Variant& value) {
   if (changed) place_.state->Edited();
 }
 
-// The sizes that the environment keeps beside a size follow it.
+// Error 13 for what is neither a picture nor Nothing.
+runtime::PictureRef PictureOf(const Variant& value) {
+  if (std::holds_alternative<std::monostate>(value)) return nullptr;
+  const auto* picture = std::get_if<runtime::PictureRef>(&value);
+  if (!picture) throw host::Error(runtime::kTypeMismatch);
+  return *picture;
+}
+
+// Whether ScaleWidth and ScaleHeight follow a change of this property.
 bool MovesScale(std::string_view name) {
   for (const std::string_view moving : {"Height", "Width", "ScaleMode", "BorderStyle", "Appearance"})
     if (name == moving) return true;
@@ -253,58 +261,41 @@ bool MovesScale(std::string_view name) {
 }
 
 void ListedProperty::SetRow(const Variant& value) {
-  const std::string before = place_.state->Write();
-  SetRowLine(value);
+  if (IsFont()) return SetObject(value);
+  if (!SetRowLine(value)) return;
   if (place_.known && MovesScale(listed_.row->name)) UpdateScale(place_.Part(), place_.Block(), *place_.known);
-  if (place_.state->Write() != before) place_.state->Edited();
+  place_.state->Edited();
 }
 
-void ListedProperty::SetRowLine(const Variant& value) {
+bool ListedProperty::SetRowLine(const Variant& value) {
   const PropertyRow& row = *listed_.row;
   DesignerBlock& block = place_.Block();
-  switch (row.kind) {
-    case PropertyKind::Font:
-      return SetObject(value);
-    case PropertyKind::List:
-    case PropertyKind::ItemData:
-      throw host::Error(runtime::kInvalidPropertyArrayIndex);
-    case PropertyKind::Reference:
-      throw host::Error(runtime::kPropertyReadOnly);
-    case PropertyKind::Picture: {
-      const auto* picture = std::get_if<runtime::PictureRef>(&value);
-      if (!picture && !std::holds_alternative<std::monostate>(value)) throw host::Error(runtime::kTypeMismatch);
-      return WritePicture(place_, row.name, picture ? *picture : nullptr);
-    }
-    default:
-      break;
-  }
-  if (row.rule == PropertyRule::Exposed || row.rule == PropertyRule::Instancing)
-    throw host::Error(runtime::kPropertyReadOnly);
-  if (row.rule != PropertyRule::Plain) return SetFrameLength(place_.Part(), block, row.rule, runtime::ToNumber(value));
+  const bool of_attributes = row.rule == PropertyRule::Exposed || row.rule == PropertyRule::Instancing;
+  if (of_attributes || row.kind == PropertyKind::Reference) throw host::Error(runtime::kPropertyReadOnly);
+  if (IsList()) throw host::Error(runtime::kInvalidPropertyArrayIndex);
+  if (row.rule != PropertyRule::Plain)
+    return FrameLength(block, *place_.known, row.rule) != runtime::ToNumber(value) &&
+           SetFrameLength(place_.Part(), block, row.rule, runtime::ToNumber(value));
+  if (row.kind == PropertyKind::Picture) return WritePicture(place_, row.name, PictureOf(value));
   if (row.kind == PropertyKind::Text) return SetText(runtime::ToText(value));
 
   const std::string text = WriteValue(row.kind, row.choices, value);
   const Variant written = ReadValue(row.kind, {WithoutComment(text), {}});
-  const bool is_default =
-      (!row.default_value.empty() || row.kind == PropertyKind::Shortcut) && written == DefaultValue(row, {});
-  if (is_default && !row.always_written)
-    RemoveLine(block, row.name);
-  else if (!block.Find(row.name) || RowValue() != written)
-    SetLine(place_.Part(), block, row.name, text);
+  const bool has_default = !row.default_value.empty() || row.kind == PropertyKind::Shortcut;
+  if (has_default && !row.always_written && written == DefaultValue(row, {})) return RemoveLine(block, row.name);
+  const bool same = block.Find(row.name) && RowValue() == written;
+  return !same && SetLine(place_.Part(), block, row.name, text);
 }
 
-void ListedProperty::SetText(const std::string& text) {
+bool ListedProperty::SetText(const std::string& text) {
   const PropertyRow& row = *listed_.row;
   DesignerBlock& block = place_.Block();
-  if (block.Find(row.name) && RowValue() == Variant(text)) return;
-  const bool multi_line = row.name == "Text" && LongValue(block, "MultiLine", 0) != 0;
+  if (block.Find(row.name) && RowValue() == Variant(text)) return false;
   const bool is_default = DefaultValue(row, RootName()) == Variant(text);
-  if (is_default && !row.always_written)
-    RemoveLine(block, row.name);
-  else if (NeedsSibling(text) || (multi_line && !text.empty()))
-    WriteSiblingText(place_, row.name, text);
-  else
-    SetLine(place_.Part(), block, row.name, Quoted(text));
+  if (is_default && !row.always_written) return RemoveLine(block, row.name);
+  const bool multi_line = row.name == "Text" && LongValue(block, "MultiLine", 0) != 0;
+  if (NeedsSibling(text) || (multi_line && !text.empty())) return WriteSiblingText(place_, row.name, text);
+  return SetLine(place_.Part(), block, row.name, Quoted(text));
 }
 
 // A property that no table knows keeps the kind that the file shows.

@@ -42,7 +42,8 @@ void WriteItem(const PropertyPlace& place, std::string_view name, long index, co
 
 // What stands in the binary sibling (properties_siblings.cpp). Empty text and Nothing where it cannot be read.
 runtime::Variant ReadSiblingValue(const PropertyPlace& place, PropertyKind kind, const SiblingReference& reference);
-void WriteSiblingText(const PropertyPlace& place, std::string_view name, const std::string& text);
-void WritePicture(const PropertyPlace& place, std::string_view name, const runtime::PictureRef& picture);
+// These tell whether anything changed.
+bool WriteSiblingText(const PropertyPlace& place, std::string_view name, const std::string& text);
+bool WritePicture(const PropertyPlace& place, std::string_view name, const runtime::PictureRef& picture);
 
 }  // namespace corvane::environment

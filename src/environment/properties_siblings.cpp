@@ -51,27 +51,24 @@ Variant ReadSiblingValue(const PropertyPlace& place, PropertyKind kind, const Si
   return value;
 }
 
-void WriteSiblingText(const PropertyPlace& place, std::string_view name, const std::string& text) {
+bool WriteSiblingText(const PropertyPlace& place, std::string_view name, const std::string& text) {
   SiblingReference before;
   const bool had = ReferenceOf(place, name, before);
   // The Text of a multi-line box has a record of its own kind.
   const bool short_record = name == "Text" && LongValue(place.Block(), "MultiLine", 0) != 0;
   const std::string record = short_record ? frx::TextRecord(text) : frx::LongTextRecord(text);
   const SiblingReference after = place.state->AppendRecord(record, !short_record, had ? &before : nullptr);
-  SetLine(place.Part(), place.Block(), name, WriteReference(after));
+  return SetLine(place.Part(), place.Block(), name, WriteReference(after));
 }
 
-void WritePicture(const PropertyPlace& place, std::string_view name, const PictureRef& picture) {
-  if (!picture || picture->bytes.empty()) {
-    RemoveLine(place.Block(), name);
-    return;
-  }
+bool WritePicture(const PropertyPlace& place, std::string_view name, const PictureRef& picture) {
+  if (!picture || picture->bytes.empty()) return RemoveLine(place.Block(), name);
   SiblingReference before;
   const bool had = ReferenceOf(place, name, before);
-  if (had && IsPicture(ReadSiblingValue(place, PropertyKind::Picture, before), *picture)) return;
+  if (had && IsPicture(ReadSiblingValue(place, PropertyKind::Picture, before), *picture)) return false;
   const SiblingReference after =
       place.state->AppendRecord(frx::PictureRecord(picture->bytes), false, had ? &before : nullptr);
-  SetLine(place.Part(), place.Block(), name, WriteReference(after));
+  return SetLine(place.Part(), place.Block(), name, WriteReference(after));
 }
 
 }  // namespace corvane::environment

@@ -168,9 +168,10 @@ End
 
 // Its List holds "one", "two" with the data 7 and 0.
 inline std::string StockSibling() {
-  using namespace std::string_literals;
-  return "\x02\0\x03\0\x01\0"s + "7" + "\x01\0"s + "0" + "\0\0\0\0"s + "\x02\0\x03\0\x03\0"s + "one" + "\x03\0"s +
-         "two";
+  constexpr char kBytes[] =
+      "\2\0\3\0" "\1\0" "7" "\1\0" "0" "\0\0\0\0"  // ItemData
+      "\2\0\3\0" "\3\0" "one" "\3\0" "two";          // List
+  return std::string(kBytes, sizeof kBytes - 1);
 }
 
 }  // namespace corvane::environment
