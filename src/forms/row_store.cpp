@@ -9,7 +9,7 @@ namespace corvane::forms {
 
 namespace {
 
-constexpr size_t kBlockRows = 1024;  // a full block is cut in half
+constexpr size_t kBlockRows = 512;  // a full block is cut in half
 
 }  // namespace
 
