@@ -2,6 +2,7 @@
 
 #include "environment/environment.h"
 #include "environment/memory_files.h"
+#include "tests/environment/host_contract_designer.h"
 
 namespace corvane::tests {
 namespace {
@@ -30,6 +31,7 @@ std::unique_ptr<HostFixture> NewFileFixture() {
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, HostContract, testing::Values(HostFactory(&NewFileFixture)));
+INSTANTIATE_TEST_SUITE_P(Files, HostDesignerContract, testing::Values(HostFactory(&NewFileFixture)));
 
 }  // namespace
 }  // namespace corvane::tests
