@@ -50,6 +50,20 @@ class ContractDriver {
 
 using DriverFactory = std::function<std::unique_ptr<ContractDriver>()>;
 
+// A user control: a surface and a box on it, laid out in Resize.
+class ContractPair : public UserControl {
+ public:
+  using UserControl::UserControl;
+  PictureBox surface{*this, "surface"};
+  TextBox edit{surface, "edit"};
+
+ protected:
+  void OnResize() override {
+    surface.Move(0, 0, Width(), Height());
+    edit.Move(60, 60, Width() / 2, 315);
+  }
+};
+
 // A window with one control of every kind.
 class ContractWindow : public Form {
  public:
@@ -64,6 +78,7 @@ class ContractWindow : public Form {
     pic.Move(4200, 2000, 3000, 1500), img.Move(5500, 120, 600, 600);
     lin.SetPoints(120, 3600, 3000, 3600), shp.Move(6300, 120, 600, 600);
     hs.Move(120, 3800, 1800, 255), vs.Move(7400, 2000, 255, 1500), tlb.Move(120, 4200, 6000, 420);
+    pair.Move(120, 4800, 2400, 900);
     lbl.SetCaption("Label"), cmd.SetCaption("&Press"), cmdOK.SetCaption("OK"), cmdCancel.SetCaption("Cancel");
     chk.SetCaption("Check"), fra.SetCaption("Frame"), opt1.SetCaption("One"), opt2.SetCaption("Two");
     memo.SetMultiLine(true), memo.SetScrollBars(2), cmbList.SetStyle(2), hs.SetMax(100), vs.SetMax(100);
@@ -110,6 +125,7 @@ class ContractWindow : public Form {
   Timer tmr{*this, "tmr"};
   ImageList imgl{*this, "imgl"};
   Toolbar tlb{*this, "tlb"};
+  ContractPair pair{*this, "pair"};
   Menu mnuFile{*this, "mnuFile", "&File"}, mnuOpen{mnuFile, "mnuOpen", "&Open..."}, mnuBar{mnuFile, "mnuBar", "-"},
       mnuSave{mnuFile, "mnuSave", "&Save"}, mnuPopup{*this, "mnuPopup", "Popup"}, mnuCut{mnuPopup, "mnuCut", "Cu&t"},
       mnuCopy{mnuPopup, "mnuCopy", "&Copy"};
@@ -588,6 +604,28 @@ TEST_P(FormsContract, ToolbarButtonsTellTheirPlace) {
   button = 0;
   driver->ClickToolButton(window->tlb, 1);
   EXPECT_EQ(button, 0);
+}
+
+TEST_P(FormsContract, APoppedUpMenuClicksItselfOnce) {
+  Show();
+  window->mnuPopup.Click = [&] { window->log.push_back("mnuPopup_Click"); };
+  driver->OnPopup("");
+  window->PopupMenu(window->mnuPopup, 300, 300);
+  EXPECT_EQ(window->Taken(), (Log{"mnuPopup_Click"}));
+}
+
+TEST_P(FormsContract, AUserControlHearsThroughItsSurface) {
+  Show();
+  driver->Click(window->pair.surface, 2000, 700, vbLeftButton);
+  EXPECT_EQ(window->Taken(), (Log{"surface_MouseDown", "surface_MouseUp", "surface_Click"}));
+  EXPECT_TRUE(window->pair.HasFocus());
+  Click(window->pair.edit);
+  driver->Type(*window, "in");
+  EXPECT_EQ(window->pair.edit.Text(), "in");
+  window->pair.Move(120, 4800, 3000, 900);
+  driver->Settle();
+  EXPECT_EQ(window->pair.edit.Width(), 1500);
+  EXPECT_TRUE(driver->IsOnScreen(window->pair.edit).value_or(true));
 }
 
 TEST_P(FormsContract, AModalFormReturnsWhenItIsHidden) {
