@@ -81,7 +81,10 @@ class Controls : public host::VBControls {
   host::Ref<host::VBControl> Add(const std::string& prog_id, const host::Ref<host::VBControl>& container) override {
     state_->RequireEditable();
     DesignerBlock& parent = container ? BlockOf(container) : *state_->Root();
-    return std::make_shared<Control>(state_, AddControl(*state_, ClassToAdd(prog_id), parent));
+    const ControlClass* known = FindControlClass(prog_id);
+    // Windows and the head of a class are no controls.
+    if (known && !known->unlisted.empty()) throw host::Error(runtime::kCannotCreateObject);
+    return std::make_shared<Control>(state_, AddControl(*state_, known ? *known : ClassInUse(prog_id), parent));
   }
 
   void Remove(const host::Ref<host::VBControl>& control) override {
@@ -101,11 +104,18 @@ class Controls : public host::VBControls {
     return own->Block();
   }
 
-  // Windows and the head of a class are no controls; what another library's control needs is in its library.
-  static const ControlClass& ClassToAdd(const std::string& prog_id) {
-    const ControlClass* known = FindControlClass(prog_id);
-    if (!known || !known->unlisted.empty()) throw host::Error(runtime::kCannotCreateObject);
-    return *known;
+  // A control of another library can be added where there is one already: the part names its library then, and what the
+  // control has from its container is known.
+  ControlClass ClassInUse(const std::string& prog_id) {
+    for (const DesignerBlockRef& control : state_->Controls()) {
+      if (!SameName(control->type, prog_id)) continue;
+      ControlClass made{
+          control->type, control->type.substr(control->type.rfind('.') + 1), {}, false, 1215, 495, {}, {}};
+      for (const PropertyRow& row : ExtenderProperties())
+        if (row.always_written && control->Find(row.name)) made.properties.push_back(row);
+      return made;
+    }
+    throw host::Error(runtime::kCannotCreateObject);
   }
 
   std::shared_ptr<DesignerState> state_;

@@ -4,6 +4,7 @@
 
 #include "environment/designer_lines.h"
 #include "environment/designer_state.h"
+#include "environment/doubtful_points.h"
 #include "environment/lookup.h"
 #include "environment/properties_values.h"
 
@@ -96,10 +97,11 @@ void PlaceControl(DesignerBlock& parent, const DesignerBlockRef& control) {
   auto& items = parent.items;
   auto place = items.end();
   if (!IsMenu(*control)) {
-    const auto is_menu = [](const DesignerItem& item) {
-      return item.kind == DesignerItem::Block && !item.block->is_property && IsMenu(*item.block);
+    const auto stands_behind = [](const DesignerItem& item) {
+      const bool is_control = item.kind == DesignerItem::Block && !item.block->is_property;
+      return is_control && (doubtful::kNewControlStandsFirst || IsMenu(*item.block));
     };
-    place = std::find_if(items.begin(), items.end(), is_menu);
+    place = std::find_if(items.begin(), items.end(), stands_behind);
   }
   control->parent = &parent;
   items.insert(place, {DesignerItem::Block, {}, control->name, control});

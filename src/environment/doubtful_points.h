@@ -42,4 +42,15 @@ inline constexpr long kFileCountWithoutFrx = 1;
 // Opened from its texts, a project without a hint in its fonts keeps the code page in force.
 inline constexpr int kCodePageWithoutHint = 1252;
 
+// A control that is added stands behind the other controls of its container in the file (menus stay last). The file has
+// the topmost control first, so that a new one may well stand before all others.
+inline constexpr bool kNewControlStandsFirst = false;
+
+// Texts up to this length without control bytes stand in the designer part itself, longer ones in the binary sibling.
+// The longest that was seen inline has 121 bytes, the shortest in a sibling 134.
+inline constexpr unsigned kLongestInlineText = 127;
+
+// The Index of a control that is in no array.
+inline constexpr long kIndexOfNoArray = -1;
+
 }  // namespace corvane::environment::doubtful

@@ -4,6 +4,7 @@
 
 #include "environment/designer_frame.h"
 #include "environment/designer_tree.h"
+#include "environment/doubtful_points.h"
 #include "environment/lookup.h"
 #include "environment/properties_values.h"
 
@@ -100,6 +101,7 @@ class ListedProperty : public host::Property {
 
   Variant RowValue();
   Variant AttributeValue();
+  long FreeTabIndex();
   Variant LineVariant();
   host::Ref<host::Properties> NestedList();
   void SetName(const std::string& name);
@@ -120,7 +122,7 @@ Variant ListedProperty::Value() {
     case Listed::ItsName:
       return place_.IsRoot() ? RootName() : std::string(place_.Block().name);
     case Listed::ItsIndex:
-      return LongValue(place_.Block(), "Index", -1);
+      return LongValue(place_.Block(), "Index", doubtful::kIndexOfNoArray);
     case Listed::Row:
       return RowValue();
     case Listed::FileLine:
@@ -138,11 +140,28 @@ Variant ListedProperty::RowValue() {
   if (row.rule == PropertyRule::Exposed || row.rule == PropertyRule::Instancing) return AttributeValue();
   if (row.rule != PropertyRule::Plain) return FrameLength(place_.Block(), *place_.known, row.rule);
   const DesignerItem* item = place_.Block().Find(row.name);
+  if (!item && row.name == "TabIndex") return FreeTabIndex();
   if (!item || item->kind != DesignerItem::Property) return DefaultValue(row, RootName());
   const DesignerValue value = ValueOf(item->raw);
   SiblingReference reference;
   if (ReadReference(value.text, reference)) return ReadSiblingValue(place_, row.kind, reference);
   return ReadValue(row.kind, value);
+}
+
+// A control without a TabIndex in the file has the earliest that is free.
+long ListedProperty::FreeTabIndex() {
+  std::vector<long> taken;
+  for (const DesignerBlockRef& control : place_.state->Controls())
+    if (control->Find("TabIndex")) taken.push_back(LongValue(*control, "TabIndex", 0));
+  long free = -1;
+  for (const DesignerBlockRef& control : place_.state->Controls()) {
+    const ControlClass* known = ClassOf(*place_.state, *control);
+    if (control->Find("TabIndex") || !known || !known->Find("TabIndex")) continue;
+    do ++free;
+    while (std::find(taken.begin(), taken.end(), free) != taken.end());
+    if (control == place_.block) return free;
+  }
+  return 0;
 }
 
 Variant ListedProperty::AttributeValue() {

@@ -7,6 +7,7 @@
 #include <cstdio>
 
 #include "environment/designer_lines.h"
+#include "environment/doubtful_points.h"
 #include "environment/lookup.h"
 #include "runtime/error.h"
 #include "runtime/strings.h"
@@ -79,7 +80,7 @@ std::string WriteShortcut(const std::string& text) {
 }  // namespace
 
 bool NeedsSibling(std::string_view text) {
-  return text.size() > kLongestInlineText || std::any_of(text.begin(), text.end(), IsControlByte);
+  return text.size() > doubtful::kLongestInlineText || std::any_of(text.begin(), text.end(), IsControlByte);
 }
 
 bool ReadNumber(std::string_view text, double& number) {

@@ -11,8 +11,6 @@
 
 namespace corvane::environment {
 
-// The longest text that stands in the designer part itself; longer ones go to the binary sibling.
-inline constexpr size_t kLongestInlineText = 127;
 // Whether [text] must go to the binary sibling.
 bool NeedsSibling(std::string_view text);
 

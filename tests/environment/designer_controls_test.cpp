@@ -139,7 +139,18 @@ TEST(VBControls, ANewControlGoesIntoItsContainer) {
   EXPECT_EQ(ErrorOf([&] { open.Controls()->Add("Label", open.Control("txtNote")); }), 5);
   EXPECT_EQ(ErrorOf([&] { open.Controls()->Add("Label", open.Control("mnuFile")); }), 5);
   EXPECT_EQ(ErrorOf([&] { open.Controls()->Add("Menu", open.Control("fraKind")); }), 5);
-  EXPECT_EQ(ErrorOf([&] { open.Controls()->Add("MSComctlLib.Slider", nullptr); }), 429);
+}
+
+TEST(VBControls, AControlOfAnotherLibraryIsAddedWhereThereIsOneAlready) {
+  OpenDesigner open(kStockForm);
+  EXPECT_EQ(ErrorOf([&] { open.Controls()->Add("MSComctlLib.ListView", nullptr); }), 429);
+  open.Controls()->Add("MSComctlLib.Slider", nullptr);
+  std::string expected = kStockForm;
+  expected.insert(
+      expected.find("   Begin VB.Menu mnuFile "),
+      "   Begin MSComctlLib.Slider Slider1 \n      Height          =   495\n      Left            =   1680\n"
+      "      TabIndex        =   6\n      Top             =   1320\n      Width           =   1215\n   End\n");
+  EXPECT_EQ(open.Text(), expected);
 }
 
 TEST(VBControls, NamesTakeTheFirstFreeNumber) {

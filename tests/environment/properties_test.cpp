@@ -105,6 +105,16 @@ TEST(Properties, ValuesOfAForm) {
   EXPECT_EQ(open.Of("Top")->Value(), Variant(0.0));
 }
 
+TEST(Properties, AMissingTabIndexIsTheEarliestFreeOne) {
+  OpenDesigner open(
+      "VERSION 5.00\nBegin VB.Form F \n   Begin VB.Label A \n   End\n   Begin VB.Label B \n      TabIndex = 1\n   End\n"
+      "   Begin VB.Timer T \n   End\n   Begin VB.Label C \n   End\n   Begin VB.Label D \n      TabIndex = 0\n   "
+      "End\nEnd\n");
+  EXPECT_EQ(open.Of("A", "TabIndex")->Value(), Variant(2L));
+  EXPECT_EQ(open.Of("B", "TabIndex")->Value(), Variant(1L));
+  EXPECT_EQ(open.Of("C", "TabIndex")->Value(), Variant(3L));
+}
+
 struct Reading {
   const char* line;
   const char* property;
