@@ -16,6 +16,9 @@ void Collect(const DesignerBlock& block, std::vector<DesignerBlockRef>& controls
   }
 }
 
+// Shorter records may stand anywhere by chance.
+constexpr size_t kWorthLookingFor = 8;
+
 bool ReferenceOf(const DesignerItem& item, SiblingReference& reference) {
   // Few lines are references: look for the colon before the value is taken apart.
   return item.raw.find(':') != std::string_view::npos && ReadReference(ValueOf(item.raw).text, reference);
@@ -164,6 +167,9 @@ SiblingReference DesignerState::AppendRecord(const std::string& record, bool is_
   const bool is_own = replaced && SameName(replaced->file, name) && replaced->offset >= sibling.saved_size &&
                       replaced->offset == sibling.last_offset;
   if (is_own) sibling.bytes.resize(replaced->offset);
+  // What is on the disk stays: a record that is there already (a value that was set back) is used again.
+  const size_t there = std::string_view(sibling.bytes).substr(0, sibling.saved_size).find(record);
+  if (record.size() >= kWorthLookingFor && there != std::string_view::npos) return {sibling.name, there, is_text, true};
   sibling.last_offset = sibling.bytes.size();
   sibling.bytes += record;
   return {sibling.name, sibling.last_offset, is_text, true};

@@ -45,7 +45,8 @@ class DesignerState : public std::enable_shared_from_this<DesignerState> {
   // The bytes of a sibling that a reference names. Throws as DesignerOwner::ReadSibling; the same each time.
   const std::string& SiblingBytes(const std::string& name);
   // Puts [record] into the binary sibling and returns the reference to it. [replaced] is the property's reference
-  // before: a record that this session added at the end makes room, everything else stays where it is.
+  // before: a record that this session added at the end makes room, one that is there
+  // already is used again, everything else stays where it is.
   SiblingReference AppendRecord(const std::string& record, bool is_text, const SiblingReference* replaced);
   std::vector<DesignerSibling> Siblings();
   void MoveSibling(const std::string& new_name);
