@@ -39,5 +39,13 @@ constexpr int32_t EncodeLevel(long level) {
 
 // The ring of eleven colours, black first.
 forms::Color LevelColor(long level);
+inline constexpr forms::Color kCommentColor = forms::RGB(192, 192, 192);
+
+// What sGrid chooses: 0 is also the value of a control that was given no sGrid yet.
+enum ListMode : long { kTreeList = 0, kVbList = 1, kGridList = 2, kSqlList = 3, kTextList = 4 };
+
+// Where the comment of [run], a text between two marks, starts from 0; npos for none. The first run of a line has the
+// blank in front with which it is drawn.
+size_t CommentStart(long list_mode, std::string_view run);
 
 }  // namespace corvane::codelist

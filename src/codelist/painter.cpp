@@ -16,7 +16,7 @@ namespace {
 constexpr Color kGutter = forms::k3DLight, kRule = RGB(0, 0, 0);
 constexpr Color kSelectedBack = RGB(192, 192, 192), kSelectedCurrentBack = RGB(128, 128, 128);
 constexpr Color kCurrentWithoutFocus = RGB(210, 255, 230), kFrameWithoutFocus = RGB(0, 255, 0);
-constexpr Color kComment = RGB(192, 192, 192), kHeading = RGB(0, 0, 128), kLink = RGB(128, 0, 128);
+constexpr Color kHeading = RGB(0, 0, 128), kLink = RGB(128, 0, 128);
 constexpr int32_t kHiddenFrom = 1024;  // the painter's own bound, up to kBoundary
 
 constexpr Twips kBoldShift = 8;  // bold is the same text printed twice
@@ -149,7 +149,7 @@ Twips ucListBox::PaintSegment(Twips x, Twips y, std::string_view text, bool meas
       return PrintEmphasized(x, y, text.substr(close + 1), kLink);
   if (size_t bold = text.find(kBold); bold != string_view::npos)
     return PaintSplit(x, y, text.substr(0, bold), text.substr(bold + 1), true, measured);
-  if (size_t comment = CommentIn(text); comment != string_view::npos) {
+  if (size_t comment = CommentStart(listMode, text); comment != string_view::npos) {
     std::string behind(text.substr(comment));
     std::replace(behind.begin(), behind.end(), kBlockComment, ' ');
     return PaintSplit(x, y, text.substr(0, comment), behind, false, measured);
@@ -162,18 +162,6 @@ Twips ucListBox::PaintSegment(Twips x, Twips y, std::string_view text, bool meas
   return Print(x, y, text, measured);
 }
 
-// Where a comment starts in a run of text; npos for none. With a string in the run an apostrophe counts only at its
-// start.
-size_t ucListBox::CommentIn(std::string_view text) const {
-  if (listMode == kSqlList) {
-    for (std::string_view start : {std::string_view("/*"), std::string_view(&kBlockComment, 1), std::string_view("--")})
-      if (size_t place = text.find(start); place != std::string_view::npos) return place;
-  }
-  if (listMode != kTreeList && listMode != kVbList) return std::string_view::npos;
-  const size_t place = text.find('\'');
-  return place >= 3 && runtime::Holds(text, "\"") ? std::string_view::npos : place;
-}
-
 Twips ucListBox::PaintSplit(Twips x, Twips y, std::string_view front, std::string_view behind, bool bold,
                             bool measured) {
   const Twips pen = x + Print(x, y, front, true);
@@ -181,7 +169,7 @@ Twips ucListBox::PaintSplit(Twips x, Twips y, std::string_view front, std::strin
   if (bold) {
     Print(pen - kBoldShift, y, behind, false);
   } else {
-    pic.SetForeColor(kComment);
+    pic.SetForeColor(kCommentColor);
   }
   return pen - x + Print(pen, y, behind, measured);
 }

@@ -27,9 +27,6 @@ using forms::Color;
 using forms::Event;
 using forms::Twips;
 
-// What sGrid chooses: 0 is also the value of a control that was given no sGrid yet.
-enum ListMode : long { kTreeList = 0, kVbList = 1, kGridList = 2, kSqlList = 3, kTextList = 4 };
-
 // As a background: no highlight. Any other colour marks the current line.
 inline constexpr Color kPlain = 0xFFFFFF;
 inline constexpr Color kHighlightOfCurrent = forms::RGB(160, 255, 220);
@@ -161,7 +158,6 @@ class ucListBox : public forms::UserControl {
   void PaintBackground(Twips x, Twips y, long index, Color colour);
   void PaintText(Twips x, Twips y, long index);
   Twips PaintSegment(Twips x, Twips y, std::string_view text, bool measured);
-  size_t CommentIn(std::string_view text) const;
   Twips PaintSplit(Twips x, Twips y, std::string_view front, std::string_view behind, bool bold, bool measured);
   Twips PrintEmphasized(Twips x, Twips y, std::string_view text, Color colour);
   Twips Print(Twips x, Twips y, std::string_view text, bool measured);

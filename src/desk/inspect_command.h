@@ -1,0 +1,15 @@
+// `corvane inspect lines FILE`: the lines of a file as a list stores them.
+#pragma once
+
+#include <ostream>
+#include <string>
+
+namespace corvane::desk {
+
+// Assigns the file's text to a fresh list with sGrid [mode] ("vb", "sql", "text" or any other) and ListRole
+// [list_role], and writes each stored line as JSON: {"level":33,"text":"..."}, all marks in the text. [code_page]
+// decides case and the way to UTF-8; 0 leaves the one in force. Returns 0.
+int InspectLines(const std::string& file_bytes, const std::string& mode, int list_role, int code_page,
+                 std::ostream& out);
+
+}  // namespace corvane::desk

@@ -1,0 +1,50 @@
+#include "desk/inspect_command.h"
+
+#include <gtest/gtest.h>
+#include <sstream>
+
+#include "runtime/code_page.h"
+
+namespace corvane::desk {
+namespace {
+
+std::string Inspect(const std::string& bytes, const std::string& mode, int role = 0, int code_page = 1252) {
+  std::ostringstream out;
+  EXPECT_EQ(InspectLines(bytes, mode, role, code_page, out), 0);
+  runtime::SetAnsiCodePage(1252);
+  return out.str();
+}
+
+TEST(InspectLines, GivesEachStoredLineWithItsLevelAndMarks) {
+  EXPECT_EQ(Inspect("If a Then\r\n\"x\"\r\nEnd If\r\n", "vb"),
+            R"({"level":33,"text":"\u0002If/+\\ a /-\\\u0002Then/+\\"})"
+            "\n"
+            R"({"level":34,"text":"\"x\""})"
+            "\n"
+            R"({"level":34,"text":"/-\\\u0002End If/-\\/+\\"})"
+            "\n");
+}
+
+TEST(InspectLines, TakesLinesThatEndWithALineFeedAlone) {
+  EXPECT_EQ(Inspect("a\nb\r\nc", "text"),
+            "{\"level\":33,\"text\":\"a\"}\n{\"level\":33,\"text\":\"b\"}\n"
+            "{\"level\":33,\"text\":\"c\"}\n");
+}
+
+TEST(InspectLines, StopsBehindAProcedureUnlessAnotherRoleIsGiven) {
+  EXPECT_EQ(Inspect("End Sub\r\nx\r\n", "vb"), "{\"level\":33,\"text\":\"End Sub\"}\n");
+  EXPECT_EQ(Inspect("End Sub\r\nx\r\n", "vb", 2),
+            "{\"level\":33,\"text\":\"End Sub\"}\n{\"level\":33,\"text\":\"x\"}\n");
+}
+
+TEST(InspectLines, WritesUtf8ThroughTheCodePage) {
+  EXPECT_EQ(Inspect("\xE4", "text"), "{\"level\":33,\"text\":\"\xC3\xA4\"}\n");
+  EXPECT_EQ(Inspect("\xE4", "text", 0, 1251), "{\"level\":33,\"text\":\"\xD0\xB4\"}\n");
+}
+
+TEST(InspectLines, AnEmptyFileHasNoLines) {
+  EXPECT_EQ(Inspect("", "vb"), "");
+}
+
+}  // namespace
+}  // namespace corvane::desk
