@@ -15,13 +15,13 @@ class HeadlessPeer : public Peer {
   }
   ~HeadlessPeer() override {
     if (toolkit_.under_pointer_ == &control_) toolkit_.under_pointer_ = nullptr;
-    if (is_timer_) toolkit_.Disarm(static_cast<Timer&>(control_));
+    if (timer_) toolkit_.Disarm(*timer_);
   }
 
   void Changed(Property property) override {
     notices_.push_back(property);
-    is_timer_ = is_timer_ || dynamic_cast<Timer*>(&control_) != nullptr;
-    if (is_timer_) toolkit_.Arm(static_cast<Timer&>(control_));
+    if (!timer_) timer_ = dynamic_cast<Timer*>(&control_);
+    if (timer_) toolkit_.Arm(*timer_);
   }
   forms::Canvas* Canvas() override { return canvas_.get(); }
 
@@ -31,7 +31,7 @@ class HeadlessPeer : public Peer {
  private:
   HeadlessToolkit& toolkit_;
   Control& control_;
-  bool is_timer_ = false;
+  Timer* timer_ = nullptr;  // the control, when it is one; it may be half destroyed when this is
   std::unique_ptr<RecordingCanvas> canvas_;
   std::vector<Property> notices_;
 };
