@@ -112,6 +112,7 @@ DesignerBlockRef AddControl(DesignerState& state, const ControlClass& known, Des
       state.Part().NewBlock(container, false, known.prog_id, FirstFreeName(state, known.base_name));
   WriteNewProperties(state, known, *control, container);
   PlaceControl(container, control);
+  PutOnTabPage(state.Part(), *control);
   state.ControlsChanged();
   state.Edited();
   return control;
@@ -128,8 +129,9 @@ void RenameControl(DesignerState& state, DesignerBlock& block, const std::string
   if (!IsName(name)) throw host::Error(runtime::kInvalidPropertyValue);
   if (block.name == name) return;
   if (IsTaken(state, name, &block)) throw host::Error(runtime::kNameInUse);
-  RenameOnTabPage(state.Part(), block, name);
+  const std::string on_page = NameOnPage(block);
   state.Part().SetBegin(block, block.type, name);
+  FollowOnTabPage(state.Part(), block, on_page);
   if (block.parent)
     for (DesignerItem& item : block.parent->items)
       if (item.block.get() == &block) item.name = block.name;

@@ -30,34 +30,49 @@ bool ReadEntry(std::string_view name, PageEntry& entry) {
   return true;
 }
 
-// What a page calls a control: its name, with the index of an array's element.
-std::string NameOnPage(const DesignerBlock& control, std::string_view name) {
-  const std::string_view index = LineValue(control, "Index").text;
-  return std::string(name) + (index.empty() ? "" : "(" + std::string(index) + ")");
-}
-
-// The entry that names [control]; null if there is none.
-DesignerItem* FindEntry(DesignerBlock& control, PageEntry& entry) {
-  if (!control.parent) return nullptr;
-  const std::string wanted = NameOnPage(control, control.name);
-  for (DesignerItem& item : control.parent->items)
+// The entry that calls a control of [dialog] [name]; null if there is none.
+DesignerItem* FindEntry(DesignerBlock* dialog, const std::string& name, PageEntry& entry) {
+  if (!dialog) return nullptr;
+  for (DesignerItem& item : dialog->items)
     if (item.kind == DesignerItem::Property && ReadEntry(item.name, entry) && entry.rest.empty() &&
-        SameName(Unquoted(ValueOf(item.raw).text), wanted))
+        SameName(Unquoted(ValueOf(item.raw).text), name))
       return &item;
   return nullptr;
 }
 
+std::string EntryName(std::string_view page, long control, std::string_view rest = {}) {
+  return std::string(page) + ".Control(" + std::to_string(control) + ")" + std::string(rest);
+}
+
 }  // namespace
 
-void RenameOnTabPage(DesignerPart& part, DesignerBlock& control, const std::string& new_name) {
+std::string NameOnPage(const DesignerBlock& control) {
+  const std::string_view index = LineValue(control, "Index").text;
+  return std::string(control.name) + (index.empty() ? "" : "(" + std::string(index) + ")");
+}
+
+void FollowOnTabPage(DesignerPart& part, DesignerBlock& control, const std::string& old_name) {
   PageEntry entry;
-  if (DesignerItem* item = FindEntry(control, entry))
-    part.SetRaw(*item, WithValue(item->raw, Quoted(NameOnPage(control, new_name))));
+  if (DesignerItem* item = FindEntry(control.parent, old_name, entry))
+    part.SetRaw(*item, WithValue(item->raw, Quoted(NameOnPage(control))));
+}
+
+void PutOnTabPage(DesignerPart& part, DesignerBlock& control) {
+  DesignerBlock& dialog = *control.parent;
+  const std::string page = "Tab(" + std::to_string(LongValue(dialog, "Tab", 0)) + ")",
+                    count_name = page + ".ControlCount";
+  const DesignerItem* count = dialog.Find(count_name);
+  if (!count) return;  // no tabbed dialog
+  const long controls = LongValue(dialog, count_name, 0);
+  const auto place = dialog.items.begin() + (count - dialog.items.data());
+  dialog.items.insert(place, part.NewProperty(PropertyLine(dialog.depth + 1, EntryName(page, controls),
+                                                           Quoted(NameOnPage(control)), part.LineEnd())));
+  SetLine(part, dialog, count_name, std::to_string(controls + 1));
 }
 
 void TakeOffTabPage(DesignerPart& part, DesignerBlock& control) {
   PageEntry gone;
-  if (!FindEntry(control, gone)) return;
+  if (!FindEntry(control.parent, NameOnPage(control), gone)) return;
   const std::string page(gone.page);
   auto& items = control.parent->items;
   for (size_t i = 0; i < items.size();) {
@@ -69,7 +84,7 @@ void TakeOffTabPage(DesignerPart& part, DesignerBlock& control) {
       continue;
     }
     if (on_page && entry.control > gone.control) {
-      const std::string name = page + ".Control(" + std::to_string(entry.control - 1) + ")" + std::string(entry.rest);
+      const std::string name = EntryName(page, entry.control - 1, entry.rest);
       std::string raw(items[i].raw);
       raw.replace(raw.find(items[i].name), items[i].name.size(), name);
       part.SetRaw(items[i], std::move(raw));

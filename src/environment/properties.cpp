@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "environment/designer_frame.h"
+#include "environment/designer_tab_pages.h"
 #include "environment/designer_tree.h"
 #include "environment/doubtful_points.h"
 #include "environment/lookup.h"
@@ -259,9 +260,12 @@ void ListedProperty::SetIndex(const Variant& value) {
   for (const DesignerBlockRef& other : place_.state->Controls())
     if (other.get() != &block && SameName(other->name, block.name) && LongValue(*other, "Index", -1) == index)
       throw host::Error(runtime::kNameInUse);
+  const std::string on_page = NameOnPage(block);
   const bool changed =
       index < 0 ? RemoveLine(block, "Index") : SetLine(place_.Part(), block, "Index", runtime::CStr(index));
-  if (changed) place_.state->Edited();
+  if (!changed) return;
+  FollowOnTabPage(place_.Part(), block, on_page);
+  place_.state->Edited();
 }
 
 // Error 13 for what is neither a picture nor Nothing.

@@ -221,6 +221,15 @@ End
   OpenDesigner open(text);
   open.Of("lblB", "Name")->SetValue(std::string("lblC"));
   EXPECT_NE(open.Text().find("      Tab(0).Control(1)=   \"lblC(3)\"\n"), std::string::npos);
+  open.Of("lblC", "Index")->SetValue(4L);
+  EXPECT_NE(open.Text().find("      Tab(0).Control(1)=   \"lblC(4)\"\n"), std::string::npos);
+  open.Of("lblC", "Index")->SetValue(3L);
+  const std::string before = open.Text();
+  const auto added = open.Controls()->Add("Label", open.Control("tab"));
+  EXPECT_NE(open.Text().find("      Tab(0).Control(2)=   \"Label1\"\n      Tab(0).ControlCount=   3\n"),
+            std::string::npos);
+  open.Controls()->Remove(added);
+  EXPECT_EQ(open.Text(), before);
   open.Controls()->Remove(open.Control("lblA"));
   const std::string expected = R"form(VERSION 5.00
 Begin VB.Form F 
