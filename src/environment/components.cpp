@@ -89,6 +89,7 @@ std::shared_ptr<OpenModule> OpenProject::AddFile(const std::string& path) {
   source.stamp = Environment().FilesInUse().Stamp(source.path);
   source.bytes = Environment().FilesInUse().Read(source.path);
   TakeHead(source, {});
+  CollectNamesInUse();
   RequireFreeName(source.name, nullptr);
   if (std::string reason = Refusal(source); !reason.empty())
     throw host::Error(runtime::kInvalidFileFormat, source.path + ": " + reason);

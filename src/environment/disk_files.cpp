@@ -83,6 +83,22 @@ bool SameWithoutCase(const std::string& a, const std::string& b) {
 // Finds the names of paths on disk; what was found without regard to case is remembered as long as it exists.
 class NameFinder {
  public:
+  // The path of these names. The folder of the last one stays known: most files of a project lie side by side.
+  std::string Find(const Names& split, const std::string& windows) {
+    if (split.names.empty()) return split.absolute ? "/" : ".";
+    std::string start =
+        windows.ends_with(split.names.back()) ? windows.substr(0, windows.size() - split.names.back().size()) : windows;
+    if (start == last_start_ && start.size() < windows.size()) {
+      std::string path = last_folder_ + split.names.back();
+      if (Exists(path)) return path;
+    }
+    std::string folder = split.absolute ? "/" : "";
+    for (size_t i = 0; i + 1 < split.names.size(); ++i) folder = Find(folder, split.names[i]) + "/";
+    last_start_ = start;
+    last_folder_ = folder;
+    return Find(folder, split.names.back());
+  }
+
   // The path of [name] in [folder] (ending in "/" or empty); the exact name where there is none yet.
   std::string Find(const std::string& folder, const std::string& name) {
     std::string exact = folder + name;
@@ -98,6 +114,7 @@ class NameFinder {
 
  private:
   std::unordered_map<std::string, std::string> known_;
+  std::string last_start_, last_folder_;
 };
 
 [[noreturn]] void Fail(int error, bool reading, const std::string& path) {
@@ -205,13 +222,7 @@ class DiskFiles : public host::Files {
   // This machine's path; empty where there is none.
   std::string Resolve(const std::string& windows) {
     Names split = Split(windows);
-    if (!split.has_place) return {};
-    std::string path = split.absolute ? "/" : "";
-    for (size_t i = 0; i < split.names.size(); ++i) {
-      path = finder_.Find(path, split.names[i]);
-      if (i + 1 < split.names.size()) path += '/';
-    }
-    return path.empty() ? "." : path;
+    return split.has_place ? finder_.Find(split, windows) : std::string();
   }
 
   // ENOENT of a file in a folder that is there, ENOTDIR where the folder is missing too.
@@ -272,14 +283,7 @@ std::string WindowsPath(const std::string& native) {
 
 std::string NativePath(const std::string& windows) {
   Names split = Split(windows);
-  if (!split.has_place) return windows;
-  NameFinder finder;
-  std::string path = split.absolute ? "/" : "";
-  for (size_t i = 0; i < split.names.size(); ++i) {
-    path = finder.Find(path, split.names[i]);
-    if (i + 1 < split.names.size()) path += '/';
-  }
-  return path.empty() ? "." : path;
+  return split.has_place ? NameFinder().Find(split, windows) : windows;
 }
 
 }  // namespace corvane::environment

@@ -45,8 +45,8 @@ bool FindPattern(const ModuleText& text, const FindRequest& request, const Range
 
 class PlainFind {
  public:
-  PlainFind(const ModuleText& text, const FindRequest& request, const Range& range)
-      : text_(text), request_(request), range_(range), search_(request.target, request.match_case) {}
+  PlainFind(const ModuleText& text, const FindRequest& request, const Range& range, const TextSearch& search)
+      : text_(text), request_(request), range_(range), search_(search) {}
 
   bool Run(FoundPlace& place) {
     for (const Stretch& stretch : text_.Stretches()) {
@@ -85,16 +85,19 @@ class PlainFind {
   const ModuleText& text_;
   const FindRequest& request_;
   const Range& range_;
-  TextSearch search_;
+  const TextSearch& search_;
 };
 
 }  // namespace
 
-bool FindInText(const ModuleText& text, const FindRequest& request, FoundPlace& place) {
+bool Finder::Find(const ModuleText& text, const FindRequest& request, FoundPlace& place) {
   if (request.target.empty()) return false;
   Range range = RangeOf(text, request);
   if (range.first > range.last) return false;
-  return request.pattern ? FindPattern(text, request, range, place) : PlainFind(text, request, range).Run(place);
+  if (request.pattern) return FindPattern(text, request, range, place);
+  if (!search_ || !search_->IsFor(request.target, request.match_case))
+    search_.emplace(request.target, request.match_case);
+  return PlainFind(text, request, range, *search_).Run(place);
 }
 
 }  // namespace corvane::environment

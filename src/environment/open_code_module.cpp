@@ -70,7 +70,7 @@ bool OpenCodeModule::Find(const std::string& target, long& start_line, long& sta
   if (doubtful::kFindBehindTheEndFails) RequireLine(start_line);
   FoundPlace place;
   FindRequest request{target, start_line, start_column, end_line, end_column, whole_word, match_case, pattern_search};
-  if (!FindInText(module_->Text(), request, place)) return false;
+  if (!module_->FindIn(request, place)) return false;
   start_line = end_line = place.line;
   start_column = place.column;
   end_column = place.column + place.length;

@@ -10,6 +10,7 @@
 #include "environment/command_bars.h"
 #include "environment/environment.h"
 #include "environment/group_file.h"
+#include "environment/module_find.h"
 #include "environment/windows.h"
 
 namespace corvane::environment {
@@ -54,6 +55,7 @@ class OpenEnvironment : public Environment {
   // For projects and modules.
   Observer* CurrentObserver() const { return observer_; }
   host::Files& FilesInUse() const { return files_; }
+  Finder& FinderInUse() { return finder_; }
   PaneList& PanesOf() const { return *panes_; }
   WindowList& WindowsOf() const { return *windows_; }
   const std::vector<std::shared_ptr<OpenProject>>& OpenProjects() const { return projects_; }
@@ -77,6 +79,7 @@ class OpenEnvironment : public Environment {
   host::Files& files_;
   Options options_;
   Observer* observer_ = nullptr;
+  Finder finder_;
   bool knows_code_page_ = false;
   std::string group_path_;  // empty without a group
   std::vector<Problem> problems_;

@@ -70,6 +70,10 @@ const ProcedureIndex& OpenModule::Procedures() const {
   return *procedures_;
 }
 
+bool OpenModule::FindIn(const FindRequest& request, FoundPlace& place) const {
+  return Environment().FinderInUse().Find(text_, request, place);
+}
+
 host::Ref<host::CodeModule> OpenModule::CodeModule() {
   if (!HasCode(kind_->type)) throw host::Error(runtime::kNoSuchMember);
   return std::make_shared<OpenCodeModule>(shared_from_this());

@@ -11,6 +11,7 @@
 #include "environment/code_pane.h"
 #include "environment/designer_form.h"
 #include "environment/module.h"
+#include "environment/module_find.h"
 #include "environment/module_head.h"
 #include "environment/module_kinds.h"
 #include "environment/module_text.h"
@@ -92,6 +93,7 @@ class OpenModule : public Module,
   // For the code module.
   const ModuleText& Text() const { return text_; }
   const ProcedureIndex& Procedures() const;
+  bool FindIn(const FindRequest& request, FoundPlace& place) const;
   // Replaces [count] lines from [start] by the lines of [text]; [text] null: by none.
   void Change(long start, long count, const std::string* text, bool by_user);
   Pane& PaneOf();

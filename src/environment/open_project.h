@@ -3,6 +3,8 @@
 
 #include <memory>
 #include <string>
+#include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include "environment/open_module.h"
@@ -60,6 +62,8 @@ class OpenProject : public Project, public std::enable_shared_from_this<OpenProj
   void NotifyComponents();
   bool ReadBytes(const ComponentLine& line, const std::vector<SourceFile>& sources, OpenModule::Source& source);
   std::string Refusal(const OpenModule::Source& source) const;
+  void CollectNamesInUse();
+  void AddNamesInUse(OpenModule& module);
   void ReportAt(const ComponentLine& line, const std::string& reason);
   void SetDirty();
   void WriteModule(OpenModule& module, const std::string& path);
@@ -72,7 +76,9 @@ class OpenProject : public Project, public std::enable_shared_from_this<OpenProj
   host::FileStamp stamp_;
   bool dirty_ = false;
   std::vector<std::shared_ptr<OpenModule>> modules_;
-  std::vector<SourceFile> loose_texts_;  // those that no line names: binary files of designers
+  std::unordered_set<std::string> paths_in_use_;               // upper-cased, while modules are read
+  std::unordered_map<std::string, std::string> names_in_use_;  // upper-cased names and their files, likewise
+  std::vector<SourceFile> loose_texts_;                        // those that no line names: binary files of designers
 };
 
 }  // namespace corvane::environment

@@ -10,6 +10,7 @@
 #include "environment/statement.h"
 #include "runtime/code_page.h"
 #include "runtime/error.h"
+#include "runtime/strings.h"
 
 namespace corvane::environment {
 
@@ -67,9 +68,8 @@ void OpenProject::ReadModules(const std::vector<SourceFile>& sources) {
   if (later.empty()) return;
   Environment().TakeCodePageHint(CodePageOfPaths(later));
   for (const ComponentLine& line : later) ReadModule(line, sources);
-  auto in_file_order = [this](const auto& a, const auto& b) {
-    return file_.LineNumberOf(a->ProjectLine()) < file_.LineNumberOf(b->ProjectLine());
-  };
+  // The ids of lines rise from the first to the last.
+  auto in_file_order = [](const auto& a, const auto& b) { return a->ProjectLine() < b->ProjectLine(); };
   std::stable_sort(modules_.begin(), modules_.end(), in_file_order);
 }
 
@@ -151,12 +151,22 @@ std::string OpenProject::Refusal(const OpenModule::Source& source) const {
   if (long line = LineOfNul(source.bytes)) return "no text: NUL byte in line " + std::to_string(line);
   if (HasDesigner(source.kind->type) && source.head.version.empty())
     return "no " + std::string(source.kind->key) + ": its first line is not VERSION";
-  for (const auto& other : modules_) {
-    if (SamePath(other->Path(), source.path)) return "named twice in the project";
-    if (SameName(other->Name(), source.name) && HasCode(other->Type()))
-      return "its name " + source.name + " is that of " + FileNameOf(other->Path());
-  }
+  if (paths_in_use_.count(runtime::UCase(source.path))) return "named twice in the project";
+  auto other = HasCode(source.kind->type) ? names_in_use_.find(runtime::UCase(source.name)) : names_in_use_.end();
+  if (other != names_in_use_.end()) return "its name " + source.name + " is that of " + other->second;
   return {};
+}
+
+// Large projects have thousands of modules: what is in use is looked up, not searched.
+void OpenProject::CollectNamesInUse() {
+  paths_in_use_.clear();
+  names_in_use_.clear();
+  for (const auto& module : modules_) AddNamesInUse(*module);
+}
+
+void OpenProject::AddNamesInUse(OpenModule& module) {
+  if (!module.Path().empty()) paths_in_use_.insert(runtime::UCase(module.Path()));
+  if (HasCode(module.Type())) names_in_use_.emplace(runtime::UCase(module.Name()), FileNameOf(module.Path()));
 }
 
 // Reads the head of the source's bytes, and with it its kind and its name.
@@ -197,6 +207,7 @@ void OpenProject::ReadModule(const ComponentLine& line, const std::vector<Source
   ReportName(line, source);
   for (const Problem& problem : source.head.problems) Environment().Report({source.path, problem.line, problem.reason});
   modules_.push_back(std::make_shared<OpenModule>(*this, std::move(source)));
+  AddNamesInUse(*modules_.back());
 }
 
 }  // namespace corvane::environment

@@ -31,12 +31,17 @@ inline bool AnyCandidate(const unsigned char* a, unsigned char a1, unsigned char
 
 }  // namespace
 
-TextSearch::TextSearch(std::string_view text, bool match_case) : match_case_(match_case) {
+TextSearch::TextSearch(std::string_view text, bool match_case)
+    : asked_(text), code_page_(runtime::AnsiCodePage().Number()), match_case_(match_case) {
   const runtime::CodePage& page = runtime::AnsiCodePage();
   double_byte_ = page.IsDoubleByte();
   text_ = match_case ? std::string(text) : page.ToUpper(text);
   for (size_t i = 0; i < fold_.size(); ++i) fold_[i] = match_case ? static_cast<unsigned char>(i) : page.Upper(i);
   ChooseProbes();
+}
+
+bool TextSearch::IsFor(std::string_view text, bool match_case) const {
+  return match_case == match_case_ && text == asked_ && code_page_ == runtime::AnsiCodePage().Number();
 }
 
 TextSearch::Probe TextSearch::ProbeAt(size_t at) const {

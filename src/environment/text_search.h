@@ -16,6 +16,8 @@ class TextSearch {
   // character: see IsAtCharacter.
   const char* Find(const char* begin, const char* end) const;
   size_t Length() const { return text_.size(); }
+  // Whether it was prepared for this search, by the code page in force.
+  bool IsFor(std::string_view text, bool match_case) const;
 
  private:
   // One byte of the text in both cases.
@@ -27,6 +29,8 @@ class TextSearch {
   Probe ProbeAt(size_t at) const;
   void ChooseProbes();
 
+  std::string asked_;
+  int code_page_;
   std::string text_;  // upper-cased without case
   bool match_case_;
   bool double_byte_;
