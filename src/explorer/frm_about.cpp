@@ -14,7 +14,7 @@ void frmAbout::Design() {
   SetCaption("About Corvane");
   SetBorderStyle(forms::FormBorder::FixedDialog);
   SetIcon(forms::Icon("corvane"));
-  Move(2400, 2400, 6300, 3600);
+  Move(2400, 2400, 6300, 3000);
   imgIcon.SetPicture(forms::Icon("corvane"));
   imgIcon.SetStretch(true);
   imgIcon.Move(240, 240, 720, 720);
@@ -24,8 +24,7 @@ void frmAbout::Design() {
   lblDescription.SetCaption("Project explorer with colour code analysis");
   lblDescription.Move(1200, 705, 4860, 255);
   lblLicence.SetCaption("Free software under the MIT licence, without any warranty.");
-  lblLicence.SetWordWrap(true);
-  lblLicence.Move(1200, 1080, 4860, 495);
+  lblLicence.Move(1200, 1080, 4860, 255);
   txtRead.SetMultiLine(true);
   txtRead.SetScrollBars(2);
   txtRead.SetLocked(true);
@@ -34,9 +33,9 @@ void frmAbout::Design() {
   cmdOk.SetCaption("OK");
   cmdOk.SetDefault(true);
   cmdOk.SetCancel(true);
-  cmdOk.Move(4800, 2130, 1260, 375);
+  cmdOk.Move(4800, 1545, 1260, 375);
   cmdSysInfo.SetCaption("&Read me");
-  cmdSysInfo.Move(4800, 2625, 1260, 375);
+  cmdSysInfo.Move(4800, 2040, 1260, 375);
   cmdOk.SetTabIndex(0);
   cmdSysInfo.SetTabIndex(1);
 }

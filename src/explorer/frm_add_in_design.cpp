@@ -140,7 +140,11 @@ void frmAddIn::DesignLists() {
     list->SetSorted(true);
     list->SetToolTipText("All Components ComboBox");
   }
-  for (forms::ListBox* list : {&lbxProc1, &lbxProc2}) list->SetSorted(true);
+  for (forms::ListBox* list : {&lbxProc1, &lbxProc2}) {
+    list->SetSorted(true);
+    // Wide blanks keep the tails of the rows behind the right edge.
+    list->SetFont({.Name = "Courier New", .Size = 8.25f});
+  }
   txtFind.SetToolTipText("Components Filter");
   txtFproc.SetToolTipText("Procedures Filter");
   cmbSearch.SetToolTipText("Type or select string for Search");
@@ -221,24 +225,24 @@ void frmAddIn::PlaceControls() {
     forms::Control& control;
     Rect place;
   } kPlaces[] = {
-      {tlbr, {0, 0, 10410, 420}},           {Label1, {75, 540, 1125, 240}},       {axAllComp, {1275, 495, 1350, 330}},
+      {tlbr, {0, 0, 10410, 420}},           {Label1, {75, 555, 1125, 240}},       {axAllComp, {1275, 495, 1350, 330}},
       {axForms, {2670, 495, 1080, 330}},    {axControls, {3795, 495, 1230, 330}}, {axClasses, {5070, 495, 1200, 330}},
       {axModules, {6315, 495, 345, 330}},   {axLastComp, {6705, 495, 345, 330}},  {Frame1, {7140, 495, 3205, 330}},
       {optFirst, {0, 30, 1500, 270}},       {optSecond, {1605, 30, 1600, 270}},   {lbxComp1, {75, 900, 6975, 315}},
       {lbxComp2, {75, 900, 6975, 315}},     {txtFind, {7140, 900, 3205, 315}},    {Label2, {75, 1335, 3000, 240}},
-      {cmdPrev, {9615, 1275, 345, 330}},    {cmdNext, {10000, 1275, 345, 330}},   {lbxProc1, {75, 1635, 10270, 1275}},
-      {lbxProc2, {75, 1635, 10270, 1275}},  {txtFproc, {75, 2970, 1725, 315}},    {Frame2, {1920, 2970, 5160, 315}},
-      {optProcAll, {0, 30, 1290, 255}},     {optProcSub, {1290, 30, 765, 255}},   {optProcFunc, {2055, 30, 1110, 255}},
-      {optProcProp, {3165, 30, 1155, 255}}, {optProcEvent, {4320, 30, 840, 255}}, {Frame3, {7140, 2970, 3205, 315}},
-      {optAllProc, {0, 30, 585, 255}},      {optProcPubl, {585, 30, 840, 255}},   {optProcPriv, {1425, 30, 915, 255}},
-      {optProcStat, {2340, 30, 865, 255}},  {Label3, {75, 3390, 1125, 240}},      {lblSub, {1275, 3390, 5775, 240}},
-      {Label5, {7140, 3390, 2760, 240}},    {cmGo, {10000, 3345, 345, 330}},      {txtCode, {75, 3705, 10270, 2870}},
+      {cmdPrev, {9615, 1275, 345, 330}},    {cmdNext, {10000, 1275, 345, 330}},   {lbxProc1, {75, 1635, 10270, 1080}},
+      {lbxProc2, {75, 1635, 10270, 1080}},  {txtFproc, {75, 2775, 1665, 315}},    {Frame2, {1845, 2775, 5235, 315}},
+      {optProcAll, {0, 30, 1185, 255}},     {optProcSub, {1185, 30, 795, 255}},   {optProcFunc, {1980, 30, 1125, 255}},
+      {optProcProp, {3105, 30, 1170, 255}}, {optProcEvent, {4275, 30, 960, 255}}, {Frame3, {7140, 2775, 3205, 315}},
+      {optAllProc, {0, 30, 645, 255}},      {optProcPubl, {645, 30, 870, 255}},   {optProcPriv, {1515, 30, 930, 255}},
+      {optProcStat, {2445, 30, 760, 255}},  {Label3, {75, 3195, 1125, 240}},      {lblSub, {1275, 3195, 5775, 240}},
+      {Label5, {7140, 3195, 2760, 240}},    {cmGo, {10000, 3150, 345, 330}},      {txtCode, {75, 3510, 10270, 3065}},
       {Frame4, {75, 6635, 1500, 1215}},     {optProj, {120, 150, 1320, 255}},     {optCurMod, {120, 480, 1320, 255}},
-      {optSelMod, {120, 810, 1320, 255}},   {Frame6, {1650, 6635, 6075, 1215}},   {cmbSearch, {120, 135, 4425, 315}},
-      {cbSearch, {4620, 135, 1350, 315}},   {optFndAll, {120, 525, 1395, 255}},   {optFndCur, {1530, 525, 1485, 255}},
-      {optFndSel, {3030, 525, 1560, 255}},  {optGroup, {4605, 525, 1365, 255}},   {Frame5, {120, 840, 5850, 285}},
-      {chkWhole, {0, 15, 1395, 255}},       {chkSub, {1410, 15, 1485, 255}},      {chkComnt, {2910, 15, 1560, 255}},
-      {cmdMore, {7800, 6725, 750, 345}},    {cmdColor, {7800, 7135, 750, 345}},   {txtClip, {8625, 6725, 1720, 1090}},
+      {optSelMod, {120, 810, 1320, 255}},   {Frame6, {1650, 6635, 6120, 1215}},   {cmbSearch, {120, 135, 4455, 315}},
+      {cbSearch, {4650, 135, 1350, 315}},   {optFndAll, {120, 525, 1410, 255}},   {optFndCur, {1530, 525, 1530, 255}},
+      {optFndSel, {3060, 525, 1605, 255}},  {optGroup, {4665, 525, 1335, 255}},   {Frame5, {120, 840, 5880, 285}},
+      {chkWhole, {0, 15, 1410, 255}},       {chkSub, {1410, 15, 1530, 255}},      {chkComnt, {2940, 15, 1605, 255}},
+      {cmdMore, {7845, 6725, 735, 345}},    {cmdColor, {7845, 7135, 735, 345}},   {txtClip, {8655, 6725, 1690, 1090}},
       {lstSave, {75, 1635, 1215, 495}},     {txtPrev, {75, 1635, 1215, 315}},
   };
   for (const auto& spot : kPlaces)
