@@ -37,7 +37,10 @@ void QtCanvas::ShowOn(QPainter& painter, const QRect& place) {
   Close();
   if (image_.isNull()) return;
   const QRectF source(place.x() * scale_, place.y() * scale_, place.width() * scale_, place.height() * scale_);
-  painter.drawImage(QRectF(place), image_, source);
+  if (painter.device()->devicePixelRatioF() != scale_) return painter.drawImage(QRectF(place), image_, source);
+  painter.scale(1 / scale_, 1 / scale_);  // pixel for pixel: a plain copy
+  const QRect pixels = source.toAlignedRect() & image_.rect();
+  painter.drawImage(pixels.topLeft(), image_, pixels);
 }
 
 const QImage& QtCanvas::Picture() {

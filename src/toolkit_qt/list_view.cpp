@@ -9,6 +9,7 @@
 
 #include "toolkit_qt/fonts.h"
 #include "toolkit_qt/painted.h"
+#include "toolkit_qt/scroll_bar_view.h"
 #include "toolkit_qt/texts.h"
 
 namespace corvane::toolkit_qt {
@@ -21,7 +22,7 @@ constexpr int kBox = 13;
 }  // namespace
 
 ListView::ListView(forms::ListControl& list, QWidget* parent)
-    : QWidget(parent), list_(&list), bar_(new QScrollBar(Qt::Vertical, this)) {
+    : QWidget(parent), list_(&list), bar_(new ScrollBarView(Qt::Vertical, this)) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   bar_->setFocusPolicy(Qt::NoFocus);
   bar_->setCursor(Qt::ArrowCursor);

@@ -1,11 +1,11 @@
 #include "forms/scroll_bar.h"
 
-#include <QScrollBar>
 #include <QSignalBlocker>
 #include <algorithm>
 
 #include "toolkit_qt/peer.h"
 #include "toolkit_qt/peers.h"
+#include "toolkit_qt/scroll_bar_view.h"
 
 namespace corvane::toolkit_qt {
 namespace {
@@ -14,7 +14,7 @@ class ScrollBarPeer : public ControlPeer {
  public:
   ScrollBarPeer(QtToolkit& toolkit, forms::ScrollBar& bar) : ControlPeer(toolkit, bar), bar_(bar) {
     const auto way = bar.Kind() == forms::ControlKind::HScrollBar ? Qt::Horizontal : Qt::Vertical;
-    shown_ = new QScrollBar(way, InsideOf(bar.ContainerOf()));
+    shown_ = new ScrollBarView(way, InsideOf(bar.ContainerOf()));
     SetWidget(shown_, Input::Mouse::Untold);
     QObject::connect(shown_, &QScrollBar::valueChanged, input_.get(), [this](int value) {
       ReportThenShow(forms::Property::Value, [&] { bar_.UserScroll(value, shown_->isSliderDown()); });

@@ -214,6 +214,28 @@ TEST_P(Picture, IsWrittenToAFile) {
   window.Unload();
 }
 
+// What is drawn on the surface is what the window shows, pixel for pixel.
+TEST_P(Picture, ShowsSurfacesPixelForPixel) {
+  forms::PictureBox picture(form, "pic");
+  picture.SetBorderStyle(0);
+  picture.Move(300, 300, 1500, 1500);
+  picture.Paint = [&] {
+    for (int line = 0; line < 100; ++line) {
+      const auto at = static_cast<forms::Twips>(line * 15);
+      picture.FillBox(0, at, 1500, at + 15, line % 2 ? forms::RGB(255, 0, 0) : forms::RGB(0, 0, 255));
+    }
+  };
+  Show();
+  const double scale = GetParam();
+  const QImage image = PictureOfWindow(toolkit, form, scale);
+  const int x = static_cast<int>(50 * scale), top = static_cast<int>(20 * scale);
+  for (int y = top; y < top + static_cast<int>(100 * scale); ++y) {
+    const QColor pixel = image.pixelColor(x, y);
+    EXPECT_TRUE(pixel == QColor(Qt::red) || pixel == QColor(Qt::blue)) << y << " is blurred";
+  }
+  form.Unload();
+}
+
 TEST_F(WindowTest, NoPictureOfAWindowThatIsNotLoaded) {
   EXPECT_TRUE(PictureOfWindow(toolkit, form).isNull());
   EXPECT_FALSE(SaveWindowPicture(toolkit, form, ::testing::TempDir() + "corvane-none.png"));
