@@ -1,8 +1,7 @@
 #include "runtime/code_page.h"
 
-#include <iconv.h>
-
 #include <cerrno>
+#include <iconv.h>
 #include <memory>
 
 namespace corvane::runtime {
@@ -17,7 +16,9 @@ bool IsKnown(int number) {
   return false;
 }
 
-std::string IconvName(int number) { return number == 936 ? "GBK" : "CP" + std::to_string(number); }
+std::string IconvName(int number) {
+  return number == 936 ? "GBK" : "CP" + std::to_string(number);
+}
 
 class Iconv {
  public:
@@ -44,17 +45,27 @@ class Iconv {
       int error = errno;
       output.append(buffer, sizeof buffer - room);
       if (result != static_cast<size_t>(-1) || error == E2BIG) continue;
+      Finish(output);
       output.append(substitute);
       clean = false;
       size_t skipped = std::min(left, step(std::string_view(in, left)));
       in += skipped;
       left -= skipped;
-      iconv(handle_, nullptr, nullptr, nullptr, nullptr);
     }
+    Finish(output);
     return clean;
   }
 
  private:
+  // Pages with combining characters hold the last one back, to see whether an accent follows.
+  void Finish(std::string& output) {
+    char buffer[16];
+    char* out = buffer;
+    size_t room = sizeof buffer;
+    iconv(handle_, nullptr, nullptr, &out, &room);
+    output.append(buffer, sizeof buffer - room);
+  }
+
   iconv_t handle_;
 };
 
@@ -65,8 +76,11 @@ char32_t CaseOf(char32_t c, bool upper) {
     return 0;
   };
   if (c == 0xF7 || c == 0xD7) return c;
-  for (auto [first, last, distance] : {std::array<char32_t, 3>{'A', 'Z', 32}, {0xC0, 0xDE, 32}, {0x391, 0x3AB, 32},
-                                       {0x410, 0x42F, 32}, {0x400, 0x40F, 80}})
+  for (auto [first, last, distance] : {std::array<char32_t, 3>{'A', 'Z', 32},
+                                       {0xC0, 0xDE, 32},
+                                       {0x391, 0x3AB, 32},
+                                       {0x410, 0x42F, 32},
+                                       {0x400, 0x40F, 80}})
     if (char32_t other = shift(first, last, distance)) return other;
   if (c == 0xFF) return upper ? 0x178 : c;
   if (c == 0x178) return upper ? c : 0xFF;
@@ -85,6 +99,30 @@ char32_t CaseOf(char32_t c, bool upper) {
   if (c >= 0x1A0 && c <= 0x1B0 && (c == 0x1A0 || c == 0x1A1)) return upper ? 0x1A0 : 0x1A1;
   if (c == 0x1AF || c == 0x1B0) return upper ? 0x1AF : 0x1B0;
   return c;
+}
+
+// The symbols of ASCII in the order of a Western locale, behind ".", which comes first of all, and before "_".
+constexpr std::string_view kSymbols = "-,;:!?'\"()[]{}@*/\\&#%`^+<=>|~$";
+
+uint16_t PlaceInList(const CodePage& page, unsigned char byte) {
+  enum Group : uint16_t {
+    kBlank = 1,
+    kControl = 2,
+    kPoint = 10,
+    kSymbol = 20,
+    kUnderscore = 60,
+    kOther = 100,
+    kDigit = 500,
+    kLetter = 1000
+  };
+  if (byte == ' ' || byte == '\t') return kBlank;
+  if (byte == '.') return kPoint;
+  if (byte == '_') return kUnderscore;
+  if (byte >= '0' && byte <= '9') return static_cast<uint16_t>(kDigit + byte);
+  if (const size_t at = kSymbols.find(static_cast<char>(byte)); at != std::string_view::npos)
+    return static_cast<uint16_t>(kSymbol + at);
+  if (page.IsWordByte(byte)) return static_cast<uint16_t>(kLetter + page.Upper(byte));
+  return static_cast<uint16_t>(byte < 0x80 ? kControl : kOther + byte);
 }
 
 bool IsLetter(char32_t c) {
@@ -110,7 +148,10 @@ CodePage::CodePage(int number) : number_(IsKnown(number) ? number : 1252) {
       lead_[byte] = lead;
       std::string out;
       char input = static_cast<char>(byte);
-      if (lead || !iconv.Good() || !iconv.Convert({&input, 1}, "", [](auto) { return size_t{1}; }, out) || out.size() < 4)
+      if (lead || !iconv.Good() ||
+          !iconv.Convert(
+              {&input, 1}, "", [](auto) { return size_t{1}; }, out) ||
+          out.size() < 4)
         code = 0xFFFD;
       else
         code = static_cast<unsigned char>(out[0]) | static_cast<unsigned char>(out[1]) << 8 |
@@ -128,30 +169,31 @@ CodePage::CodePage(int number) : number_(IsKnown(number) ? number : 1252) {
       if (unicode_[other] == CaseOf(code, false)) lower_[byte] = static_cast<unsigned char>(other);
     }
   }
+  for (int byte = 0; byte < 256; ++byte) list_order_[byte] = PlaceInList(*this, static_cast<unsigned char>(byte));
+}
+
+std::string CodePage::Mapped(std::string_view bytes, const std::array<unsigned char, 256>& table) const {
+  std::string result(bytes);
+  if (!double_byte_) {
+    for (char& c : result) c = static_cast<char>(table[static_cast<unsigned char>(c)]);
+    return result;
+  }
+  for (size_t i = 0; i < result.size(); ++i) {
+    auto byte = static_cast<unsigned char>(result[i]);
+    if (lead_[byte] && i + 1 < result.size())
+      ++i;
+    else
+      result[i] = static_cast<char>(table[byte]);
+  }
+  return result;
 }
 
 std::string CodePage::ToUpper(std::string_view bytes) const {
-  std::string result(bytes);
-  for (size_t i = 0; i < result.size(); ++i) {
-    auto byte = static_cast<unsigned char>(result[i]);
-    if (double_byte_ && lead_[byte] && i + 1 < result.size())
-      ++i;
-    else
-      result[i] = static_cast<char>(upper_[byte]);
-  }
-  return result;
+  return Mapped(bytes, upper_);
 }
 
 std::string CodePage::ToLower(std::string_view bytes) const {
-  std::string result(bytes);
-  for (size_t i = 0; i < result.size(); ++i) {
-    auto byte = static_cast<unsigned char>(result[i]);
-    if (double_byte_ && lead_[byte] && i + 1 < result.size())
-      ++i;
-    else
-      result[i] = static_cast<char>(lower_[byte]);
-  }
-  return result;
+  return Mapped(bytes, lower_);
 }
 
 std::string CodePage::ToUtf8(std::string_view bytes) const {
@@ -161,7 +203,8 @@ std::string CodePage::ToUtf8(std::string_view bytes) const {
   std::string result;
   Iconv iconv("UTF-8", IconvName(number_));
   if (!iconv.Good()) return std::string(bytes.size(), '?');
-  iconv.Convert(bytes, "\xEF\xBF\xBD", [](std::string_view) { return size_t{1}; }, result);
+  iconv.Convert(
+      bytes, "\xEF\xBF\xBD", [](std::string_view) { return size_t{1}; }, result);
   return result;
 }
 
@@ -190,7 +233,9 @@ std::unique_ptr<CodePage>& Current() {
 }
 }  // namespace
 
-const CodePage& AnsiCodePage() { return *Current(); }
+const CodePage& AnsiCodePage() {
+  return *Current();
+}
 
 void SetAnsiCodePage(int number) {
   if (Current()->Number() != number) Current() = std::make_unique<CodePage>(number);
@@ -198,20 +243,34 @@ void SetAnsiCodePage(int number) {
 
 int CodePageOfCharset(int charset) {
   switch (charset) {
-    case 128: return 932;
-    case 129: return 949;
-    case 134: return 936;
-    case 136: return 950;
-    case 161: return 1253;
-    case 162: return 1254;
-    case 163: return 1258;
-    case 177: return 1255;
-    case 178: return 1256;
-    case 186: return 1257;
-    case 204: return 1251;
-    case 222: return 874;
-    case 238: return 1250;
-    default: return 0;
+    case 128:
+      return 932;
+    case 129:
+      return 949;
+    case 134:
+      return 936;
+    case 136:
+      return 950;
+    case 161:
+      return 1253;
+    case 162:
+      return 1254;
+    case 163:
+      return 1258;
+    case 177:
+      return 1255;
+    case 178:
+      return 1256;
+    case 186:
+      return 1257;
+    case 204:
+      return 1251;
+    case 222:
+      return 874;
+    case 238:
+      return 1250;
+    default:
+      return 0;
   }
 }
 

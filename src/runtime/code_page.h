@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -24,6 +25,8 @@ class CodePage {
   std::string ToLower(std::string_view bytes) const;
   unsigned char Upper(unsigned char byte) const { return upper_[byte]; }
   const std::array<unsigned char, 256>& UpperTable() const { return upper_; }
+  // Place of each byte in the order of a sorted list (see collate.h); bytes that differ in case only share one.
+  const std::array<uint16_t, 256>& ListOrder() const { return list_order_; }
 
   // Bytes that the page does not define become U+FFFD; characters that it does not hold become "?".
   std::string ToUtf8(std::string_view bytes) const;
@@ -32,10 +35,12 @@ class CodePage {
   bool FromUtf8(std::string_view utf8, std::string& bytes) const;
 
  private:
+  std::string Mapped(std::string_view bytes, const std::array<unsigned char, 256>& table) const;
   int number_;
   bool double_byte_ = false;
   std::array<bool, 256> lead_{}, word_{};
   std::array<unsigned char, 256> upper_{}, lower_{};
+  std::array<uint16_t, 256> list_order_{};
   std::array<char32_t, 256> unicode_{};
 };
 

@@ -1,7 +1,9 @@
 #include "runtime/strings.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cmath>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 
@@ -45,7 +47,9 @@ long InStrRev(std::string_view text, std::string_view find, long start) {
   return at == std::string_view::npos ? 0 : static_cast<long>(at) + 1;
 }
 
-std::string Mid(std::string_view text, long start) { return Mid(text, start, Len(text)); }
+std::string Mid(std::string_view text, long start) {
+  return Mid(text, start, Len(text));
+}
 
 std::string Mid(std::string_view text, long start, long count) {
   Require(start >= 1 && count >= 0);
@@ -64,19 +68,29 @@ std::string Right(std::string_view text, long count) {
   return std::string(text.substr(text.size() - kept));
 }
 
-std::string LTrim(std::string_view text) { return std::string(text.substr(FirstNonBlank(text))); }
+std::string LTrim(std::string_view text) {
+  return std::string(text.substr(FirstNonBlank(text)));
+}
 
-std::string RTrim(std::string_view text) { return std::string(text.substr(0, EndWithoutBlanks(text))); }
+std::string RTrim(std::string_view text) {
+  return std::string(text.substr(0, EndWithoutBlanks(text)));
+}
 
 std::string Trim(std::string_view text) {
   text = text.substr(0, EndWithoutBlanks(text));
   return std::string(text.substr(FirstNonBlank(text)));
 }
 
-std::string UCase(std::string_view text) { return AnsiCodePage().ToUpper(text); }
-std::string LCase(std::string_view text) { return AnsiCodePage().ToLower(text); }
+std::string UCase(std::string_view text) {
+  return AnsiCodePage().ToUpper(text);
+}
+std::string LCase(std::string_view text) {
+  return AnsiCodePage().ToLower(text);
+}
 
-std::string Space(long count) { return String(count, ' '); }
+std::string Space(long count) {
+  return String(count, ' ');
+}
 
 std::string String(long count, char character) {
   Require(count >= 0);
@@ -105,22 +119,45 @@ std::string Replace(std::string_view text, std::string_view find, std::string_vi
   return result.append(text, from);
 }
 
+namespace {
+
+// "&H" and "&O" numbers; at most 16 bits of digits are a signed Integer, as Visual Basic has it.
+double Based(const std::string& digits, int base) {
+  const unsigned long long value = std::strtoull(digits.c_str(), nullptr, base);
+  const size_t significant =
+      std::min(digits.size(), digits.find_first_not_of(base == 16 ? "0123456789ABCDEFabcdef" : "01234567"));
+  if (base == 16 && significant <= 4) return static_cast<int16_t>(value);
+  if (base == 8 && value <= 0xFFFF) return static_cast<int16_t>(value);
+  return static_cast<int32_t>(value);
+}
+
+bool IsSkippedByVal(char c) {
+  return c == ' ' || c == '\t' || c == '\n';
+}
+
+}  // namespace
+
 double Val(std::string_view text) {
-  std::string digits;
-  for (char c : text)
-    if (c != ' ' && c != '\t' && c != '\n') digits += c == 'D' || c == 'd' ? 'E' : c;
-  if (digits.size() > 2 && digits[0] == '&' && (digits[1] == 'H' || digits[1] == 'h'))
-    return static_cast<double>(std::strtol(digits.c_str() + 2, nullptr, 16));
-  if (digits.size() > 1 && digits[0] == '&')
-    return static_cast<double>(std::strtol(digits.c_str() + (digits[1] == 'O' || digits[1] == 'o' ? 2 : 1), nullptr, 8));
-  size_t end = digits.find_first_not_of("+-.0123456789Ee");
-  if (end != std::string::npos) digits.resize(end);
+  std::string digits(text);
+  digits.erase(std::remove_if(digits.begin(), digits.end(), IsSkippedByVal), digits.end());
+  if (BeginsWith(digits, "&")) {
+    const char base = UCase(Mid(digits, 2, 1)) == "H" ? 'H' : 'O';
+    const bool lettered = base == 'H' || UCase(Mid(digits, 2, 1)) == "O";
+    digits.erase(0, lettered ? 2 : 1);
+    // A sign or a prefix behind it would be read by the C library.
+    if (digits.empty() || !std::isxdigit(static_cast<unsigned char>(digits[0])) || BeginsWith(UCase(digits), "0X"))
+      return 0;
+    return Based(digits, base == 'H' ? 16 : 8);
+  }
+  std::replace_if(
+      digits.begin(), digits.end(), [](char c) { return c == 'D' || c == 'd'; }, 'E');
+  digits.resize(std::min(digits.size(), digits.find_first_not_of("+-.0123456789Ee")));
   return std::strtod(digits.c_str(), nullptr);
 }
 
 std::string CStr(double number) {
   if (number == 0) return "0";
-  if (double whole = std::trunc(number); whole == number && std::fabs(number) < 1e15) return std::to_string(static_cast<long long>(number));
+  if (std::trunc(number) == number && std::fabs(number) < 1e15) return std::to_string(static_cast<long long>(number));
   char buffer[64];
   std::snprintf(buffer, sizeof buffer, "%.14e", number);
   std::string text = buffer;
@@ -129,7 +166,8 @@ std::string CStr(double number) {
   std::string mantissa = text.substr(0, e);
   mantissa.resize(mantissa.find_last_not_of('0') + 1);
   if (mantissa.back() == '.') mantissa.pop_back();
-  long digits = static_cast<long>(std::count_if(mantissa.begin(), mantissa.end(), [](char c) { return c >= '0' && c <= '9'; }));
+  long digits =
+      static_cast<long>(std::count_if(mantissa.begin(), mantissa.end(), [](char c) { return c >= '0' && c <= '9'; }));
   long decimals = std::max(0L, digits - 1 - exponent);
   if (exponent < 15 && decimals <= 15) {
     std::snprintf(buffer, sizeof buffer, "%.*f", static_cast<int>(decimals), number);

@@ -53,7 +53,7 @@ inline std::string CStr(long number) { return std::to_string(number); }
 inline std::string CStr(int number) { return std::to_string(number); }
 
 // [number] with a picture of digits: 0 and # places, an optional point, and literals behind ("00#   " gives at
-// least two digits and three blanks). See format.cpp for the places understood.
+// least three digits, as a # behind a 0 counts as one, and three blanks). See format.cpp for the places understood.
 std::string Format(double number, std::string_view picture);
 
 }  // namespace corvane::runtime

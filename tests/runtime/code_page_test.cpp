@@ -1,0 +1,110 @@
+#include "runtime/code_page.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <vector>
+
+#include "runtime/collate.h"
+#include "runtime/strings.h"
+
+namespace corvane::runtime {
+namespace {
+
+class CodePages : public testing::TestWithParam<int> {};
+
+INSTANTIATE_TEST_SUITE_P(All, CodePages,
+                         testing::Values(874, 932, 936, 949, 950, 1250, 1251, 1252, 1253, 1254, 1255, 1256, 1257,
+                                         1258));
+
+TEST_P(CodePages, EachDefinedByteComesBackFromUtf8) {
+  const CodePage page(GetParam());
+  EXPECT_EQ(page.Number(), GetParam());
+  for (int byte = 1; byte < 256; ++byte) {
+    const std::string bytes(1, static_cast<char>(byte));
+    const std::string utf8 = page.ToUtf8(bytes);
+    if (page.IsLead(static_cast<unsigned char>(byte)) || Holds(utf8, "\xEF\xBF\xBD")) continue;
+    std::string back;
+    EXPECT_TRUE(page.FromUtf8(utf8, back)) << byte;
+    if (GetParam() != 1258) EXPECT_EQ(back, bytes) << byte;
+  }
+}
+
+TEST_P(CodePages, CaseKeepsTheLengthAndIsStable) {
+  const CodePage page(GetParam());
+  for (int byte = 0; byte < 256; ++byte) {
+    const std::string bytes(1, static_cast<char>(byte));
+    const std::string upper = page.ToUpper(bytes);
+    EXPECT_EQ(upper.size(), 1u);
+    EXPECT_EQ(page.ToUpper(upper), upper) << byte;
+    EXPECT_EQ(page.ToUpper(page.ToLower(upper)), upper) << byte;
+  }
+}
+
+TEST(CodePage, UpperCaseFollowsThePage) {
+  EXPECT_EQ(CodePage(1252).ToUpper("a\xE4\xF7\xFF"), "A\xC4\xF7\x9F");
+  EXPECT_EQ(CodePage(1251).ToUpper("\xE0\xFF\xB8"), "\xC0\xDF\xA8");
+  EXPECT_EQ(CodePage(1250).ToUpper("\x9C\xB9"), "\x8C\xA5");
+  EXPECT_EQ(CodePage(1253).ToUpper("\xE1\xDC"), "\xC1\xA2");
+}
+
+TEST(CodePage, ASecondByteHasNoCase) {
+  EXPECT_EQ(CodePage(932).ToUpper("a\x83\x61z"), "A\x83\x61Z");
+  EXPECT_TRUE(CodePage(932).IsDoubleByte());
+  EXPECT_TRUE(CodePage(932).IsLead(0x83));
+  EXPECT_FALSE(CodePage(932).IsLead(0xB1));
+}
+
+TEST(CodePage, WhatThePageLacksIsReplacedAndTold) {
+  std::string bytes;
+  EXPECT_FALSE(
+      CodePage(1252).FromUtf8("a\xD0\xB4"
+                              "b",
+                              bytes));
+  EXPECT_EQ(bytes, "a?b");
+  EXPECT_EQ(CodePage(1252).ToUtf8("a\x81"
+                                  "b"),
+            "a\xEF\xBF\xBD"
+            "b");
+}
+
+TEST(CodePage, AnUnknownNumberIsTakenAs1252) {
+  EXPECT_EQ(CodePage(65001).Number(), 1252);
+}
+
+TEST(CodePage, WordBytesAreLettersDigitsAndTheUnderscore) {
+  const CodePage page(1252);
+  for (unsigned char byte : {'a', 'Z', '0', '_', '\xE4', '\xDF'}) EXPECT_TRUE(page.IsWordByte(byte)) << int(byte);
+  for (unsigned char byte : {' ', '.', '-', '\xD7', '\xA7', '\x80'}) EXPECT_FALSE(page.IsWordByte(byte)) << int(byte);
+}
+
+TEST(CodePage, TheCharsetOfAFontNamesItsPage) {
+  EXPECT_EQ(CodePageOfCharset(204), 1251);
+  EXPECT_EQ(CodePageOfCharset(128), 932);
+  EXPECT_EQ(CodePageOfCharset(0), 0);
+}
+
+TEST(ListOrder, IsBlankPointSymbolsDigitsLettersWithoutCase) {
+  const std::vector<std::string> sorted = {" a",      ".a",      ":a",      "_a",     "1a",    "a", "Form1", "form1 x",
+                                           "Form1.x", "FORM1:x", "Form1_x", "Form10", "Formx", "z", "\xC4"};
+  for (size_t i = 0; i + 1 < sorted.size(); ++i) {
+    EXPECT_LT(CompareAsListed(sorted[i], sorted[i + 1]), 0) << sorted[i] << " / " << sorted[i + 1];
+    EXPECT_GT(CompareAsListed(sorted[i + 1], sorted[i]), 0);
+  }
+}
+
+TEST(ListOrder, TextsThatDifferInCaseAloneAreEqual) {
+  EXPECT_EQ(CompareAsListed("FORM\xE4", "form\xC4"), 0);
+  EXPECT_EQ(CompareAsListed("", ""), 0);
+}
+
+TEST(ListOrder, IsAnOrderOnAllBytes) {
+  std::vector<std::string> texts;
+  for (int byte = 0; byte < 256; ++byte) texts.emplace_back(1, static_cast<char>(byte));
+  std::stable_sort(texts.begin(), texts.end(), [](auto& a, auto& b) { return CompareAsListed(a, b) < 0; });
+  for (size_t i = 0; i + 1 < texts.size(); ++i) EXPECT_LE(CompareAsListed(texts[i], texts[i + 1]), 0);
+  const auto at = [&](const char* text) { return std::find(texts.begin(), texts.end(), text) - texts.begin(); };
+  EXPECT_LT(at("\xF7"), at("0")) << "symbols of the page stand before digits too";
+}
+
+}  // namespace
+}  // namespace corvane::runtime
