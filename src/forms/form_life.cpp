@@ -86,7 +86,7 @@ void Form::Appear() {
     peer_->Changed(Property::Visible);
   }
   if (!std::exchange(resized_, true)) Resize();
-  if (!visible_) return;
+  if (!visible_ || toolkit_.IsBlocked(*this)) return;
   peer_->Activate();
   toolkit_.Activate(*this);
 }

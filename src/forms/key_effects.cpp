@@ -12,6 +12,11 @@ namespace {
 
 constexpr long kPageRows = 10;
 
+// A toolkit that has widgets shows what was typed without them.
+void Show(Control& control, Property property) {
+  if (control.Peer()) control.Peer()->Changed(property);
+}
+
 // The row that a key leads to from [row]; -1 for a key that does not move.
 long RowReached(const ListControl& list, int key_code) {
   const long last = list.ListCount() - 1, row = list.ListIndex();
@@ -70,6 +75,7 @@ void ReplaceSelection(TextBox& box, const std::string& text, long start, long le
   const std::string fits = text.substr(0, static_cast<size_t>(std::max(0L, room)));
   whole.replace(static_cast<size_t>(start), static_cast<size_t>(length), fits);
   box.UserEdit(std::move(whole), start + static_cast<long>(fits.size()), 0);
+  Show(box, Property::Text);
 }
 
 bool MoveInText(TextBox& box, int key_code) {
@@ -122,6 +128,7 @@ void EditCombo(ComboBox& combo, int key_ascii) {
     text += static_cast<char>(key_ascii);
   }
   combo.UserEdit(std::move(text));
+  Show(combo, Property::Text);
 }
 
 }  // namespace

@@ -48,7 +48,13 @@ template <class Act>
 bool User::Do(Control& control, Act&& act) {
   if (!control.AcceptsInput()) return false;
   form_.Toolkit().Guard(act);
+  ShowFocus();
   return true;
+}
+
+void User::ShowFocus() {
+  Control* control = form_.IsActiveForm() ? form_.ActiveControl() : nullptr;
+  if (control && control->Peer()) control->Peer()->TakeFocus();
 }
 
 bool User::Press(int key_code, int shift) {

@@ -254,6 +254,13 @@ TEST_F(Combos, AnAssignedTextRaisesChangeOnce) {
   EXPECT_EQ(window.Taken(), (Log{"cmb_Change"}));
 }
 
+TEST_F(Combos, ATextSetInItsClickStays) {
+  cmb.Click = [&] { cmb.SetText("set"); };
+  cmb.SetListIndex(1);
+  EXPECT_EQ(cmb.Text(), "set");
+  EXPECT_EQ(cmb.ListIndex(), -1);
+}
+
 TEST_F(Combos, TheTextStaysWhenItsRowGoes) {
   cmb.SetListIndex(0);
   cmb.RemoveItem(0);
