@@ -22,7 +22,7 @@ class Observer {
   virtual void DesignerFocused(Module&) {}
   virtual void DesignerChanged(Module&) {}  // a control or property
   virtual void ComponentsChanged() {}       // added, removed, renamed, saved under another name
-  virtual void ImmediateChanged() {}        // shown, closed, focused
+  virtual void ImmediateChanged(bool /*shown*/) {}  // shown and focused, or closed
   virtual void MainWindowFocused() {}
   virtual void CommandBarsChanged() {}
   virtual void DirtyChanged() {}

@@ -70,8 +70,8 @@ void OpenEnvironment::MakeWindows(host::Clipboard* clipboard) {
     if (observer_) observer_->CommandBarsChanged();
   });
   events_ = std::make_shared<EventSource>(bars_);
-  immediate_ = AddImmediateWindow(*windows_, [this](bool) {
-    if (observer_) observer_->ImmediateChanged();
+  immediate_ = AddImmediateWindow(*windows_, [this](bool shown) {
+    if (observer_) observer_->ImmediateChanged(shown);
   });
   WindowActs main;
   main.caption = [this] {
