@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QPointer>
 #include <QWidget>
+#include <memory>
 
 #include "forms/canvas.h"
 
@@ -57,6 +58,7 @@ class QtCanvas : public forms::Canvas {
   QImage image_;
   QPainter painter_;
   double scale_ = 1;
+  std::shared_ptr<int> life_ = std::make_shared<int>();  // what is posted looks whether it is still there
   QRect touched_;
   forms::PictureRef background_;
 };

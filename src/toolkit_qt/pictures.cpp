@@ -96,8 +96,8 @@ class PictureIcon : public QIconEngine {
     QImage gray = image.convertToFormat(QImage::Format_Grayscale8).convertToFormat(QImage::Format_ARGB32_Premultiplied);
     QPainter painter(&gray);
     painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
-    painter.setOpacity(0.45);
     painter.drawImage(0, 0, image);
+    painter.fillRect(gray.rect(), QColor(0, 0, 0, 115));
     painter.end();
     image = gray;
   }
