@@ -24,10 +24,8 @@ bool IsPlainAscii(std::string_view bytes) {
   return true;
 }
 
-QString Undefined(std::string_view bytes) {
-  QString text;
-  for (unsigned char byte : bytes) text += QChar(static_cast<char16_t>(kUndefinedByte + byte));
-  return text;
+QString Undefined(unsigned char byte) {
+  return QChar(static_cast<char16_t>(kUndefinedByte + byte));
 }
 
 // The byte behind a character that stands for one; -1 for any other.
@@ -61,8 +59,8 @@ QString ToShown(std::string_view bytes) {
     const std::string_view character = bytes.substr(at, length);
     const QString decoded = Decode(character);
     const bool defined = !decoded.contains(QChar::ReplacementCharacter) && ToBytes(decoded) == character;
-    shown += defined ? decoded : Undefined(character);
-    at += length;
+    shown += defined ? decoded : Undefined(byte);
+    at += defined ? length : 1;
   }
   return shown;
 }

@@ -1,0 +1,135 @@
+#include "desk/code_editor.h"
+
+#include <QMimeData>
+#include <QPainter>
+#include <QTextBlock>
+#include <QTimer>
+
+#include "desk/ansi_text.h"
+
+namespace corvane::desk {
+
+namespace {
+
+constexpr int kTabColumns = 4;
+constexpr double kCodeFontPoints = 10;
+constexpr int kGutterMargin = 6;  // logical pixels on each side of the number
+
+class Gutter : public QWidget {
+ public:
+  explicit Gutter(CodeEditor* editor) : QWidget(editor), editor_(editor) {}
+  QSize sizeHint() const override { return {editor_->GutterWidth(), 0}; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override { editor_->PaintGutter(event); }
+
+ private:
+  CodeEditor* editor_;
+};
+
+}  // namespace
+
+QFont CodeFont() {
+  QFont font;
+  font.setFamilies({"Liberation Mono", "Courier New", "DejaVu Sans Mono", "monospace"});
+  font.setFixedPitch(true);
+  font.setStyleHint(QFont::Monospace);
+  font.setPointSizeF(kCodeFontPoints);
+  return font;
+}
+
+CodeEditor::CodeEditor(QWidget* parent) : QPlainTextEdit(parent), gutter_(new Gutter(this)) {
+  setFont(CodeFont());
+  setLineWrapMode(NoWrap);
+  setTabStopDistance(kTabColumns * fontMetrics().horizontalAdvance(' '));
+  setFrameShape(NoFrame);
+  setCenterOnScroll(false);
+  connect(this, &QPlainTextEdit::blockCountChanged, this, &CodeEditor::PlaceGutter);
+  connect(this, &QPlainTextEdit::updateRequest, this, [this](const QRect& area, int dy) {
+    dy ? gutter_->scroll(0, dy) : gutter_->update(0, area.y(), gutter_->width(), area.height());
+  });
+  connect(this, &QPlainTextEdit::cursorPositionChanged, this, &CodeEditor::MarkCurrentLine);
+  PlaceGutter();
+  MarkCurrentLine();
+}
+
+int CodeEditor::GutterWidth() const {
+  const int digits = std::max<int>(3, QString::number(blockCount()).size());
+  return 2 * kGutterMargin + digits * fontMetrics().horizontalAdvance('9');
+}
+
+void CodeEditor::PaintGutter(QPaintEvent* event) {
+  QPainter painter(gutter_);
+  painter.fillRect(event->rect(), palette().color(QPalette::AlternateBase));
+  painter.setFont(font());
+  const int current = textCursor().blockNumber();
+  QTextBlock block = firstVisibleBlock();
+  qreal top = blockBoundingGeometry(block).translated(contentOffset()).top();
+  for (; block.isValid() && top <= event->rect().bottom(); block = block.next()) {
+    const qreal height = blockBoundingRect(block).height();
+    const bool is_current = block.blockNumber() == current;
+    painter.setPen(palette().color(is_current ? QPalette::Text : QPalette::PlaceholderText));
+    painter.drawText(QRectF(0, top, gutter_->width() - kGutterMargin, height), Qt::AlignRight | Qt::AlignVCenter,
+                     QString::number(block.blockNumber() + 1));
+    top += height;
+  }
+}
+
+// Before its first layout a pane does not know what it shows.
+void CodeEditor::ShowCursor() {
+  if (!isVisible()) {
+    QTimer::singleShot(0, this, [this] { centerCursor(); });
+    return;
+  }
+  const QRect cursor = cursorRect();
+  if (cursor.top() < 0 || cursor.bottom() > viewport()->height()) centerCursor();
+  ensureCursorVisible();
+}
+
+bool CodeEditor::Takes(const QString& typed) {
+  if (IsInCodePage(typed)) return true;
+  emit Refused(typed);
+  return false;
+}
+
+void CodeEditor::keyPressEvent(QKeyEvent* event) {
+  const QString typed = event->text();
+  const bool prints = !typed.isEmpty() && typed.at(0).isPrint() && !(event->modifiers() & Qt::ControlModifier);
+  if (!prints || Takes(typed)) QPlainTextEdit::keyPressEvent(event);
+}
+
+void CodeEditor::inputMethodEvent(QInputMethodEvent* event) {
+  if (Takes(event->commitString())) QPlainTextEdit::inputMethodEvent(event);
+}
+
+void CodeEditor::insertFromMimeData(const QMimeData* source) {
+  if (source->hasText() && Takes(source->text())) QPlainTextEdit::insertFromMimeData(source);
+}
+
+void CodeEditor::focusInEvent(QFocusEvent* event) {
+  QPlainTextEdit::focusInEvent(event);
+  emit Focused();
+}
+
+void CodeEditor::resizeEvent(QResizeEvent* event) {
+  QPlainTextEdit::resizeEvent(event);
+  PlaceGutter();
+}
+
+void CodeEditor::PlaceGutter() {
+  setViewportMargins(GutterWidth(), 0, 0, 0);
+  const QRect inside = contentsRect();
+  gutter_->setGeometry(inside.left(), inside.top(), GutterWidth(), inside.height());
+}
+
+void CodeEditor::MarkCurrentLine() {
+  QTextEdit::ExtraSelection line;
+  line.format.setBackground(QColor(0xF2, 0xF6, 0xFC));
+  line.format.setProperty(QTextFormat::FullWidthSelection, true);
+  line.cursor = textCursor();
+  line.cursor.clearSelection();
+  setExtraSelections({line});
+  gutter_->update();
+}
+
+}  // namespace corvane::desk
