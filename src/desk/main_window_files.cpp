@@ -1,0 +1,155 @@
+// Saving, and the questions about files.
+#include <QFileDialog>
+#include <QScopedValueRollback>
+#include <QStatusBar>
+
+#include "desk/ansi_text.h"
+#include "desk/main_window.h"
+#include "desk/project_tree.h"
+#include "environment/disk_files.h"
+#include "runtime/strings.h"
+
+namespace corvane::desk {
+
+using environment::Module;
+using environment::OnDiskChange;
+using environment::Project;
+using runtime::kCrLf;
+
+namespace {
+
+constexpr size_t kMostNamed = 15;  // files that a question names one by one
+
+std::string Bulleted(const std::vector<std::string>& files) {
+  std::string text;
+  for (size_t at = 0; at < files.size() && at < kMostNamed; ++at) text += kCrLf + ("    " + files[at]);
+  if (files.size() > kMostNamed) text += kCrLf + ("    and " + std::to_string(files.size() - kMostNamed) + " more");
+  return text;
+}
+
+// A related document is only named by its project.
+bool IsReadHere(Module& module) {
+  return module.Type() != host::ComponentType::RelatedDocument && !module.Path().empty();
+}
+
+const char* ExtensionOf(host::ComponentType type) {
+  switch (type) {
+    case host::ComponentType::StdModule:
+      return ".bas";
+    case host::ComponentType::ClassModule:
+      return ".cls";
+    case host::ComponentType::PropPage:
+      return ".pag";
+    case host::ComponentType::UserControl:
+      return ".ctl";
+    case host::ComponentType::DocObject:
+      return ".dob";
+    case host::ComponentType::ActiveXDesigner:
+      return ".dsr";
+    default:
+      return ".frm";
+  }
+}
+
+}  // namespace
+
+std::vector<std::string> MainWindow::UnsavedFiles() const {
+  std::vector<std::string> files;
+  for (const auto& project : environment_->Projects()) {
+    const size_t before = files.size();
+    for (const auto& module : project->Modules())
+      if (module->IsDirty()) files.push_back(module->Path().empty() ? module->Name() : module->Path());
+    // A project that is edited beyond its modules has its own file to be written.
+    if (project->IsDirty() && files.size() == before) files.push_back(project->FileName());
+  }
+  return files;
+}
+
+bool MainWindow::AskForFile(Module& module) {
+  const auto project = module.ProjectOf();
+  const std::string folder = project->FileName().substr(0, project->FileName().rfind('\\') + 1);
+  const QString proposal =
+      QString::fromStdString(environment::NativePath(folder)) + ToLabel(module.Name()) + ExtensionOf(module.Type());
+  const QString chosen = QFileDialog::getSaveFileName(this, tr("Save %1 As").arg(ToLabel(module.Name())), proposal);
+  if (chosen.isEmpty()) return false;
+  module.SaveAs(environment::WindowsPath(chosen.toStdString()));
+  return true;
+}
+
+bool MainWindow::SaveModule(const std::shared_ptr<Module>& module) {
+  if (!module || asking_) return false;
+  const QScopedValueRollback<bool> asking(asking_, true);
+  try {
+    if (module->Path().empty()) return AskForFile(*module);
+    OnDiskChange rule = OnDiskChange::Refuse;
+    if (module->ChangedOnDisk()) {
+      const std::string question = module->Path() + kCrLf +
+                                   "was changed on disk by another program since it was read here." + kCrLf + kCrLf +
+                                   "Replace that file by what is on this desk?";
+      if (prompts_.MsgBox(question, host::vbYesNo | host::vbExclamation | host::vbDefaultButton2) != host::vbYes)
+        return false;
+      rule = OnDiskChange::Overwrite;
+    }
+    module->ProjectOf()->Save(*module, rule);
+    statusBar()->showMessage(tr("%1 is saved.").arg(ToLabel(module->Path())));
+    return true;
+  } catch (const host::Error& error) {
+    prompts_.MsgBox(module->Path() + kCrLf + "was not saved: " + error.Description(), host::vbExclamation);
+    return false;
+  }
+}
+
+void MainWindow::SaveActive() {
+  SaveModule(ActiveModule() ? ActiveModule() : tree_->Current());
+}
+
+// What needs a question is saved one by one; the environment saves the rest, project files last.
+bool MainWindow::SaveAll() {
+  for (const auto& project : environment_->Projects())
+    for (const auto& module : project->Modules())
+      if (module->IsDirty() && (module->Path().empty() || module->ChangedOnDisk()))
+        if (!SaveModule(module)) return false;
+  const std::vector<environment::Problem> problems = environment_->SaveAll();
+  if (problems.empty()) {
+    statusBar()->showMessage(tr("Everything is saved."));
+    return true;
+  }
+  std::vector<std::string> lines;
+  for (const environment::Problem& problem : problems) lines.push_back(problem.file + ": " + problem.reason);
+  prompts_.MsgBox("Not saved:" + Bulleted(lines), host::vbExclamation);
+  return false;
+}
+
+bool MainWindow::MayLeave() {
+  if (!environment_->IsDirty()) return true;
+  if (asking_) return false;
+  long answer = host::vbCancel;
+  {
+    const QScopedValueRollback<bool> asking(asking_, true);
+    answer = prompts_.MsgBox("Save the changes to these files?" + (kCrLf + Bulleted(UnsavedFiles())),
+                             host::vbYesNoCancel | host::vbExclamation);
+  }
+  return answer == host::vbNo || (answer == host::vbYes && SaveAll());
+}
+
+void MainWindow::CheckDisk() {
+  if (asking_) return;
+  std::vector<std::string> changed;
+  for (const auto& project : environment_->Projects())
+    for (const auto& module : project->Modules())
+      if (!told_changed_.contains(module.get()) && IsReadHere(*module) && module->ChangedOnDisk()) {
+        told_changed_.insert(module.get());
+        changed.push_back(module->Path());
+      }
+  if (changed.empty()) return;
+  long answer = host::vbNo;
+  {
+    const QScopedValueRollback<bool> asking(asking_, true);
+    answer = prompts_.MsgBox(
+        "Another program changed on disk:" + Bulleted(changed) + kCrLf + kCrLf + "Read the project again?",
+        host::vbYesNo | host::vbQuestion);
+  }
+  if (answer == host::vbYes && MayLeave()) emit ReadAgainWanted();
+}
+
+}  // namespace corvane::desk
