@@ -1,0 +1,196 @@
+#include "desk/command_line.h"
+
+#include <CLI/CLI.hpp>
+#include <ostream>
+
+#include "desk/check_command.h"
+#include "desk/inspect_command.h"
+#include "desk/list_command.h"
+#include "desk/plain_services.h"
+#include "desk/run_desk.h"
+#include "desk/view_command.h"
+#include "environment/disk_files.h"
+#include "environment/environment.h"
+#include "runtime/code_page.h"
+
+namespace corvane::desk {
+
+namespace {
+
+enum Status : int { kDone = 0, kInputProblem = 1, kWrongUsage = 2 };
+
+// "Z:\a\b" is how the logic calls a file of this machine; who reads a message calls it /a/b.
+std::string ShownPath(const std::string& path) {
+  return runtime::AnsiCodePage().ToUtf8(path.starts_with("Z:\\") ? environment::NativePath(path) : path);
+}
+
+void Tell(std::ostream& errors, const environment::Problem& problem) {
+  errors << ShownPath(problem.file) << ':';
+  if (problem.line > 0) errors << problem.line << ':';
+  errors << ' ' << runtime::AnsiCodePage().ToUtf8(problem.reason) << '\n';
+}
+
+// What a command is given: streams, files, and the code page chosen for all of them.
+struct Command {
+  std::ostream& out;
+  std::ostream& errors;
+  int code_page = 0;
+
+  int Fail(const std::string& path, const host::Error& error) const {
+    errors << path << ": " << runtime::AnsiCodePage().ToUtf8(error.Description()) << '\n';
+    return kInputProblem;
+  }
+};
+
+// Opens the project and runs [work] on it. What was not understood is told, and is a problem of the input.
+template <class Work>
+int WithProject(const Command& command, const std::string& path, Work work) {
+  PlainServices services;
+  const auto environment = environment::Environment::Create(services.Files(), nullptr, {command.code_page});
+  try {
+    environment->Open(environment::WindowsPath(path));
+    runtime::SetAnsiCodePage(environment->CodePage());
+    work(*environment);
+  } catch (const host::Error& error) {
+    return command.Fail(path, error);
+  }
+  for (const environment::Problem& problem : environment->Problems()) Tell(command.errors, problem);
+  return environment->Problems().empty() ? kDone : kInputProblem;
+}
+
+// Reads a file of this machine for [work], which gives the exit status.
+template <class Work>
+int WithFile(const Command& command, const std::string& path, Work work) {
+  std::string bytes;
+  try {
+    bytes = PlainServices().Files().Read(environment::WindowsPath(path));
+  } catch (const host::Error& error) {
+    return command.Fail(path, error);
+  }
+  return work(bytes);
+}
+
+template <class Word>
+std::map<std::string, Word> WordMap(const std::vector<std::pair<std::string, Word>>& words) {
+  return {words.begin(), words.end()};
+}
+
+class CommandLine {
+ public:
+  CommandLine(std::ostream& out, std::ostream& errors) : command_{out, errors} {}
+
+  int Run(int argc, char** argv) {
+    app_.require_subcommand(0, 1);
+    DefineDesk();
+    DefineList();
+    DefineView();
+    DefineCheck();
+    DefineInspect();
+    try {
+      app_.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+      return app_.exit(error, command_.out, command_.errors) == 0 ? kDone : kWrongUsage;
+    }
+    return run_ ? run_() : RunDesk(desk_, argc, argv, command_.out, command_.errors);
+  }
+
+ private:
+  void DefineDesk() {
+    app_.add_option("PROJECT", desk_.project, "a Visual Basic 6 project or group to open (.vbp, .vbg)");
+    app_.add_option("--codepage", desk_.code_page, "Windows code page of the project; guessed when it is left out");
+    app_.add_flag("--explorer", desk_.explorer, "open the explorer at once");
+    app_.add_option("--connect-mode", desk_.connect_mode,
+                    "how the add-in is connected: 0 by hand, 1 at startup, 2 external, 3 command line")
+        ->check(CLI::Range(0, 3));
+    app_.add_option("--offscreen-tour", desk_.tour, "draw the desk and the explorer at work into this folder, and end");
+    app_.add_option("--screenshots", desk_.screenshots, "draw every window into this folder, and end");
+    app_.add_option("--suffix", desk_.suffix, "added to the names of the screenshots");
+    app_.set_version_flag("--version", std::string("Corvane ") + CORVANE_VERSION);
+  }
+
+  CLI::App* Define(const char* name, const char* description, std::function<int()> run) {
+    CLI::App* command = app_.add_subcommand(name, description);
+    command->callback([this, run = std::move(run)] { run_ = run; });
+    return command;
+  }
+
+  CLI::App* DefineOnProject(const char* name, const char* description, std::function<int()> run) {
+    CLI::App* command = Define(name, description, std::move(run));
+    command->add_option("PROJECT", path_, "the project (.vbp) or group (.vbg)")->required();
+    AddCodePage(command);
+    return command;
+  }
+
+  void AddCodePage(CLI::App* command) {
+    command->add_option("--codepage", command_.code_page, "Windows code page; guessed when it is left out");
+  }
+
+  void DefineList() {
+    CLI::App* list = DefineOnProject("list", "components of a project, or the procedures of each", [this] {
+      return WithProject(command_, path_, [this](auto& environment) {
+        list_.filter.name = runtime::AnsiCodePage().FromUtf8(filter_);
+        RunListCommand(environment, list_, command_.out);
+      });
+    });
+    list->add_flag("--procedures", list_.procedures, "rows of procedures: component, line, text");
+    list->add_flag("--json", list_.json, "JSON Lines");
+    list->add_option("--kind", list_.filter.kind, "all, subs, functions, properties or events")
+        ->transform(CLI::CheckedTransformer(WordMap(KindWords())));
+    list->add_option("--visibility", list_.filter.visibility, "all, public, private or static")
+        ->transform(CLI::CheckedTransformer(WordMap(VisibilityWords())));
+    list->add_option("--filter", filter_, "only procedures whose row holds this text");
+  }
+
+  void DefineView() {
+    CLI::App* view = Define("view", "a file coloured by block level, for the terminal", [this] {
+      return WithFile(command_, path_, [this](const std::string& bytes) {
+        return ViewFile(bytes, path_, html_, command_.code_page, command_.out);
+      });
+    });
+    view->add_option("FILE", path_, "a module, or any text")->required();
+    view->add_flag("--html", html_, "as an HTML page");
+    AddCodePage(view);
+  }
+
+  void DefineCheck() {
+    DefineOnProject("check", "read a project whole, write it to memory, compare byte for byte", [this] {
+      PlainServices services;
+      return static_cast<int>(
+          RunCheckCommand(path_, command_.code_page, services.Files(), command_.out, command_.errors));
+    });
+  }
+
+  void DefineInspect() {
+    CLI::App* inspect = app_.add_subcommand("inspect", "what the system makes of a text");
+    inspect->require_subcommand(1);
+    CLI::App* lines = inspect->add_subcommand("lines", "the lines of a file as a list stores them, as JSON Lines");
+    lines->add_option("FILE", path_, "any text")->required();
+    lines->add_option("--mode", mode_, "vb, sql or text")->required()->check(CLI::IsMember({"vb", "sql", "text"}));
+    lines->add_option("--role", role_, "ListRole of the list; 0 when it is left out");
+    AddCodePage(lines);
+    lines->callback([this] {
+      run_ = [this] {
+        return WithFile(command_, path_, [this](const std::string& bytes) {
+          return InspectLines(bytes, mode_, role_, command_.code_page, command_.out);
+        });
+      };
+    });
+  }
+
+  Command command_;
+  CLI::App app_{"Corvane, a project explorer for Visual Basic 6"};
+  RunOptions desk_;
+  ListOptions list_;
+  std::string path_, filter_, mode_;
+  bool html_ = false;
+  int role_ = 0;
+  std::function<int()> run_;
+};
+
+}  // namespace
+
+int RunCommandLine(int argc, char** argv, std::ostream& out, std::ostream& errors) {
+  return CommandLine(out, errors).Run(argc, argv);
+}
+
+}  // namespace corvane::desk

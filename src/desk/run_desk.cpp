@@ -1,0 +1,76 @@
+#include "desk/run_desk.h"
+
+#include <QApplication>
+#include <QTimer>
+#include <ostream>
+
+#include "desk/desk.h"
+#include "desk/plain_services.h"
+#include "desk/qt_services.h"
+#include "desk/tour.h"
+
+namespace corvane::desk {
+
+namespace {
+
+bool HasDisplay() {
+  return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+         qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+}
+
+// Message boxes of a desk that nobody sees end up here, answered by their default button.
+class ToldPrompts : public host::Prompts {
+ public:
+  explicit ToldPrompts(host::Prompts& plain) : plain_(plain) {}
+  long MsgBox(const std::string& prompt, long style, const std::string& title) override {
+    ++told;
+    return plain_.MsgBox(prompt, style, title);
+  }
+  std::string InputBox(const std::string&, const std::string&, const std::string&) override { return {}; }
+  long told = 0;
+
+ private:
+  host::Prompts& plain_;
+};
+
+int DrawPictures(const RunOptions& options, std::ostream& out) {
+  QtServices services;
+  PlainServices plain;
+  ToldPrompts prompts(static_cast<host::Services>(plain).Prompts);
+  const host::Services shared = services;
+  Desk desk({shared.Clipboard, prompts, shared.Settings, shared.App, shared.Screen, shared.Loop, shared.Files,
+             shared.Pictures},
+            {options.code_page, static_cast<int>(addin::ConnectMode::Startup), true});
+  if (!options.project.empty() && !desk.Open(QString::fromStdString(options.project))) return 1;
+  const QString folder = QString::fromStdString(options.tour.empty() ? options.screenshots : options.tour);
+  const bool drawn = options.tour.empty() ? TakeScreenshots(desk, folder, QString::fromStdString(options.suffix), out)
+                                          : RunTour(desk, folder, out);
+  return drawn && prompts.told == 0 ? 0 : 1;
+}
+
+int ShowWindows(const RunOptions& options) {
+  QtServices services;
+  Desk desk(services, {options.code_page, options.connect_mode, true});
+  if (!options.project.empty()) desk.Open(QString::fromStdString(options.project));
+  if (options.explorer) desk.ClickButton();
+  return QApplication::exec();
+}
+
+}  // namespace
+
+int RunDesk(const RunOptions& options, int argc, char** argv, std::ostream& out, std::ostream& errors) {
+  const bool pictures = !options.tour.empty() || !options.screenshots.empty();
+  if (pictures && !HasDisplay()) qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (!HasDisplay()) {
+    errors << "corvane: there is no display (neither DISPLAY nor WAYLAND_DISPLAY is set); "
+              "--offscreen-tour FOLDER draws the windows into pictures, `corvane --help` names the commands\n";
+    return 1;
+  }
+  QApplication::setStyle("Fusion");
+  QApplication application(argc, argv);
+  QApplication::setApplicationName("Corvane");
+  QApplication::setDesktopFileName("corvane");
+  return pictures ? DrawPictures(options, out) : ShowWindows(options);
+}
+
+}  // namespace corvane::desk

@@ -1,0 +1,125 @@
+// The program itself, run as a user runs it without a display.
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace corvane::desk {
+namespace {
+
+struct Result {
+  int status = -1;
+  QString out, errors;
+  QStringList OutLines() const { return out.split('\n', Qt::SkipEmptyParts); }
+  QStringList ErrorLines() const { return errors.split('\n', Qt::SkipEmptyParts); }
+};
+
+Result RunProgram(const QStringList& arguments) {
+  QProcess process;
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) environment.remove(name);
+  process.setProcessEnvironment(environment);
+  process.start(QDir(QCoreApplication::applicationDirPath()).filePath("corvane"), arguments);
+  process.waitForFinished(60000);
+  return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+          QString::fromUtf8(process.readAllStandardOutput()), QString::fromUtf8(process.readAllStandardError())};
+}
+
+QString Sample(const QString& name) {
+  return QString(CORVANE_SOURCE_DIR) + "/samples/" + name;
+}
+
+TEST(CommandLine, HelpNamesTheCommandsAndIsDone) {
+  const Result result = RunProgram({"--help"});
+  EXPECT_EQ(result.status, 0);
+  for (const char* command : {"list", "view", "check", "inspect"}) EXPECT_TRUE(result.out.contains(command)) << command;
+}
+
+TEST(CommandLine, WrongUsageIsTwo) {
+  for (const QStringList& arguments : {QStringList{"list"},
+                                       {"list", "--kind", "odd", "x.vbp"},
+                                       {"--no-such-option"},
+                                       {"--connect-mode", "7"},
+                                       {"inspect"},
+                                       {"inspect", "lines"},
+                                       {"inspect", "lines", "x.bas", "--mode", "odd"},
+                                       {"check"}})
+    EXPECT_EQ(RunProgram(arguments).status, 2) << arguments.join(' ').toStdString();
+}
+
+TEST(CommandLine, WithoutADisplayTheDeskSaysSoAndNamesTheOtherWay) {
+  const Result result = RunProgram({Sample("stockroom/Stockroom.vbp")});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.ErrorLines().size(), 1);
+  EXPECT_TRUE(result.errors.contains("--offscreen-tour"));
+}
+
+TEST(CommandLine, TheOffscreenTourNeedsNoDisplay) {
+  QTemporaryDir folder;
+  const Result result = RunProgram({"--offscreen-tour", folder.path(), Sample("stockroom/Stockroom.vbp")});
+  EXPECT_EQ(result.status, 0) << result.errors.toStdString();
+  EXPECT_TRUE(QFile::exists(folder.filePath("desk.png")));
+  EXPECT_TRUE(QFile::exists(folder.filePath("explorer.png")));
+}
+
+TEST(CommandLine, ListNamesTheComponents) {
+  const Result result = RunProgram({"list", Sample("stockroom/Stockroom.vbp")});
+  EXPECT_EQ(result.status, 0) << result.errors.toStdString();
+  EXPECT_EQ(result.OutLines().size(), 22);
+  EXPECT_TRUE(result.out.startsWith("mdiMain\tMDI form\t"));
+}
+
+TEST(CommandLine, ListFiltersProceduresByKindVisibilityAndText) {
+  const QString project = Sample("stockroom/Stockroom.vbp");
+  const Result all = RunProgram({"list", project, "--procedures"});
+  const Result functions = RunProgram({"list", project, "--procedures", "--kind", "functions"});
+  const Result filtered = RunProgram({"list", project, "--procedures", "--filter", "load"});
+  EXPECT_EQ(all.status, 0);
+  EXPECT_GT(all.OutLines().size(), functions.OutLines().size());
+  ASSERT_GT(filtered.OutLines().size(), 0);
+  for (const QString& line : filtered.OutLines()) EXPECT_TRUE(line.contains("load", Qt::CaseInsensitive));
+  for (const QString& line : functions.OutLines()) EXPECT_TRUE(line.contains("Function")) << line.toStdString();
+}
+
+struct BadInput {
+  const char* name;
+  QByteArray bytes;
+};
+
+TEST(CommandLine, AProjectThatCannotBeReadIsOneLineAndStatusOne) {
+  QTemporaryDir folder;
+  const BadInput inputs[] = {{"zeros.vbp", QByteArray(4096, '\0')}, {"empty.vbp", ""}, {"text.txt", "Type=Exe\r\n"}};
+  for (const BadInput& input : inputs) {
+    QFile file(folder.filePath(input.name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(input.bytes);
+  }
+  for (const QString& path : {folder.filePath("missing.vbp"), folder.path(), folder.filePath("zeros.vbp")}) {
+    const Result result = RunProgram({"list", path});
+    EXPECT_EQ(result.status, 1) << path.toStdString();
+    EXPECT_EQ(result.ErrorLines().size(), 1) << result.errors.toStdString();
+    EXPECT_TRUE(result.errors.contains(path)) << result.errors.toStdString();
+    EXPECT_TRUE(result.out.isEmpty());
+  }
+}
+
+TEST(CommandLine, AMissingModuleIsToldAndTheRestIsListed) {
+  QTemporaryDir folder;
+  QFile project(folder.filePath("p.vbp")), module(folder.filePath("here.bas"));
+  ASSERT_TRUE(project.open(QIODevice::WriteOnly) && module.open(QIODevice::WriteOnly));
+  project.write("Type=Exe\r\nModule=here; here.bas\r\nModule=gone; gone.bas\r\nName=\"P\"\r\n");
+  module.write("Attribute VB_Name = \"here\"\r\nSub A()\r\nEnd Sub\r\n");
+  project.close();
+  module.close();
+  const Result result = RunProgram({"list", folder.filePath("p.vbp")});
+  EXPECT_EQ(result.status, 1);
+  ASSERT_EQ(result.OutLines().size(), 1);
+  EXPECT_TRUE(result.out.startsWith("here\t"));
+  ASSERT_EQ(result.ErrorLines().size(), 1);
+  EXPECT_TRUE(result.errors.contains("gone.bas")) << result.errors.toStdString();
+}
+
+}  // namespace
+}  // namespace corvane::desk

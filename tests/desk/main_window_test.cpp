@@ -1,0 +1,201 @@
+#include "desk/main_window.h"
+
+#include <QDockWidget>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPlainTextEdit>
+
+#include "desk/code_pane.h"
+#include "desk/project_tree.h"
+#include "tests/desk/desk_fixture.h"
+
+namespace corvane::desk {
+namespace {
+
+using MainWindowTest = DeskTest;
+
+std::vector<QString> TreeTexts(ProjectTree& tree) {
+  std::vector<QString> texts;
+  for (QTreeWidgetItemIterator at(&tree); *at; ++at) texts.push_back((*at)->text(0));
+  return texts;
+}
+
+TEST_F(MainWindowTest, TheTreeShowsTheComponentsByKind) {
+  EXPECT_EQ(TreeTexts(window_->Tree()), (std::vector<QString>{"Stock (Stock.vbp)", "Forms", "frmStock (frmStock.frm)",
+                                                              "Modules", "modStock (modStock.bas)"}));
+}
+
+TEST_F(MainWindowTest, AnEditPutsAStarOnTheComponentAndAMarkInTheTitle) {
+  EXPECT_FALSE(window_->isWindowModified());
+  EXPECT_EQ(window_->windowTitle(), "Stock[*] - Corvane");
+  Module("modStock")->CodeModule()->InsertLines(1, "' new");
+  EXPECT_TRUE(window_->isWindowModified());
+  EXPECT_EQ(TreeTexts(window_->Tree()).back(), "modStock (modStock.bas) *");
+}
+
+TEST_F(MainWindowTest, WhatTheAddInShowsComesToTheFront) {
+  window_->OpenCode(Module("frmStock"));
+  Module("modStock")->CodeModule()->CodePane()->SetSelection({5, 1, 5, 1});
+  Module("modStock")->CodeModule()->CodePane()->Show();
+  Settle();
+  ASSERT_TRUE(window_->ActiveModule());
+  EXPECT_EQ(window_->ActiveModule()->Name(), "modStock");
+  EXPECT_EQ(window_->PaneOf(*Module("modStock"))->Editor().textCursor().blockNumber(), 4);
+  EXPECT_EQ(environment_->SelectedVBComponent()->Name(), "modStock");
+  EXPECT_EQ(environment_->ActiveCodePane()->CodeModule()->Name(), "modStock");
+}
+
+TEST_F(MainWindowTest, ClosingAPaneTakesItFromTheEnvironment) {
+  window_->OpenCode(Module("modStock"));
+  EXPECT_TRUE(Module("modStock")->HasPane());
+  window_->Command("close")->trigger();
+  Settle();
+  EXPECT_FALSE(Module("modStock")->HasPane());
+  EXPECT_FALSE(window_->PaneOf(*Module("modStock")));
+  EXPECT_FALSE(environment_->ActiveCodePane());
+}
+
+TEST_F(MainWindowTest, APaneTheAddInClosesGoes) {
+  window_->OpenCode(Module("modStock"));
+  Module("modStock")->CodeModule()->CodePane()->Window()->Close();
+  Settle();
+  EXPECT_FALSE(window_->PaneOf(*Module("modStock")));
+}
+
+TEST_F(MainWindowTest, TheDesignerWindowOpensAndClosesWithTheEnvironments) {
+  Module("frmStock")->DesignerWindow()->SetFocus();
+  Settle();
+  ASSERT_TRUE(window_->DesignerOf(*Module("frmStock")));
+  EXPECT_TRUE(Module("frmStock")->HasOpenDesigner());
+  Module("frmStock")->DesignerWindow()->Close();
+  Settle();
+  EXPECT_FALSE(window_->DesignerOf(*Module("frmStock")));
+  EXPECT_FALSE(Module("frmStock")->HasOpenDesigner());
+}
+
+TEST_F(MainWindowTest, TheImmediateWindowFollowsTheEnvironments) {
+  auto* dock = window_->findChild<QDockWidget*>("immediate");
+  const auto immediate = environment_->Windows()->Item(std::string("Immediate"));
+  immediate->Close();
+  EXPECT_FALSE(dock->isVisible());
+  immediate->SetFocus();
+  Settle();
+  EXPECT_TRUE(dock->isVisible());
+}
+
+TEST_F(MainWindowTest, AComponentTheAddInAddsAndRenamesIsInTheTree) {
+  const auto added = environment_->ActiveVBProject()->VBComponents()->Add(host::ComponentType::ClassModule);
+  added->SetName("clsNew");
+  const auto texts = TreeTexts(window_->Tree());
+  EXPECT_NE(std::find_if(texts.begin(), texts.end(), [](const auto& t) { return t.startsWith("clsNew"); }),
+            texts.end());
+}
+
+TEST_F(MainWindowTest, AnAddInsButtonStandsInItsPlaceAndItsClickArrives) {
+  const auto controls = environment_->CommandBars()->Item(std::string("Standard"))->Controls();
+  const auto button = controls->Add(host::ControlType::Button, controls->Count());
+  button->SetCaption("Try &it");
+  int clicks = 0;
+  const auto bound = environment_->Events()->CommandBarEvents(button)->OnClick([&](auto&, bool&, bool&) { ++clicks; });
+  Settle();
+  const environment::Bar* bar = environment_->Bars().Find("Standard");
+  long id = 0;
+  for (const auto& control : bar->controls)
+    if (control.caption == "Try &it") id = control.id;
+  ASSERT_TRUE(window_->ActionOf(id));
+  EXPECT_EQ(window_->ActionOf(id)->toolTip(), "Try it");
+  window_->ActionOf(id)->trigger();
+  EXPECT_EQ(clicks, 1);
+  button->Delete();
+  Settle();
+  EXPECT_FALSE(window_->ActionOf(id));
+}
+
+TEST_F(MainWindowTest, StartTellsTheAddInThatRunModeBegins) {
+  int starts = 0;
+  const auto bound = environment_->Events()->VBBuildEvents()->OnEnterRunMode([&] { ++starts; });
+  window_->Command("start")->trigger();
+  EXPECT_EQ(starts, 1);
+}
+
+class SavingTest : public DeskTest {
+ protected:
+  void SetUp() override {
+    DeskTest::SetUp();
+    module_ = Module("modStock");
+    path_ = module_->Path();
+  }
+  void Edit() { module_->CodeModule()->InsertLines(1, "' new"); }
+  bool IsWritten() { return files_.Read(path_).find("' new") != std::string::npos; }
+
+  std::shared_ptr<environment::Module> module_;
+  std::string path_;
+};
+
+TEST_F(SavingTest, SaveAllWritesWhatWasEditedAndTakesTheMarkAway) {
+  Edit();
+  ASSERT_TRUE(window_->SaveAll());
+  EXPECT_TRUE(IsWritten());
+  EXPECT_FALSE(window_->isWindowModified());
+  EXPECT_TRUE(prompts_.messages.size() <= 1);
+}
+
+TEST_F(SavingTest, LeavingAsksWithTheNamesOfTheFiles) {
+  EXPECT_TRUE(window_->MayLeave());
+  EXPECT_TRUE(prompts_.messages.empty());
+  Edit();
+  prompts_.answers = {host::vbCancel};
+  EXPECT_FALSE(window_->close());
+  ASSERT_EQ(prompts_.messages.size(), 1u);
+  EXPECT_NE(prompts_.messages[0].prompt.find(path_), std::string::npos);
+  EXPECT_EQ(prompts_.messages[0].style & 15, host::vbYesNoCancel);
+  EXPECT_FALSE(IsWritten());
+  prompts_.answers = {host::vbNo};
+  EXPECT_TRUE(window_->close());
+  EXPECT_FALSE(IsWritten());
+}
+
+TEST_F(SavingTest, LeavingWithYesSaves) {
+  Edit();
+  prompts_.answers = {host::vbYes, host::vbYes};
+  EXPECT_TRUE(window_->MayLeave());
+  EXPECT_TRUE(IsWritten());
+}
+
+TEST_F(SavingTest, AFileThatSomebodyElseChangedIsReplacedOnlyWhenAsked) {
+  Edit();
+  files_.Put(path_, "Attribute VB_Name = \"modStock\"\r\n' of somebody else\r\n");
+  prompts_.answers = {host::vbNo};
+  EXPECT_FALSE(window_->SaveModule(module_));
+  EXPECT_FALSE(IsWritten());
+  EXPECT_NE(prompts_.messages.at(0).prompt.find("changed on disk"), std::string::npos);
+  EXPECT_EQ(prompts_.messages[0].style & host::vbDefaultButton2, host::vbDefaultButton2) << "No is the default";
+  prompts_.answers = {host::vbYes};
+  EXPECT_TRUE(window_->SaveModule(module_));
+  EXPECT_TRUE(IsWritten());
+}
+
+TEST_F(SavingTest, AChangeOnDiskIsToldOnceAndTheProjectIsReadAgainOnYes) {
+  window_->CheckDisk();
+  EXPECT_TRUE(prompts_.messages.empty());
+  int again = 0;
+  QObject::connect(window_.get(), &MainWindow::ReadAgainWanted, [&] { ++again; });
+  files_.Put(path_, kForm);
+  prompts_.answers = {host::vbYes};
+  window_->CheckDisk();
+  EXPECT_EQ(again, 1);
+  window_->CheckDisk();
+  EXPECT_EQ(prompts_.messages.size(), 1u);
+}
+
+TEST_F(SavingTest, ADiskThatIsFullIsToldAndTheEditStays) {
+  Edit();
+  files_.FailWrites(path_, 61);
+  prompts_.answers = {host::vbYes};
+  EXPECT_FALSE(window_->SaveAll());
+  EXPECT_NE(prompts_.messages.back().prompt.find("modStock.bas"), std::string::npos);
+  EXPECT_TRUE(module_->IsDirty());
+}
+
+}  // namespace
+}  // namespace corvane::desk
