@@ -1,10 +1,12 @@
-// usage: corvane_bench SAMPLE.vbp PROGRAM
-// Measures everything in one run and prints one table. Exit status: 0 measured (aims met or not), 1 could not measure.
+// usage: corvane_bench SAMPLE.vbp PROGRAM [analysis|listing|search|memory|painting ...]
+// Measures everything, or what is named, in one run and prints one table. Exit status: 0 measured (aims met or not), 1
+// could not measure.
 #include <QApplication>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
 #include <filesystem>
+#include <set>
 
 #include "bench/measurements.h"
 
@@ -31,7 +33,7 @@ class ScratchFolder {
   std::string path_;
 };
 
-void MeasureAll(const std::string& sample, const std::string& program) {
+void MeasureAll(const std::string& sample, const std::string& program, const std::set<std::string>& wanted) {
   ScratchFolder scratch;
   bench::Setting setting{{}, program, std::filesystem::read_symlink("/proc/self/exe").string(), scratch.Path()};
   for (long lines : {100'000L, 1'000'000L, 2'000'000L}) {
@@ -45,6 +47,7 @@ void MeasureAll(const std::string& sample, const std::string& program) {
       {"memory", bench::MeasureMemory},     {"painting", bench::MeasurePainting},
   };
   for (const auto& [name, measure] : measurements) {
+    if (!wanted.empty() && !wanted.contains(name)) continue;
     std::fprintf(stderr, "measuring %s\n", name);
     measure(setting, table);
   }
@@ -57,12 +60,13 @@ void MeasureAll(const std::string& sample, const std::string& program) {
 int main(int argc, char** argv) {
   try {
     if (argc == 3 && std::string(argv[1]) == "--memory-of") return bench::OpenAndTellMemory(argv[2]);
-    if (argc != 3) {
-      std::fprintf(stderr, "usage: %s SAMPLE.vbp PROGRAM\n", argv[0]);
+    if (argc < 3) {
+      std::fprintf(stderr, "usage: %s SAMPLE.vbp PROGRAM [MEASUREMENT...]\n", argv[0]);
       return 2;
     }
     QApplication application(argc, argv);
-    MeasureAll(std::filesystem::absolute(argv[1]).string(), std::filesystem::absolute(argv[2]).string());
+    MeasureAll(std::filesystem::absolute(argv[1]).string(), std::filesystem::absolute(argv[2]).string(),
+               {argv + 3, argv + argc});
     return 0;
   } catch (const std::exception& error) {
     std::fprintf(stderr, "%s: %s\n", argv[0], error.what());

@@ -131,8 +131,9 @@ void MeasureSearch(const Setting& setting, Table& table) {
 }
 
 int OpenAndTellMemory(const std::string& project) {
+  const long before = Resident();
   OpenProject open(project);
-  std::printf("%ld\n", Resident());
+  std::printf("%ld\n", Resident() - before);
   return 0;
 }
 

@@ -28,7 +28,8 @@ void MeasureSearch(const Setting& setting, Table& table);
 
 // Resident memory of the open project.
 void MeasureMemory(const Setting& setting, Table& table);
-// What the process that is measured does: opens [project], prints its resident bytes, ends. Returns its exit status.
+// What the process that is measured does: opens [project], prints the resident bytes that it took, ends. Returns its
+// exit status.
 int OpenAndTellMemory(const std::string& project);
 
 // The code list on the Qt canvas, without a display.
