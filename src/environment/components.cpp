@@ -91,8 +91,7 @@ std::shared_ptr<OpenModule> OpenProject::AddFile(const std::string& path) {
   TakeHead(source, {});
   CollectNamesInUse();
   RequireFreeName(source.name, nullptr);
-  if (std::string reason = Refusal(source); !reason.empty())
-    throw host::Error(runtime::kInvalidFileFormat, source.path + ": " + reason);
+  if (std::string reason = Refusal(source); !reason.empty()) throw host::Error(runtime::kInvalidFileFormat, reason);
   for (const Problem& problem : source.head.problems) Environment().Report({source.path, problem.line, problem.reason});
   auto module = std::make_shared<OpenModule>(*this, std::move(source));
   modules_.push_back(module);

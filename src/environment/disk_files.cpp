@@ -117,13 +117,13 @@ class NameFinder {
   std::string last_start_, last_folder_;
 };
 
-[[noreturn]] void Fail(int error, bool reading, const std::string& path) {
+[[noreturn]] void Fail(int error, bool reading) {
   long number = runtime::kPathFileAccessError;
   if (error == ENOENT) number = reading ? runtime::kFileNotFound : runtime::kPathNotFound;
   if (error == ENOTDIR) number = runtime::kPathNotFound;
   if (error == EACCES || error == EPERM || error == EROFS) number = runtime::kPermissionDenied;
   if (error == ENOSPC || error == EDQUOT || error == EFBIG) number = runtime::kDiskFull;
-  throw runtime::Error(number, path + ": " + runtime::DescriptionOf(number));
+  throw runtime::Error(number);
 }
 
 // An open file; closed at the end of its life.
@@ -145,18 +145,18 @@ class DiskFiles : public host::Files {
  public:
   std::string Read(const std::string& path) override {
     std::string native = Resolve(path);
-    if (native.empty()) throw runtime::Error(runtime::kPathNotFound, path + ": no such drive or share here");
+    if (native.empty()) throw runtime::Error(runtime::kPathNotFound, "No such drive or share on this machine");
     Handle file(::open(native.c_str(), O_RDONLY | O_CLOEXEC));
     struct stat info;
-    if (file.Get() < 0 || ::fstat(file.Get(), &info) != 0)
-      Fail(errno == ENOENT ? MissingPart(native) : errno, true, path);
-    if (!S_ISREG(info.st_mode)) throw runtime::Error(runtime::kPathFileAccessError, path + ": no file");
+    if (file.Get() < 0 || ::fstat(file.Get(), &info) != 0) Fail(errno == ENOENT ? MissingPart(native) : errno, true);
+    if (!S_ISREG(info.st_mode))
+      throw runtime::Error(runtime::kPathFileAccessError, "No file, but a folder or a device");
     std::string bytes(static_cast<size_t>(info.st_size), '\0');
     size_t got = 0;
     while (got < bytes.size()) {
       ssize_t part = ::read(file.Get(), bytes.data() + got, bytes.size() - got);
       if (part < 0 && errno == EINTR) continue;
-      if (part < 0) Fail(errno, true, path);
+      if (part < 0) Fail(errno, true);
       if (part == 0) break;
       got += static_cast<size_t>(part);
     }
@@ -167,18 +167,19 @@ class DiskFiles : public host::Files {
   // The new file stands whole and flushed beside the old one before it takes its name. A link is followed to its file.
   void Write(const std::string& path, std::string_view bytes) override {
     std::string native = Resolve(path);
-    if (native.empty()) throw runtime::Error(runtime::kPathNotFound, path + ": no such drive or share here");
+    if (native.empty()) throw runtime::Error(runtime::kPathNotFound, "No such drive or share on this machine");
     if (char* real = ::realpath(native.c_str(), nullptr)) {
       native = real;
       std::free(real);
     }
     struct stat old;
     bool exists = ::stat(native.c_str(), &old) == 0;
-    if (exists && !S_ISREG(old.st_mode)) throw runtime::Error(runtime::kPathFileAccessError, path + ": no file");
-    if (exists && ::access(native.c_str(), W_OK) != 0) Fail(EACCES, false, path);
+    if (exists && !S_ISREG(old.st_mode))
+      throw runtime::Error(runtime::kPathFileAccessError, "No file, but a folder or a device");
+    if (exists && ::access(native.c_str(), W_OK) != 0) Fail(EACCES, false);
     std::string temporary = native + ".XXXXXX";
     Handle file(::mkostemp(temporary.data(), O_CLOEXEC));
-    if (file.Get() < 0) Fail(errno, false, path);
+    if (file.Get() < 0) Fail(errno, false);
     int error = Fill(file.Get(), bytes);
     if (error == 0 && ::fchmod(file.Get(), exists ? old.st_mode & 07777 : NewFileMode()) != 0) error = errno;
     // Somebody else's file keeps its owner where this user may give it.
@@ -187,7 +188,7 @@ class DiskFiles : public host::Files {
     if (error == 0 && ::rename(temporary.c_str(), native.c_str()) != 0) error = errno;
     if (error != 0) {
       ::unlink(temporary.c_str());
-      Fail(error, false, path);
+      Fail(error, false);
     }
     FlushFolder(native);
   }

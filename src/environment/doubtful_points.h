@@ -39,9 +39,6 @@ inline constexpr bool kUnclosedListFails = false;
 // FileCount of a form without an .frx.
 inline constexpr long kFileCountWithoutFrx = 1;
 
-// Opened from its texts, a project without a hint in its fonts keeps the code page in force.
-inline constexpr int kCodePageWithoutHint = 1252;
-
 // A control that is added stands behind the other controls of its container in the file (menus stay last). The file has
 // the topmost control first, so that a new one may well stand before all others.
 inline constexpr bool kNewControlStandsFirst = false;

@@ -1,5 +1,5 @@
-// Environment: a Visual Basic 6 environment that lives on project files. It implements the host contract, and offers the
-// desk, the command line and tests what a user does in the environment itself: open, save, edit, click, run.
+// Environment: a Visual Basic 6 environment that lives on project files. It implements the host contract, and offers
+// the desk, the command line and tests what a user does in the environment itself: open, save, edit, click, run.
 //
 // Invariant: no byte of a file changes that was not edited; a file that was not understood is never written.
 #pragma once
@@ -25,8 +25,9 @@ struct Problem {
   std::string reason;
 };
 
+// The code page is one for the whole program (runtime::SetAnsiCodePage): opening sets it to what was chosen or guessed.
 struct Options {
-  int code_page = 0;  // 0: guessed from the fonts of the forms, else 1252
+  int code_page = 0;  // 0: guessed from the fonts of the forms and the names of files, else the one in force
 };
 
 // A project made from texts, for tests: modules as they would stand in their files.
@@ -38,13 +39,16 @@ struct SourceFile {
 class Environment : public host::VBE, public std::enable_shared_from_this<Environment> {
  public:
   // Everything is read and written through [files]; the clipboard is what PasteFace takes its picture from.
-  static std::shared_ptr<Environment> Create(host::Files& files, host::Clipboard* clipboard = nullptr, Options options = {});
+  static std::shared_ptr<Environment> Create(host::Files& files, host::Clipboard* clipboard = nullptr,
+                                             Options options = {});
 
   // Opens a .vbp or a .vbg and makes its (startup) project active. What cannot be understood is left out and listed in
   // Problems(); throws host::Error only when [path] itself cannot be read or is no project.
   virtual void Open(const std::string& path) = 0;
-  // Adds a project from the text of its .vbp; modules are looked for in [sources] first. Its FileName is [path], or empty.
-  virtual void OpenFromTexts(const std::string& path, const std::string& vbp, const std::vector<SourceFile>& sources) = 0;
+  // Adds a project from the text of its .vbp; modules are looked for in [sources] first. Its FileName is [path], or
+  // empty.
+  virtual void OpenFromTexts(const std::string& path, const std::string& vbp,
+                             const std::vector<SourceFile>& sources) = 0;
   // The commonest test project: one of these modules, kinds by their extensions. Its FileName is "C:\Test\<name>.vbp".
   virtual void OpenFromModules(const std::string& name, const std::vector<SourceFile>& sources) = 0;
 

@@ -21,7 +21,9 @@ class Module : public host::VBComponent {
   virtual std::string WriteToText() const = 0;
   // Code, without the copying of Lines: the view lives until the module's text changes. Requires: 1 <= line <= count.
   virtual std::string_view LineView(long line) const = 0;
-  // The editor's act: replaces [count] lines from [start] by [text] (cut at CR LF or LF). One change for observers.
+  // The editor's act: replaces [count] lines from [start] by [text] (cut at CR LF or LF; empty text is one blank line,
+  // so that deleting alone is CodeModule's). One change for observers. A member that an editor's act brings back, as
+  // undoing does, has its hidden attributes again.
   virtual void ReplaceLines(long start, long count, const std::string& text) = 0;
   // Selection of the code pane as the user moves it; no notice to the observer.
   virtual void UserSelection(const host::Selection& selection) = 0;

@@ -149,7 +149,7 @@ void OpenModule::RequireUnchangedSiblings() const {
     auto read = siblings_read_.find(path);
     host::FileStamp now = Environment().FilesInUse().Stamp(path);
     if (sibling.changed && now.size != -1 && (read == siblings_read_.end() || read->second != now))
-      throw host::Error(runtime::kPermissionDenied, path + ": changed on disk since it was read");
+      throw host::Error(runtime::kPermissionDenied, sibling.name + ": changed on disk since it was read");
   }
 }
 

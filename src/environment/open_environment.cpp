@@ -63,6 +63,8 @@ OpenEnvironment::~OpenEnvironment() {
   observer_ = nullptr;
   for (const auto& project : projects_) project->Close();
   bars_->Detach();
+  main_window_->Detach();
+  immediate_->Detach();
 }
 
 void OpenEnvironment::MakeWindows(host::Clipboard* clipboard) {
@@ -104,7 +106,7 @@ void OpenEnvironment::ActivateProject(const std::shared_ptr<Project>& project) {
 std::shared_ptr<OpenProject> OpenEnvironment::AddProject(const std::string& path, const std::string& bytes,
                                                          const std::vector<SourceFile>& sources) {
   ProjectFile file(bytes);
-  if (!file.Refusal().empty()) throw host::Error(runtime::kInvalidFileFormat, path + ": " + file.Refusal());
+  if (!file.Refusal().empty()) throw host::Error(runtime::kInvalidFileFormat, file.Refusal());
   auto project = std::make_shared<OpenProject>(*this, path, std::move(file), files_.Stamp(path));
   projects_.push_back(project);
   project->ReadModules(sources);

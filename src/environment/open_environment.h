@@ -89,7 +89,7 @@ class OpenEnvironment : public Environment {
   std::shared_ptr<PaneList> panes_ = std::make_shared<PaneList>();
   std::shared_ptr<WindowList> windows_ = std::make_shared<WindowList>();
   std::shared_ptr<ActWindow> immediate_;
-  host::Ref<host::Window> main_window_;
+  std::shared_ptr<ActWindow> main_window_;
   std::shared_ptr<CommandBarSet> bars_;
   std::shared_ptr<EventSource> events_;
 };

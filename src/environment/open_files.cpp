@@ -17,7 +17,7 @@ std::string ReasonOf(const runtime::Error& error) {
     case runtime::kPermissionDenied:
       return "no permission to read the file";
     case runtime::kPathFileAccessError:
-      return "a folder, or a file that cannot be read";
+      return "a file that cannot be read";
     default:
       return error.Description();
   }

@@ -54,6 +54,7 @@ class OpenProject : public Project, public std::enable_shared_from_this<OpenProj
   void ReadModule(const ComponentLine& line, const std::vector<SourceFile>& sources);
   void TakeHead(OpenModule::Source& source, const std::string& name_in_project) const;
   void CheckResourceFile();
+  bool IsFolder(const std::string& path) const;
   bool IsMissing(const std::string& path) const;
   void ReportName(const ComponentLine& line, const OpenModule::Source& source);
   void KeepLooseTexts(const std::vector<SourceFile>& sources);

@@ -80,6 +80,11 @@ void OpenProject::CheckResourceFile() {
   Environment().Report({path_, file_.LineNumberOf(file_.IdOf("ResFile32")), path + ": file not found"});
 }
 
+bool OpenProject::IsFolder(const std::string& path) const {
+  uint32_t attributes = Environment().FilesInUse().Attributes(path);
+  return attributes != host::kNoSuchFile && (attributes & host::kDirectory) != 0;
+}
+
 bool OpenProject::IsMissing(const std::string& path) const {
   for (const SourceFile& text : loose_texts_)
     if (SamePath(text.path, path)) return false;
@@ -141,7 +146,8 @@ bool OpenProject::ReadBytes(const ComponentLine& line, const std::vector<SourceF
     source.bytes = Environment().FilesInUse().Read(source.path);
     return true;
   } catch (const runtime::Error& error) {
-    ReportAt(line, ReasonOf(error));
+    bool is_folder = error.Number() == runtime::kPathFileAccessError && IsFolder(source.path);
+    ReportAt(line, is_folder ? "a folder, no file" : ReasonOf(error));
     return false;
   }
 }

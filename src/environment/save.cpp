@@ -13,8 +13,8 @@ void RequirePath(const std::string& path) {
   if (path.empty()) throw host::Error(runtime::kPathFileAccessError, "never saved: it has no file yet");
 }
 
-void RequireUnchanged(bool changed, const std::string& path) {
-  if (changed) throw host::Error(runtime::kPermissionDenied, path + ": changed on disk since it was read");
+void RequireUnchanged(bool changed) {
+  if (changed) throw host::Error(runtime::kPermissionDenied, "changed on disk since it was read");
 }
 
 }  // namespace
@@ -35,7 +35,7 @@ void OpenProject::Save(Module& module, OnDiskChange rule) {
   auto& open = dynamic_cast<OpenModule&>(module);
   RequirePath(open.Path());
   if (rule == OnDiskChange::Refuse) {
-    RequireUnchanged(open.ChangedOnDisk(), open.Path());
+    RequireUnchanged(open.ChangedOnDisk());
     open.RequireUnchangedSiblings();
   }
   WriteModule(open, open.Path());
@@ -71,7 +71,7 @@ void OpenProject::SaveProjectFile(OnDiskChange rule) {
   RequirePath(path_);
   host::Files& files = Environment().FilesInUse();
   host::FileStamp now = files.Stamp(path_);
-  RequireUnchanged(rule == OnDiskChange::Refuse && now.size != -1 && now != stamp_, path_);
+  RequireUnchanged(rule == OnDiskChange::Refuse && now.size != -1 && now != stamp_);
   files.Write(path_, file_.Write());
   stamp_ = files.Stamp(path_);
   dirty_ = false;

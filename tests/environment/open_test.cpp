@@ -84,7 +84,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         BadCase{"missing", "Module=Gone; Gone.bas", nullptr, "", "P.vbp:2: Gone.bas: file not found", 0},
         BadCase{"folder", "Module=F; folder.bas", nullptr, "",
-                "P.vbp:2: folder.bas: a folder, or a file that cannot be read", 0},
+                "P.vbp:2: folder.bas: a folder, no file", 0},
         BadCase{"permission", "Module=L; locked.bas", nullptr, "",
                 "P.vbp:2: locked.bas: no permission to read the file", 0},
         BadCase{"self", "Module=P; P.vbp", nullptr, "", "P.vbp:2: P.vbp: the project file names itself", 0},
@@ -199,7 +199,7 @@ TEST(Opening, WhatIsWrongInAGroupIsReported) {
   EXPECT_EQ(opened.Problems(),
             (Lines{"C:\\g.vbg:9: neither Project nor StartupProject", "C:\\g.vbg:3: none.vbp: file not found",
                    "C:\\g.vbg:4: g.vbg: the group names itself",
-                   "C:\\g.vbg:5: nul.vbp: C:\\nul.vbp: not a text: it holds NUL bytes",
+                   "C:\\g.vbg:5: nul.vbp: not a text: it holds NUL bytes",
                    "C:\\g.vbg:6: A.VBP: named twice in the group", "C:\\g.vbg:7: h.vbg: a group inside a group",
                    "C:\\g.vbg:8: same.vbp: its name a is that of another project of the group"}));
   EXPECT_EQ(opened.environment->Projects().size(), 2u);

@@ -1,0 +1,177 @@
+// The search of a code module: ranges, whole words, patterns; the fast search against a simple one.
+#include <gtest/gtest.h>
+#include <random>
+
+#include "environment/line_pattern.h"
+#include "environment/module_find.h"
+#include "runtime/code_page.h"
+#include "tests/environment/opened.h"
+
+namespace corvane::environment {
+namespace {
+
+// "line:column+length" of the first hit; empty text without one.
+std::string Found(const ModuleText& text, const FindRequest& request) {
+  FoundPlace place;
+  if (!Finder().Find(text, request, place)) return {};
+  return std::to_string(place.line) + ":" + std::to_string(place.column) + "+" + std::to_string(place.length);
+}
+
+struct FindCase {
+  const char* what;
+  const char* lines;
+  FindRequest request;
+  const char* found;
+};
+
+class Finds : public testing::TestWithParam<FindCase> {};
+TEST_P(Finds, AsTheEnvironmentDoes) {
+  ModuleText text(Text(GetParam().lines) + "\r\n", 0);
+  EXPECT_EQ(Found(text, GetParam().request), GetParam().found) << GetParam().what;
+}
+
+FindRequest Plain(const char* target, long line = 1, long column = 1, long end_line = -1, long end_column = -1) {
+  return {target, line, column, end_line, end_column};
+}
+FindRequest Whole(const char* target) {
+  return {target, 1, 1, -1, -1, true};
+}
+FindRequest Cased(const char* target) {
+  return {target, 1, 1, -1, -1, false, true};
+}
+FindRequest Pattern(const char* target, bool whole = false, long line = 1, long column = 1, long end_line = -1,
+                    long end_column = -1) {
+  return {target, line, column, end_line, end_column, whole, false, true};
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Ranges, Finds,
+    testing::Values(FindCase{"from the column on", "aa|aa", Plain("a", 1, 2), "1:2+1"},
+                    FindCase{"behind the end of a line the next one", "aa|aa", Plain("a", 1, 9), "2:1+1"},
+                    FindCase{"up to the end line", "x|a", Plain("a", 1, 1, 1), ""},
+                    FindCase{"the end column is part of the range", "xxa", Plain("a", 1, 1, 1, 3), "1:3+1"},
+                    FindCase{"a hit ends within the range", "xab", Plain("ab", 1, 1, 1, 2), ""},
+                    FindCase{"the end beyond the module", "x|a", Plain("a", 1, 1, 99, 99), "2:1+1"},
+                    FindCase{"the start behind the module", "a", Plain("a", 2), ""},
+                    FindCase{"the end before the start", "a|a", Plain("a", 2, 1, 1, 1), ""},
+                    FindCase{"a hit lies within one line", "a|b", Plain("a\r\nb"), ""},
+                    FindCase{"nothing finds nothing", "a", Plain(""), ""},
+                    FindCase{"a pattern in a range", "ab1|ab2", Pattern("b#", false, 1, 3, 2, 3), "2:2+2"},
+                    FindCase{"a pattern that ends behind the range", "ab1", Pattern("b#", false, 1, 1, 1, 2), ""},
+                    FindCase{"a whole word is one of the line, not of the range", "ab1",
+                             Pattern("ab", true, 1, 1, 1, 2), ""}));
+
+INSTANTIATE_TEST_SUITE_P(
+    WholeWords, Finds,
+    testing::Values(FindCase{"letters, digits and _ go on a word", "cats cat1 cat_ _cat (cat)", Whole("cat"), "1:22+3"},
+                    FindCase{"letters of the code page too", "\xE9t\xE9s t", Whole("t"), "1:6+1"},
+                    FindCase{"with case", "Cat cat", Cased("cat"), "1:5+3"},
+                    FindCase{"without case by the code page", "\xC9T\xC9", Plain("\xE9t\xE9"), "1:1+3"},
+                    FindCase{"a# as a word is a1", "a# a1", Pattern("a#", true), "1:4+2"},
+                    FindCase{"a hit goes on until a word ends", "abc ab", Pattern("a*b", true), "1:1+6"}));
+
+INSTANTIATE_TEST_SUITE_P(Patterns, Finds,
+                         testing::Values(FindCase{"? is one character", "ac abc", Pattern("a?c"), "1:4+3"},
+                                         FindCase{"* is any text, the shortest", "a.b.b", Pattern("a*b"), "1:1+3"},
+                                         FindCase{"* may be nothing", "xab", Pattern("a*b"), "1:2+2"},
+                                         FindCase{"* at the end is nothing", "xab", Pattern("a*"), "1:2+1"},
+                                         FindCase{"* at the start begins where the search does", "xab", Pattern("*b"),
+                                                  "1:1+3"},
+                                         FindCase{"# is a digit", "ax a7", Pattern("a#"), "1:4+2"},
+                                         FindCase{"a list", "bat cat", Pattern("[c-e]at"), "1:5+3"},
+                                         FindCase{"a list that excludes", "bat cat", Pattern("[!b]at"), "1:5+3"},
+                                         FindCase{"a list without case", "CAT", Pattern("[a-d]at"), "1:1+3"},
+                                         FindCase{"signs in a list are themselves", "a1 a#", Pattern("a[#]"), "1:4+2"},
+                                         FindCase{"an unclosed list is itself", "a[1", Pattern("a["), "1:1+2"},
+                                         FindCase{"text between stars", "one two three", Pattern("o*w*r"), "1:1+11"}));
+
+TEST(Finding, CaseAndPatternTogetherAreAnError) {
+  auto opened = Opened::Module("abc");
+  long line = 1, column = 1, end_line = -1, end_column = -1;
+  EXPECT_EQ(ErrorOf([&] { opened->Code()->Find("a", line, column, end_line, end_column, false, true, true); }), 5);
+  line = 0;
+  EXPECT_EQ(ErrorOf([&] { opened->Code()->Find("a", line, column, end_line, end_column, false, false, false); }), 9);
+}
+
+TEST(Finding, AttributeLinesAreNotFound) {
+  ModuleText text("Sub A()\nAttribute A.VB_Description = \"find me\"\nEnd Sub 'find me\n", 0);
+  EXPECT_EQ(Found(text, Plain("find me")), "2:10+7");
+}
+
+TEST(Finding, EditedLinesAreFound) {
+  ModuleText text("one\ntwo\nthree\n", 0);
+  text.Replace(2, 1, {"a needle", "needle"});
+  EXPECT_EQ(Found(text, Plain("needle")), "2:3+6");
+  EXPECT_EQ(Found(text, Plain("needle", 3)), "3:1+6");
+  EXPECT_EQ(Found(text, Plain("three")), "4:1+5");
+}
+
+TEST(Finding, ACharacterOfTwoBytesIsNotFoundFromItsSecond) {
+  runtime::SetAnsiCodePage(932);
+  ModuleText text("\x83\x41 A \x83\x61\n", 0);
+  EXPECT_EQ(Found(text, Plain("a")), "1:4+1");
+  EXPECT_EQ(Found(text, Plain("\x83\x61")), "1:6+2");
+  runtime::SetAnsiCodePage(1252);
+}
+
+std::string Random(std::mt19937& random, size_t length, std::string_view letters) {
+  std::string text;
+  while (text.size() < length) text += letters[random() % letters.size()];
+  return text;
+}
+
+// The simple form: every place of every line in turn.
+std::string SimplyFound(const ModuleText& text, const FindRequest& request) {
+  const runtime::CodePage& page = runtime::AnsiCodePage();
+  std::string target = request.match_case ? request.target : page.ToUpper(request.target);
+  for (long number = request.start_line; number <= text.Count(); ++number) {
+    std::string line(text.Line(number));
+    if (!request.match_case) line = page.ToUpper(line);
+    for (size_t at = number == request.start_line ? static_cast<size_t>(request.start_column) - 1 : 0;
+         at + target.size() <= line.size(); ++at)
+      if (line.compare(at, target.size(), target) == 0 && (!request.whole_word || IsWholeWord(line, at, target.size())))
+        return std::to_string(number) + ":" + std::to_string(at + 1) + "+" + std::to_string(target.size());
+  }
+  return {};
+}
+
+TEST(Finding, TheFastFormEqualsTheSimpleForm) {
+  std::mt19937 random(7);
+  for (int round = 0; round < 4000; ++round) {
+    ModuleText text(Random(random, random() % 400, "abAB_. \n\n"), 0);
+    if (text.Count() > 2 && round % 3 == 0) text.Replace(2, 1, {"abab", "b.a"});
+    FindRequest request{Random(random, 1 + random() % 4, "abAB_ ")};
+    request.start_line = 1 + static_cast<long>(random() % 4);
+    request.start_column = 1 + static_cast<long>(random() % 6);
+    request.whole_word = round % 2 == 0;
+    request.match_case = round % 5 == 0;
+    ASSERT_EQ(Found(text, request), SimplyFound(text, request)) << "round " << round;
+  }
+}
+
+// Whether [pattern], of letters, ? and *, fits all of [text].
+bool Fits(std::string_view pattern, std::string_view text) {
+  if (pattern.empty()) return text.empty();
+  if (pattern[0] == '*') return Fits(pattern.substr(1), text) || (!text.empty() && Fits(pattern, text.substr(1)));
+  return !text.empty() && (pattern[0] == '?' || pattern[0] == text[0]) && Fits(pattern.substr(1), text.substr(1));
+}
+
+TEST(Finding, APatternsHitIsTheFirstAndTheShortest) {
+  std::mt19937 random(11);
+  for (int round = 0; round < 4000; ++round) {
+    std::string line = Random(random, random() % 12, "ab. "), pattern = Random(random, 1 + random() % 5, "ab?*.");
+    bool whole = round % 2 == 0;
+    LinePattern::Hit expected;
+    for (size_t at = 0; at <= line.size() && !expected.found; ++at)
+      for (size_t length = 0; at + length <= line.size() && !expected.found; ++length)
+        if (Fits(pattern, std::string_view(line).substr(at, length)) && (!whole || IsWholeWord(line, at, length)))
+          expected = {at, length, true};
+    LinePattern::Hit hit = LinePattern(pattern, true).Find(line, 0, whole);
+    ASSERT_EQ(hit.found, expected.found) << pattern << " in " << line;
+    ASSERT_EQ(hit.at, expected.at) << pattern << " in " << line;
+    ASSERT_EQ(hit.length, expected.length) << pattern << " in " << line;
+  }
+}
+
+}  // namespace
+}  // namespace corvane::environment
