@@ -26,6 +26,7 @@ ListView::ListView(forms::ListControl& list, QWidget* parent)
   setAttribute(Qt::WA_OpaquePaintEvent);
   bar_->setFocusPolicy(Qt::NoFocus);
   bar_->setCursor(Qt::ArrowCursor);
+  bar_->setContextMenuPolicy(Qt::NoContextMenu);
   connect(bar_, &QScrollBar::valueChanged, this, [this](int value) {
     top_ = value;
     update();

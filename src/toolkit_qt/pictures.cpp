@@ -91,13 +91,14 @@ class PictureIcon : public QIconEngine {
   bool isNull() override { return !picture_; }
 
  private:
+  static constexpr int kFaded = 110;  // of 255
   static void Fade(QImage& image) {
     if (image.isNull()) return;
     QImage gray = image.convertToFormat(QImage::Format_Grayscale8).convertToFormat(QImage::Format_ARGB32_Premultiplied);
     QPainter painter(&gray);
     painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
     painter.drawImage(0, 0, image);
-    painter.fillRect(gray.rect(), QColor(0, 0, 0, 115));
+    painter.fillRect(gray.rect(), QColor(0, 0, 0, kFaded));
     painter.end();
     image = gray;
   }

@@ -15,6 +15,7 @@ class ScrollBarPeer : public ControlPeer {
   ScrollBarPeer(QtToolkit& toolkit, forms::ScrollBar& bar) : ControlPeer(toolkit, bar), bar_(bar) {
     const auto way = bar.Kind() == forms::ControlKind::HScrollBar ? Qt::Horizontal : Qt::Vertical;
     shown_ = new ScrollBarView(way, InsideOf(bar.ContainerOf()));
+    shown_->setContextMenuPolicy(Qt::NoContextMenu);
     SetWidget(shown_, Input::Mouse::Untold);
     QObject::connect(shown_, &QScrollBar::valueChanged, input_.get(), [this](int value) {
       ReportThenShow(forms::Property::Value, [&] { bar_.UserScroll(value, shown_->isSliderDown()); });

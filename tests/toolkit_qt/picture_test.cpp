@@ -5,6 +5,7 @@
 
 #include "tests/toolkit_qt/window_fixture.h"
 #include "toolkit_qt/colors.h"
+#include "toolkit_qt/pictures.h"
 #include "toolkit_qt/screenshot.h"
 #include "toolkit_qt/units.h"
 
@@ -244,6 +245,19 @@ TEST_F(WindowTest, NoPictureOfAWindowThatIsNotLoaded) {
 TEST_F(WindowTest, PictureCannotBeWrittenIntoAMissingFolder) {
   Show();
   EXPECT_FALSE(SaveWindowPicture(toolkit, form, ::testing::TempDir() + "no/such/folder/picture.png"));
+}
+
+TEST_F(WindowTest, DisabledIconIsAPaleGrayOfItsShape) {
+  const QIcon icon = IconOf(IconFile("search"));
+  const QImage whole = icon.pixmap(16, 16).toImage(), pale = icon.pixmap(16, 16, QIcon::Disabled).toImage();
+  ASSERT_EQ(whole.size(), pale.size());
+  for (int y = 0; y < 16; ++y) {
+    for (int x = 0; x < 16; ++x) {
+      const QColor from = whole.pixelColor(x, y), to = pale.pixelColor(x, y);
+      EXPECT_LE(to.alpha(), from.alpha() / 2 + 1) << x << "," << y;
+      EXPECT_LT(to.alpha() > 20 ? to.hslSaturation() : 0, 30) << x << "," << y;
+    }
+  }
 }
 
 TEST_F(WindowTest, SystemColoursAreThoseOfThePalette) {
