@@ -66,16 +66,18 @@ QRect QtCanvas::DeviceBox(const forms::Rect& box) const {
   return {left, top, Edge(box.left + box.width) - left, Edge(box.top + box.height) - top};
 }
 
-// The first stroke since the last showing asks for the next one, so that nothing drawn stays unseen. The widget may outlive
-// the canvas, and the request with it.
+// The first stroke since the last showing asks for the next one, so that nothing drawn stays unseen. The widget may
+// outlive the canvas, and the request with it.
 void QtCanvas::Touch(const QRect& changed) {
+  const QRect inside = changed & image_.rect();
+  if (inside.isEmpty()) return;
   if (touched_.isEmpty() && widget_) {
     const auto show = [this, life = std::weak_ptr<int>(life_)] {
       if (!life.expired()) Refresh();
     };
     QMetaObject::invokeMethod(widget_, show, Qt::QueuedConnection);
   }
-  touched_ |= changed & image_.rect();
+  touched_ |= inside;
 }
 
 forms::Twips QtCanvas::TextWidth(std::string_view text, const forms::Font& font) {

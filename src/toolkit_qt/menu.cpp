@@ -122,7 +122,7 @@ void MenuBar::Renew() {
   if (stale_ || !bar_) return;
   stale_ = true;
   QMetaObject::invokeMethod(
-      bar_, [this] { ShowTitles(); }, Qt::QueuedConnection);
+      &context_, [this] { ShowTitles(); }, Qt::QueuedConnection);
 }
 
 void MenuBar::ShowTitles() {
@@ -138,7 +138,7 @@ void MenuBar::ShowTitles() {
     if (!menu->Visible()) continue;
     QMenu* shown = bar_->addMenu(ShownText(menu->Caption()));
     shown->menuAction()->setEnabled(menu->Enabled());
-    QObject::connect(shown, &QMenu::aboutToShow, shown, [this, shown, menu, on_chosen] {
+    QObject::connect(shown, &QMenu::aboutToShow, &context_, [this, shown, menu, on_chosen] {
       toolkit_.Guard([&] { menu->UserOpen(); });
       shown->clear();
       Fill(toolkit_, *shown, *menu, on_chosen);

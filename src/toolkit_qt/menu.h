@@ -31,6 +31,7 @@ class MenuBar {
   forms::Form& form_;
   QPointer<QMenuBar> bar_;
   bool stale_ = true;
+  QObject context_;  // the bar's window may outlive this: with it end the connections
 };
 
 // Shows the items of [menu] at a place of the screen and waits. The chosen one, null for none.

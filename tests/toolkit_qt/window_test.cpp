@@ -440,6 +440,15 @@ TEST_F(Window, MenuBarEntriesAreReadWhenTheyOpen) {
   EXPECT_EQ(told, Strings{"open"});
 }
 
+TEST_F(Window, WindowMayGoBeforeItsNewMenuTitlesAreShown) {
+  forms::Menu file(form, "mnuFile", "&File"), open(file, "mnuOpen", "&Open");
+  Show();
+  file.SetCaption("&Other");
+  form.Unload();
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(form.IsLoaded());
+}
+
 TEST_F(Window, ToolbarButtonsAndDropDownsTellTheirPositions) {
   forms::ImageList images(form, "img");
   forms::Toolbar bar(form, "tb");
