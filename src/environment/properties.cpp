@@ -97,7 +97,6 @@ class ListedProperty : public host::Property {
   bool IsFont() const {
     return IsRow(PropertyKind::Font) || (listed_.source == Listed::FileBlock && IsFontName(listed_.name));
   }
-  bool IsAlwaysWritten() const { return listed_.row && listed_.row->always_written; }
   std::string RootName() const { return std::string(place_.state->Owner().ComponentName()); }
 
   Variant RowValue();
@@ -304,10 +303,10 @@ bool ListedProperty::SetRowLine(const Variant& value) {
 
   const std::string text = WriteValue(row.kind, row.choices, value);
   const Variant written = ReadValue(row.kind, {WithoutComment(text), {}});
+  if (block.Find(row.name) && RowValue() == written) return false;  // a default that the file says all the same stays
   const bool has_default = !row.default_value.empty() || row.kind == PropertyKind::Shortcut;
   if (has_default && !row.always_written && written == DefaultValue(row, {})) return RemoveLine(block, row.name);
-  const bool same = block.Find(row.name) && RowValue() == written;
-  return !same && SetLine(place_.Part(), block, row.name, text);
+  return SetLine(place_.Part(), block, row.name, text);
 }
 
 bool ListedProperty::SetText(const std::string& text) {

@@ -22,9 +22,9 @@ std::string TextOf(std::string_view bytes, const SiblingReference& reference) {
   return text.value_or("");
 }
 
-bool IsPicture(const Variant& value, const runtime::Picture& picture) {
-  const PictureRef& there = std::get<PictureRef>(value);
-  return there && there->bytes == picture.bytes;
+bool IsSamePicture(const Variant& value, const PictureRef& picture) {
+  const auto bytes = [](const PictureRef& p) { return p ? std::string_view(p->bytes) : std::string_view(); };
+  return bytes(std::get<PictureRef>(value)) == bytes(picture);
 }
 
 // The reference that a property's line holds now.
@@ -62,10 +62,11 @@ bool WriteSiblingText(const PropertyPlace& place, std::string_view name, const s
 }
 
 bool WritePicture(const PropertyPlace& place, std::string_view name, const PictureRef& picture) {
-  if (!picture || picture->bytes.empty()) return RemoveLine(place.Block(), name);
   SiblingReference before;
   const bool had = ReferenceOf(place, name, before);
-  if (had && IsPicture(ReadSiblingValue(place, PropertyKind::Picture, before), *picture)) return false;
+  // A picture that cannot be read is Nothing: setting that to Nothing does not take its reference away.
+  if (had && IsSamePicture(ReadSiblingValue(place, PropertyKind::Picture, before), picture)) return false;
+  if (!picture || picture->bytes.empty()) return RemoveLine(place.Block(), name);
   const SiblingReference after =
       place.state->AppendRecord(frx::PictureRecord(picture->bytes), false, had ? &before : nullptr);
   return SetLine(place.Part(), place.Block(), name, WriteReference(after));
