@@ -162,6 +162,7 @@ bool frmAddIn::TakePendingComponent(long& index) {
   index = FindComponentIndex(VBInstance, name);
   if (index < 1) return false;
   lbxComp->SetList(0, name);
+  lbxComp->SetText(name);
   return true;
 }
 

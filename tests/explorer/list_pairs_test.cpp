@@ -67,6 +67,7 @@ TEST_F(ListPairs, AWaitingComponentIsTakenByTheNextChoice) {
   form.pendingComponent = "clsItem";
   ChooseComponent("Project Globals");
   EXPECT_EQ(form.lbxComp->List(0), "clsItem");
+  EXPECT_EQ(form.lbxComp->Text(), "clsItem");
   EXPECT_THAT(CodeRows(), ElementsAre("Private a", "Private b"));
   EXPECT_EQ(form.pendingComponent, "");
 }

@@ -50,12 +50,18 @@ TEST_F(Story, EveryRowOfEveryComponentShowsItsOwnHeader) {
 TEST_F(Story, FilterTheGlobals) {
   size_t all = Procedures().size();
   ClickOn(form.optProcFunc);
-  for (const std::string& row : Procedures())
-    if (row != "Declarations") EXPECT_THAT(row, HasSubstr("Function "));
+  for (const std::string& row : Procedures()) {
+    if (row != "Declarations") {
+      EXPECT_THAT(row, HasSubstr("Function "));
+    }
+  }
   EXPECT_LT(Procedures().size(), all);
   ClickOn(form.optProcPriv);
-  for (const std::string& row : Procedures())
-    if (row != "Declarations") EXPECT_THAT(row, HasSubstr("Private "));
+  for (const std::string& row : Procedures()) {
+    if (row != "Declarations") {
+      EXPECT_THAT(row, HasSubstr("Private "));
+    }
+  }
   ClickOn(form.optAllProc);
   EXPECT_EQ(Procedures().size(), all);
 }
