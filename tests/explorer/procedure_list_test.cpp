@@ -136,6 +136,15 @@ TEST_F(ProcedureList, ADoubleClickGoesToTheStartOfTheProcedure) {
   EXPECT_EQ(SelectionOf("frmMain"), (host::Selection{6, 1, 6, 1}));
 }
 
+TEST_F(ProcedureList, ADoubleClickDoesNotAskWhereTheCodeViewStands) {
+  OpenWindow(kShop);
+  ChooseComponent("frmMain");
+  ChooseProcedure("Fill");
+  form.txtCode.SetStrPos(2);
+  form.lbxProc->UserDblClick();
+  EXPECT_EQ(SelectionOf("frmMain"), (host::Selection{6, 1, 6, 1}));
+}
+
 TEST_F(ProcedureList, EnterActsAsADoubleClick) {
   OpenWindow(kShop);
   ChooseComponent("frmMain");
