@@ -53,7 +53,7 @@ void ucListBox::ClearPane() {
 }
 
 void ucListBox::PaintLineAt(long row, long index, Color colour) {
-  if (index > store.Count() || row > visibleRows) return;
+  if (loading || index > store.Count() || row > visibleRows) return;
   PaintLine(0, RowTop(std::max(1L, row)), index, colour);
 }
 

@@ -74,7 +74,7 @@ void ucListBox::pic_MouseDown(int button, Twips x, Twips y) {
   EndDrag();
   mouseX = x;
   mouseY = y;
-  if (!MoveToRow(RowAt(y))) return;
+  if (loading || !MoveToRow(RowAt(y))) return;
   if (x < gutterWidth && button == forms::vbLeftButton) return ToggleSelect();
   dragging = true;
   dragRow = currentRow;
@@ -163,6 +163,7 @@ void ucListBox::ToggleBranch(long index) {
 }
 
 void ucListBox::pic_KeyDown(int& key, int shift) {
+  if (loading) return;
   const bool ctrl = (shift & forms::vbCtrlMask) != 0;
   const int pressed = std::exchange(key, 0);
   switch (pressed) {

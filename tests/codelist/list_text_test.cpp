@@ -68,6 +68,19 @@ TEST_F(ListText, AClearDuringALoadEndsItQuietly) {
   EXPECT_TRUE(list.vs.Enabled());
 }
 
+TEST_F(ListText, TheUserCannotDisturbALoad) {
+  list.sGrid("VB");
+  services.loop.on_do_events = [this] {
+    ClickOn(5);
+    Key(forms::vbKeyDown);
+    window.other.SetFocus();
+    list.SetFocus();
+  };
+  list.SetText(runtime::Replace(std::string(41, 'x'), "x", "do\r\n"));
+  EXPECT_EQ(list.ListIndex(), 1);
+  for (long line = 1; line <= 41; ++line) ASSERT_EQ(list.LineLevel(line), 32 + line);
+}
+
 TEST_F(ListText, TheEventLoopRunsAfterEveryTwentyLines) {
   list.sGrid("TEXT");
   list.SetText(runtime::Replace(std::string(59, 'x'), "x", "a\r\n"));
