@@ -2,25 +2,14 @@
 
 #include <ostream>
 
+#include "desk/shown_path.h"
 #include "environment/disk_files.h"
 #include "environment/environment.h"
 #include "environment/project.h"
-#include "runtime/code_page.h"
 
 namespace corvane::desk {
 
 namespace {
-
-// "Z:\a\b" is how the logic calls a file of this machine; who reads a message calls it /a/b.
-std::string Shown(const std::string& path) {
-  return path.starts_with("Z:\\") ? environment::NativePath(path) : runtime::AnsiCodePage().ToUtf8(path);
-}
-
-void Tell(std::ostream& errors, const environment::Problem& problem) {
-  errors << Shown(problem.file) << ':';
-  if (problem.line > 0) errors << problem.line << ':';
-  errors << ' ' << runtime::AnsiCodePage().ToUtf8(problem.reason) << '\n';
-}
 
 // Returns the number of files that would change.
 long TellChanges(std::ostream& errors, const std::vector<environment::CheckedFile>& files) {
@@ -28,7 +17,8 @@ long TellChanges(std::ostream& errors, const std::vector<environment::CheckedFil
   for (const environment::CheckedFile& file : files) {
     if (file.identical) continue;
     ++changes;
-    errors << Shown(file.path) << ": would be written otherwise from byte " << file.first_difference << " on\n";
+    errors << ShownPath(file.path).toStdString() << ": would be written otherwise from byte " << file.first_difference
+           << " on\n";
   }
   return changes;
 }
@@ -41,7 +31,7 @@ CheckStatus RunCheckCommand(const std::string& path, int code_page, host::Files&
   try {
     environment->Open(environment::WindowsPath(path));
   } catch (const host::Error& error) {
-    errors << path << ": " << runtime::AnsiCodePage().ToUtf8(error.Description()) << '\n';
+    TellFailure(errors, path, error);
     return kNotUnderstood;
   }
   std::vector<environment::CheckedFile> checked = environment::CheckFiles(*environment, files);

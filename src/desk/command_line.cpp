@@ -8,6 +8,7 @@
 #include "desk/list_command.h"
 #include "desk/plain_services.h"
 #include "desk/run_desk.h"
+#include "desk/shown_path.h"
 #include "desk/view_command.h"
 #include "environment/disk_files.h"
 #include "environment/environment.h"
@@ -19,17 +20,6 @@ namespace {
 
 enum Status : int { kDone = 0, kInputProblem = 1, kWrongUsage = 2 };
 
-// "Z:\a\b" is how the logic calls a file of this machine; who reads a message calls it /a/b.
-std::string ShownPath(const std::string& path) {
-  return runtime::AnsiCodePage().ToUtf8(path.starts_with("Z:\\") ? environment::NativePath(path) : path);
-}
-
-void Tell(std::ostream& errors, const environment::Problem& problem) {
-  errors << ShownPath(problem.file) << ':';
-  if (problem.line > 0) errors << problem.line << ':';
-  errors << ' ' << runtime::AnsiCodePage().ToUtf8(problem.reason) << '\n';
-}
-
 // What a command is given: streams, files, and the code page chosen for all of them.
 struct Command {
   std::ostream& out;
@@ -37,7 +27,7 @@ struct Command {
   int code_page = 0;
 
   int Fail(const std::string& path, const host::Error& error) const {
-    errors << path << ": " << runtime::AnsiCodePage().ToUtf8(error.Description()) << '\n';
+    TellFailure(errors, path, error);
     return kInputProblem;
   }
 };

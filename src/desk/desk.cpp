@@ -5,6 +5,7 @@
 #include <QStatusBar>
 
 #include "desk/ansi_text.h"
+#include "desk/shown_path.h"
 #include "environment/command_bar_model.h"
 #include "environment/disk_files.h"
 #include "runtime/code_page.h"
@@ -69,8 +70,9 @@ bool Desk::TryOpen(environment::Environment& environment, const QString& path) {
     environment.Open(environment::WindowsPath(path.toStdString()));
     return true;
   } catch (const host::Error& error) {
-    services_.Prompts.MsgBox(FromLabel(path) + runtime::kCrLf + "cannot be opened: " + error.Description(),
-                             host::vbExclamation);
+    services_.Prompts.MsgBox(
+        FromLabel(path) + runtime::kCrLf + "cannot be opened: " + FromLabel(ReasonOf(path.toStdString(), error)),
+        host::vbExclamation);
     return false;
   }
 }

@@ -19,6 +19,7 @@
 #include "desk/icons.h"
 #include "desk/project_tree.h"
 #include "desk/property_list.h"
+#include "desk/shown_path.h"
 #include "runtime/code_page.h"
 
 namespace corvane::desk {
@@ -123,9 +124,10 @@ void MainWindow::ShowProject() {
   problems_->clear();
   for (const environment::Problem& problem : environment_->Problems()) {
     auto* item = new QTreeWidgetItem(
-        problems_, {ToLabel(problem.file), problem.line ? QString::number(problem.line) : "", ToLabel(problem.reason)});
+        problems_,
+        {ShownPath(problem.file), problem.line ? QString::number(problem.line) : "", ShownName(problem.reason)});
     item->setIcon(0, NamedIcon("help"));
-    item->setToolTip(2, ToLabel(problem.reason));
+    item->setToolTip(2, ShownName(problem.reason));
   }
   problems_->resizeColumnToContents(0);
   problems_->resizeColumnToContents(1);

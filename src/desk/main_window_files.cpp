@@ -6,6 +6,7 @@
 #include "desk/ansi_text.h"
 #include "desk/main_window.h"
 #include "desk/project_tree.h"
+#include "desk/shown_path.h"
 #include "environment/disk_files.h"
 #include "runtime/strings.h"
 
@@ -25,6 +26,11 @@ std::string Bulleted(const std::vector<std::string>& files) {
   for (size_t at = 0; at < files.size() && at < kMostNamed; ++at) text += kCrLf + ("    " + files[at]);
   if (files.size() > kMostNamed) text += kCrLf + ("    and " + std::to_string(files.size() - kMostNamed) + " more");
   return text;
+}
+
+// For message boxes.
+std::string Shown(const std::string& path) {
+  return FromLabel(ShownPath(path));
 }
 
 // A related document is only named by its project.
@@ -58,9 +64,9 @@ std::vector<std::string> MainWindow::UnsavedFiles() const {
   for (const auto& project : environment_->Projects()) {
     const size_t before = files.size();
     for (const auto& module : project->Modules())
-      if (module->IsDirty()) files.push_back(module->Path().empty() ? module->Name() : module->Path());
+      if (module->IsDirty()) files.push_back(module->Path().empty() ? module->Name() : Shown(module->Path()));
     // A project that is edited beyond its modules has its own file to be written.
-    if (project->IsDirty() && files.size() == before) files.push_back(project->FileName());
+    if (project->IsDirty() && files.size() == before) files.push_back(Shown(project->FileName()));
   }
   return files;
 }
@@ -83,7 +89,7 @@ bool MainWindow::SaveModule(const std::shared_ptr<Module>& module) {
     if (module->Path().empty()) return AskForFile(*module);
     OnDiskChange rule = OnDiskChange::Refuse;
     if (module->ChangedOnDisk()) {
-      const std::string question = module->Path() + kCrLf +
+      const std::string question = Shown(module->Path()) + kCrLf +
                                    "was changed on disk by another program since it was read here." + kCrLf + kCrLf +
                                    "Replace that file by what is on this desk?";
       if (prompts_.MsgBox(question, host::vbYesNo | host::vbExclamation | host::vbDefaultButton2) != host::vbYes)
@@ -91,10 +97,10 @@ bool MainWindow::SaveModule(const std::shared_ptr<Module>& module) {
       rule = OnDiskChange::Overwrite;
     }
     module->ProjectOf()->Save(*module, rule);
-    statusBar()->showMessage(tr("%1 is saved.").arg(ToLabel(module->Path())));
+    statusBar()->showMessage(tr("%1 is saved.").arg(ShownPath(module->Path())));
     return true;
   } catch (const host::Error& error) {
-    prompts_.MsgBox(module->Path() + kCrLf + "was not saved: " + error.Description(), host::vbExclamation);
+    prompts_.MsgBox(Shown(module->Path()) + kCrLf + "was not saved: " + error.Description(), host::vbExclamation);
     return false;
   }
 }
@@ -115,7 +121,7 @@ bool MainWindow::SaveAll() {
     return true;
   }
   std::vector<std::string> lines;
-  for (const environment::Problem& problem : problems) lines.push_back(problem.file + ": " + problem.reason);
+  for (const environment::Problem& problem : problems) lines.push_back(Shown(problem.file) + ": " + problem.reason);
   prompts_.MsgBox("Not saved:" + Bulleted(lines), host::vbExclamation);
   return false;
 }
@@ -139,7 +145,7 @@ void MainWindow::CheckDisk() {
     for (const auto& module : project->Modules())
       if (!told_changed_.contains(module.get()) && IsReadHere(*module) && module->ChangedOnDisk()) {
         told_changed_.insert(module.get());
-        changed.push_back(module->Path());
+        changed.push_back(Shown(module->Path()));
       }
   if (changed.empty()) return;
   long answer = host::vbNo;

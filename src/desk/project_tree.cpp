@@ -5,6 +5,7 @@
 
 #include "desk/ansi_text.h"
 #include "desk/icons.h"
+#include "desk/shown_path.h"
 
 namespace corvane::desk {
 
@@ -37,13 +38,13 @@ const std::vector<Folder>& Folders() {
 
 QString FileNameOf(const std::string& path) {
   const size_t slash = path.rfind('\\');
-  return ToLabel(slash == std::string::npos ? path : path.substr(slash + 1));
+  return ShownName(slash == std::string::npos ? path : path.substr(slash + 1));
 }
 
 // "frmMain (frmMain.frm)", with a star when it was edited.
 QString Title(const std::string& name, const std::string& path, bool dirty) {
   const QString file = FileNameOf(path);
-  QString title = ToLabel(name.empty() ? path : name);
+  QString title = name.empty() ? ShownPath(path) : ToLabel(name);
   if (!file.isEmpty() && file != title) title += " (" + file + ")";
   return dirty ? title + " *" : title;
 }
@@ -141,10 +142,10 @@ void ProjectTree::ShowState() {
   for (QTreeWidgetItemIterator at(this); *at; ++at) {
     if (const auto module = ModuleOf(*at)) {
       (*at)->setText(0, Title(module->Name(), module->Path(), module->IsDirty()));
-      (*at)->setToolTip(0, ToLabel(module->Path()));
+      (*at)->setToolTip(0, ShownPath(module->Path()));
     } else if (const auto project = ProjectOf(*at)) {
       (*at)->setText(0, Title(project->Name(), project->FileName(), project->IsDirty()));
-      (*at)->setToolTip(0, ToLabel(project->FileName()));
+      (*at)->setToolTip(0, ShownPath(project->FileName()));
       QFont weight = font();
       weight.setBold(active && active->FileName() == project->FileName() && active->Name() == project->Name());
       (*at)->setFont(0, weight);

@@ -2,7 +2,7 @@
 
 #include <QApplication>
 #include <QTimer>
-#include <ostream>
+#include <iostream>
 
 #include "desk/desk.h"
 #include "desk/plain_services.h"
@@ -16,6 +16,13 @@ namespace {
 bool HasDisplay() {
   return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
          qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+}
+
+// What Qt says about the platform without a screen is no news to who asked for pictures.
+void DropPlatformNotes(QtMsgType type, const QMessageLogContext&, const QString& text) {
+  const bool note =
+      text.startsWith("This plugin does not support") || text.startsWith("QStandardPaths: XDG_RUNTIME_DIR");
+  if (type != QtDebugMsg && !note) std::cerr << text.toStdString() << '\n';
 }
 
 // Message boxes of a desk that nobody sees end up here, answered by their default button.
@@ -66,6 +73,7 @@ int RunDesk(const RunOptions& options, int argc, char** argv, std::ostream& out,
               "--offscreen-tour FOLDER draws the windows into pictures, `corvane --help` names the commands\n";
     return 1;
   }
+  if (pictures) qInstallMessageHandler(DropPlatformNotes);
   QApplication::setStyle("Fusion");
   QApplication application(argc, argv);
   QApplication::setApplicationName("Corvane");

@@ -105,6 +105,45 @@ TEST(CommandLine, AProjectThatCannotBeReadIsOneLineAndStatusOne) {
   }
 }
 
+TEST(CommandLine, ANameBeyondTheCodePageIsShownAsItIs) {
+  QTemporaryDir folder;
+  const QString path = folder.filePath(QString::fromUtf8("Склад.vbp"));
+  QFile project(path);
+  ASSERT_TRUE(project.open(QIODevice::WriteOnly));
+  project.write("Type=Exe\r\nModule=gone; gone.bas\r\nName=\"P\"\r\n");
+  project.close();
+  for (const char* command : {"list", "check"}) {
+    const Result result = RunProgram({command, path});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.ErrorLines(), (QStringList{path + ":2: gone.bas: file not found"}));
+  }
+}
+
+TEST(CommandLine, ViewColoursAFileAndInspectShowsItsStoredLines) {
+  const QString file = Sample("stockroom/modCsv.bas");
+  EXPECT_TRUE(RunProgram({"view", file}).out.contains("\x1b["));
+  EXPECT_TRUE(RunProgram({"view", "--html", file}).out.contains("<html"));
+  const Result lines = RunProgram({"inspect", "lines", file, "--mode", "vb", "--role", "1"});
+  EXPECT_EQ(lines.status, 0);
+  ASSERT_GT(lines.OutLines().size(), 10);
+  for (const QString& line : lines.OutLines()) EXPECT_TRUE(line.startsWith("{\"level\":")) << line.toStdString();
+  for (const QStringList& arguments :
+       {QStringList{"view", "/no/such.bas"}, {"inspect", "lines", "/no/such.bas", "--mode", "vb"}}) {
+    const Result missing = RunProgram(arguments);
+    EXPECT_EQ(missing.status, 1);
+    EXPECT_EQ(missing.ErrorLines().size(), 1) << missing.errors.toStdString();
+    EXPECT_TRUE(missing.errors.startsWith("/no/such.bas: ")) << missing.errors.toStdString();
+  }
+}
+
+TEST(CommandLine, CheckFindsTheSamplesIdentical) {
+  for (const char* project : {"stockroom/Stockroom.vbp", "group/Counters.vbg"}) {
+    const Result result = RunProgram({"check", Sample(project)});
+    EXPECT_EQ(result.status, 0) << result.errors.toStdString();
+    EXPECT_TRUE(result.errors.isEmpty());
+  }
+}
+
 TEST(CommandLine, AMissingModuleIsToldAndTheRestIsListed) {
   QTemporaryDir folder;
   QFile project(folder.filePath("p.vbp")), module(folder.filePath("here.bas"));

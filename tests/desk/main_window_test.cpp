@@ -118,6 +118,25 @@ TEST_F(MainWindowTest, StartTellsTheAddInThatRunModeBegins) {
   EXPECT_EQ(starts, 1);
 }
 
+TEST_F(MainWindowTest, WhatWasNotUnderstoodIsListedAndOnlyThen) {
+  auto* dock = window_->findChild<QDockWidget*>("problems");
+  EXPECT_FALSE(dock->isVisible());
+  files_.Put("C:\\Odd\\Odd.vbp", "Type=Exe\r\nModule=gone; gone.bas\r\nName=\"Odd\"\r\n");
+  environment_->Open("C:\\Odd\\Odd.vbp");
+  window_->ShowProject();
+  EXPECT_TRUE(dock->isVisible());
+  ASSERT_EQ(window_->ProblemList().topLevelItemCount(), 1);
+  EXPECT_EQ(window_->ProblemList().topLevelItem(0)->text(1), "2");
+  EXPECT_TRUE(window_->ProblemList().topLevelItem(0)->text(2).contains("gone.bas"));
+}
+
+TEST_F(MainWindowTest, AGroupOfProjectsIsShownAsOne) {
+  files_.Put("C:\\Odd\\Odd.vbp", "Type=Exe\r\nName=\"Odd\"\r\n");
+  environment_->Open("C:\\Odd\\Odd.vbp");
+  window_->ShowProject();
+  EXPECT_EQ(TreeTexts(window_->Tree()).front(), "Project Group");
+}
+
 class SavingTest : public DeskTest {
  protected:
   void SetUp() override {
