@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <variant>
 
 #include "runtime/error.h"
@@ -32,9 +33,10 @@ class Collection {
   virtual Ref<T> Item(const Index& index) = 0;
 };
 
-// `for (Ref<VBComponent> component : Each(*components))`: the items in their own order, each fetched when it is reached.
+// `for (Ref<VBComponent> component : Each(project->VBComponents()))`: the items in their own order, each fetched when it is
+// reached. The collection is held until the loop ends.
 template <class C>
-auto Each(C& collection) {
+auto Each(Ref<C> collection) {
   struct Iterator {
     C* collection;
     long position;
@@ -43,12 +45,19 @@ auto Each(C& collection) {
     bool operator!=(const Iterator& other) const { return position != other.position; }
   };
   struct Range {
-    C* collection;
+    Ref<C> collection;
     long count;
-    Iterator begin() const { return {collection, 1}; }
-    Iterator end() const { return {collection, count + 1}; }
+    Iterator begin() const { return {collection.get(), 1}; }
+    Iterator end() const { return {collection.get(), count + 1}; }
   };
-  return Range{&collection, collection.Count()};
+  const long count = collection->Count();
+  return Range{std::move(collection), count};
+}
+
+// The same for a collection that the caller keeps alive.
+template <class C>
+auto Each(C& collection) {
+  return Each(Ref<C>(Ref<void>(), &collection));
 }
 
 // A bound event. Destroying it unbinds; it may outlive the object that raises the event.
