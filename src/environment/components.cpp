@@ -104,6 +104,7 @@ void OpenProject::Remove(const host::Ref<host::VBComponent>& component) {
   auto found = std::find(modules_.begin(), modules_.end(), std::dynamic_pointer_cast<OpenModule>(component));
   if (found == modules_.end()) throw host::Error(runtime::kInvalidProcedureCall);
   std::shared_ptr<OpenModule> module = *found;
+  module->CloseWindows();
   modules_.erase(found);
   if (module->ProjectLine() != 0) {
     file_.RemoveLine(module->ProjectLine());

@@ -110,6 +110,7 @@ class HeadReader {
     // The line on which the file breaks off is no problem of its own.
     if (!head_.problems.empty() && head_.problems.back().line == lines_.Number()) head_.problems.pop_back();
     ReportCutOff(lines_.Number());
+    head_.cut_off = true;
     head_.designer_end = bytes_.size();
   }
   void ReportCutOff(long line) { head_.problems.push_back({{}, line, "the designer part breaks off before its End"}); }

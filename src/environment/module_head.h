@@ -14,6 +14,7 @@ namespace corvane::environment {
 struct ModuleHead {
   size_t designer_end = 0;  // bytes up to and with the End of the root block, 0 without a VERSION line
   size_t code_start = 0;    // behind the attributes of the module
+  bool cut_off = false;     // the designer part takes the whole file and has no end: nothing may be added behind it
   std::string version;      // "5.00", "1.0 CLASS"; empty without a VERSION line
   std::string root_class;   // "VB.Form"; "{...}" of an ActiveX designer
   std::string root_name;

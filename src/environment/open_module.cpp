@@ -40,6 +40,11 @@ OpenModule::~OpenModule() {
   Detach();
 }
 
+void OpenModule::CloseWindows() {
+  if (HasPane()) pane_->Close();
+  if (designer_open_) ShowDesigner(false);
+}
+
 void OpenModule::Detach() {
   if (pane_) pane_->Detach();
   pane_.reset();
@@ -53,6 +58,7 @@ void OpenModule::Detach() {
 
 void OpenModule::ReadSource(std::string bytes, const ModuleHead& head) {
   designer_end_ = head.designer_end;
+  cut_off_ = head.cut_off;
   charsets_ = head.charsets;
   text_ = ModuleText(std::move(bytes), head.code_start);
   procedures_.reset();
@@ -132,6 +138,7 @@ std::string OpenModule::WriteToText() const {
 }
 
 void OpenModule::Change(long start, long count, const std::string* text, bool by_user) {
+  if (cut_off_) throw host::Error(runtime::kPathFileAccessError, "the file breaks off in its designer part");
   std::vector<std::string_view> lines;
   if (text != nullptr) lines = CutIntoLines(*text);
   auto inserted = static_cast<long>(lines.size());

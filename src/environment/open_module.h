@@ -39,6 +39,8 @@ class OpenModule : public Module,
   };
   OpenModule(OpenProject& project, Source source);
   ~OpenModule() override;
+  // The component is removed: its windows close, with notice.
+  void CloseWindows();
   // The component was removed or its project ends.
   void Detach();
 
@@ -138,6 +140,7 @@ class OpenModule : public Module,
   host::FileStamp stamp_;
   ModuleText text_;
   size_t designer_end_ = 0;
+  bool cut_off_ = false;
   std::vector<long> charsets_;
   bool dirty_ = false;
   mutable std::optional<ProcedureIndex> procedures_;

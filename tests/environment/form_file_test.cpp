@@ -123,6 +123,39 @@ TEST_F(FormFile, ADesignerThatWasNotUnderstoodIsNeverWritten) {
   EXPECT_EQ(broken.At()->WriteToText(), Text(text));
 }
 
+TEST_F(FormFile, NothingIsAddedBehindADesignerThatBreaksOff) {
+  Opened broken;
+  broken.PutProject("Form=f.frm|");
+  broken.Put("f.frm", "VERSION 5.00|Begin VB.Form F |   Caption = \"x");
+  broken.environment->Open("C:\\P\\P.vbp");
+  EXPECT_EQ(broken.Code()->CountOfLines(), 0);
+  EXPECT_EQ(ErrorOf([&] { broken.Code()->InsertLines(1, "x"); }), 75);
+  EXPECT_FALSE(broken.environment->IsDirty());
+}
+
+class WindowRecorder : public Observer {
+ public:
+  std::vector<std::string> log;
+  void PaneShown(Module& module) override { log.push_back("pane of " + module.Name()); }
+  void PaneClosed(Module& module) override { log.push_back("no pane of " + module.Name()); }
+  void DesignerShown(Module& module, bool visible) override {
+    log.push_back((visible ? "designer of " : "no designer of ") + module.Name());
+  }
+  void DesignerFocused(Module& module) override { log.push_back("focus on " + module.Name()); }
+  void DesignerChanged(Module& module) override { log.push_back("changed " + module.Name()); }
+};
+
+TEST_F(FormFile, ObserversAreToldOfItsWindows) {
+  WindowRecorder recorder;
+  opened_.environment->Observe(&recorder);
+  form_->DesignerWindow()->SetFocus();
+  Caption()->SetValue(std::string("Goods"));
+  form_->CodeModule()->CodePane()->Show();
+  opened_.Project()->VBComponents()->Remove(form_);
+  EXPECT_EQ(recorder.log, (std::vector<std::string>{"designer of Form1", "focus on Form1", "changed Form1",
+                                                    "pane of Form1", "no pane of Form1", "no designer of Form1"}));
+}
+
 TEST(NewForms, AreReadBackWithoutAProblem) {
   Opened opened;
   opened.PutProject("Type=Exe|");
