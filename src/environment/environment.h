@@ -27,7 +27,7 @@ struct Problem {
 
 // The code page is one for the whole program (runtime::SetAnsiCodePage): opening sets it to what was chosen or guessed.
 struct Options {
-  int code_page = 0;  // 0: guessed from the fonts of the forms and the names of files, else the one in force
+  int code_page = 0;  // 0: guessed from the fonts of the forms and the names of files, else 1252
 };
 
 // A project made from texts, for tests: modules as they would stand in their files.

@@ -94,6 +94,8 @@ class OpenEnvironment : public Environment {
   std::shared_ptr<EventSource> events_;
 };
 
+constexpr int kUsualCodePage = 1252;
+
 // Why a file could not be read, in words.
 std::string ReasonOf(const host::Error& error);
 

@@ -5,6 +5,7 @@
 #include "environment/open_project.h"
 #include "environment/paths.h"
 #include "environment/statement.h"
+#include "runtime/code_page.h"
 #include "runtime/error.h"
 
 namespace corvane::environment {
@@ -24,6 +25,8 @@ std::string ReasonOf(const runtime::Error& error) {
 }
 
 void OpenEnvironment::Open(const std::string& path) {
+  // What an earlier environment guessed for its projects says nothing about these.
+  if (options_.code_page == 0 && projects_.empty()) runtime::SetAnsiCodePage(kUsualCodePage);
   std::string bytes = files_.Read(path);
   if (GroupFile::IsGroup(bytes))
     OpenGroup(path, bytes);

@@ -237,6 +237,7 @@ TEST_F(CodePages, TheUsersChoiceComesFirst) {
 }
 
 TEST_F(CodePages, WithoutAHintItIs1252) {
+  runtime::SetAnsiCodePage(1251);  // of a project that was open before
   Opened opened;
   opened.PutProject("Module=Main; Main.bas|");
   opened.Put("Main.bas", kMain);
