@@ -3,7 +3,6 @@
 #include <QMimeData>
 #include <QPainter>
 #include <QTextBlock>
-#include <QTimer>
 
 #include "desk/ansi_text.h"
 
@@ -75,12 +74,7 @@ void CodeEditor::PaintGutter(QPaintEvent* event) {
   }
 }
 
-// Before its first layout a pane does not know what it shows.
 void CodeEditor::ShowCursor() {
-  if (!isVisible()) {
-    QTimer::singleShot(0, this, [this] { centerCursor(); });
-    return;
-  }
   const QRect cursor = cursorRect();
   if (cursor.top() < 0 || cursor.bottom() > viewport()->height()) centerCursor();
   ensureCursorVisible();

@@ -45,6 +45,20 @@ TEST_F(MainWindowTest, WhatTheAddInShowsComesToTheFront) {
   EXPECT_EQ(environment_->ActiveCodePane()->CodeModule()->Name(), "modStock");
 }
 
+TEST_F(MainWindowTest, ALineFarDownStandsInTheMiddleOfItsPane) {
+  const auto code = Module("modStock")->CodeModule();
+  std::string lines = "' line";
+  for (int line = 1; line < 300; ++line) lines += "\r\n' line";
+  code->InsertLines(1, lines);
+  code->CodePane()->SetSelection({200, 1, 200, 1});
+  code->CodePane()->Show();
+  Settle();
+  CodeEditor& editor = window_->PaneOf(*Module("modStock"))->Editor();
+  const int height = editor.viewport()->height();
+  EXPECT_GT(editor.cursorRect().center().y(), height / 4);
+  EXPECT_LT(editor.cursorRect().center().y(), height * 3 / 4);
+}
+
 TEST_F(MainWindowTest, ClosingAPaneTakesItFromTheEnvironment) {
   window_->OpenCode(Module("modStock"));
   EXPECT_TRUE(Module("modStock")->HasPane());
