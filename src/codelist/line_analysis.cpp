@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -225,12 +226,18 @@ class VbWalk {
   }
 
   // "Open x For Input As 1" is no loop.
-  bool Holds(Condition condition) const {
-    constexpr std::string_view kOpen = "OPEN ";
+  bool Holds(Condition condition) {
     if (condition != Condition::NoOpenBefore) return true;
+    if (!firstOpen_) firstOpen_ = FirstOpen();
+    return *firstOpen_ > walk_.i;
+  }
+
+  // The end of the line when there is none.
+  size_t FirstOpen() const {
+    constexpr std::string_view kOpen = "OPEN ";
+    const std::string_view line = walk_.Line();
     auto same = [this](char c, char k) { return upper_[Index(c)] == Index(k); };
-    std::string_view before = walk_.Line().substr(0, walk_.i);
-    return std::search(before.begin(), before.end(), kOpen.begin(), kOpen.end(), same) == before.end();
+    return static_cast<size_t>(std::search(line.begin(), line.end(), kOpen.begin(), kOpen.end(), same) - line.begin());
   }
 
   void CopyRun() {
@@ -250,7 +257,8 @@ class VbWalk {
   const UpperTable& upper_ = runtime::AnsiCodePage().UpperTable();
   AnalysisState& state_;
   Walk walk_;
-  int thenState_ = 0;  // 1 behind a "Then", 2 when a statement follows it
+  int thenState_ = 0;                // 1 behind a "Then", 2 when a statement follows it
+  std::optional<size_t> firstOpen_;  // looked for once, at the first "For" of the line
 };
 
 class SqlWalk {

@@ -111,5 +111,15 @@ TEST_P(EveryLine, OfAMegabyteIsAnalysedLikeAShortOne) {
   EXPECT_EQ(AnalyseLine(GetParam(), fast, line, buffer), SimpleAnalysis(GetParam(), simple, line).Run());
 }
 
+TEST(EveryLoop, OfAMegabyteOnOneLineIsAnalysedLikeAShortOne) {
+  for (const auto& [front, size] : {std::pair{"", 1'000'000u}, {"Open f : ", 1'000u}, {"For Open : ", 1'000u}}) {
+    std::string line = front;
+    while (line.size() < size) line += "x: For ";
+    AnalysisState fast, simple;
+    LineBuffer buffer;
+    EXPECT_EQ(AnalyseLine(Language::Vb, fast, line, buffer), SimpleAnalysis(Language::Vb, simple, line).Run());
+  }
+}
+
 }  // namespace
 }  // namespace corvane::codelist

@@ -16,6 +16,7 @@ class SimpleAnalysis {
       : language_(language), state_(state), text_(std::move(text)) {
     if (state_.inBlockComment) text_.insert(0, 1, '\x06');
     upper_ = runtime::UCase(text_) + "  ";
+    open_ = runtime::InStr(upper_, "OPEN ");
   }
 
   std::string Run() {
@@ -104,10 +105,8 @@ class SimpleAnalysis {
       return false;
     if (!row.next.empty() && i_ + runtime::Len(row.match) > runtime::Len(upper_)) return false;
     switch (row.condition) {
-      case Condition::NoOpenBefore: {
-        long open = runtime::InStr(upper_, "OPEN ");
-        return open == 0 || open > i_;
-      }
+      case Condition::NoOpenBefore:
+        return open_ == 0 || open_ > i_;
       case Condition::InCase:
         return state_.sqlInCase;
       case Condition::OutsideCase:
@@ -147,7 +146,7 @@ class SimpleAnalysis {
   AnalysisState& state_;
   std::string text_, upper_, out_;
   char c_ = ' ', o_ = ' ', prev_ = ' ';
-  long i_ = 1;
+  long i_ = 1, open_ = 0;
   bool inString_ = false, inSqlString_ = false;
   int thenState_ = 0;
 };
