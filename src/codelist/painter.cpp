@@ -22,7 +22,6 @@ constexpr int32_t kHiddenFrom = 1024;  // the painter's own bound, up to kBounda
 constexpr Twips kBoldShift = 8;  // bold is the same text printed twice
 constexpr Twips kDotRadius = 40;
 constexpr long kTwipsOfGridStep = 50;
-constexpr size_t kWidthsKept = 4096;
 
 bool IsHidden(int32_t state) {
   return state >= kHiddenFrom && state < kBoundary;
@@ -35,13 +34,7 @@ Twips ucListBox::RowTop(long row) const {
 }
 
 Twips ucListBox::WidthOf(std::string_view text) {
-  if (text.empty()) return 0;
-  auto found = widths.find(text);
-  if (found != widths.end()) return found->second;
-  if (widths.size() >= kWidthsKept) widths.clear();
-  const Twips width = pic.TextWidth(text);
-  widths.emplace(text, width);
-  return width;
+  return widths.Of(text, [this](std::string_view measured) { return pic.TextWidth(measured); });
 }
 
 void ucListBox::ClearPane() {

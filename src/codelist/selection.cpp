@@ -76,26 +76,26 @@ void ucListBox::pic_MouseDown(int button, Twips x, Twips y) {
   mouseY = y;
   if (loading || !MoveToRow(RowAt(y))) return;
   if (x < gutterWidth && button == forms::vbLeftButton) return ToggleSelect();
-  dragging = true;
-  dragRow = currentRow;
-  pressTick = services.Loop.TickCount();
+  drag.running = true;
+  drag.row = currentRow;
+  drag.pressed = services.Loop.TickCount();
 }
 
 void ucListBox::pic_MouseMove(int button, int shift, Twips x, Twips y) {
   if (!SelectionIsLocked()) MouseMove(button, shift, x, y);
   tmr.SetEnabled(false);
-  if (dragging && (button & forms::vbLeftButton)) DragTo(y);
+  if (drag.running && (button & forms::vbLeftButton)) DragTo(y);
 }
 
 // Outside the surface each turn of the timer is one step more.
 void ucListBox::DragTo(Twips y) {
   const bool above = y<0, below = y> pic.ScaleHeight();
   if (above || below) {
-    scrollDirection = above ? -1 : 1;
+    drag.scrolling = above ? -1 : 1;
     tmr.SetEnabled(true);
   }
-  if (dragDirection == 0 && services.Loop.TickCount() - pressTick < kDragDelay) return;
-  long steps = above || below ? scrollDirection : RowAt(y) - dragRow;
+  if (drag.direction == 0 && services.Loop.TickCount() - drag.pressed < kDragDelay) return;
+  long steps = above || below ? drag.scrolling : RowAt(y) - drag.row;
   const bool down = steps > 0;
   for (steps = std::labs(steps); steps > 0; --steps)
     if (!DragStep(down)) break;
@@ -107,23 +107,23 @@ bool ucListBox::DragStep(bool down) {
   const long target = down ? NextVisible(currentLine) : PrevVisible(currentLine);
   if (!store.Has(target)) return false;
   const int direction = down ? 1 : -1;
-  if (currentLine != dragLine || direction != dragDirection) FlipSelected();
+  if (currentLine != drag.line || direction != drag.direction) FlipSelected();
   if (down)
     LineDown();
   else
     LineUp();
   FlipSelected();
   RepaintCurrent(highlightColor);
-  dragLine = currentLine;
-  dragRow = currentRow;
-  dragDirection = direction;
+  drag.line = currentLine;
+  drag.row = currentRow;
+  drag.direction = direction;
   return true;
 }
 
 void ucListBox::tmr_Timer() {
   tmr.SetEnabled(false);
-  if (!dragging || currentLine < 2 || currentLine >= store.Count()) return;
-  DragTo(scrollDirection < 0 ? -1 : pic.ScaleHeight() + 1);
+  if (!drag.running || currentLine < 2 || currentLine >= store.Count()) return;
+  DragTo(drag.scrolling < 0 ? -1 : pic.ScaleHeight() + 1);
 }
 
 void ucListBox::pic_MouseUp(int button, Twips x, Twips y) {
@@ -135,8 +135,7 @@ void ucListBox::pic_MouseUp(int button, Twips x, Twips y) {
 
 void ucListBox::EndDrag() {
   tmr.SetEnabled(false);
-  dragging = false;
-  dragRow = dragLine = dragDirection = scrollDirection = 0;
+  drag = {};
 }
 
 void ucListBox::pic_Click() {

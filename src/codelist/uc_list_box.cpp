@@ -78,7 +78,7 @@ void ucListBox::OnResize() {
 // Rows fill the control exactly: it takes the height of the whole rows that fit best.
 void ucListBox::Layout() {
   Raised guard(placing);
-  widths.clear();
+  widths.Forget();
   gutterWidth = pic.TextWidth("    ");
   rowHeight = pic.TextHeight("A");
   if (rowHeight <= 0) return;

@@ -2,15 +2,14 @@
 // itself and reads the markup inside their text. Lines count from 1, texts are bytes of the ANSI code page.
 #pragma once
 
-#include <cstdint>
-#include <functional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 
+#include "codelist/drag.h"
 #include "codelist/line_analysis.h"
 #include "codelist/line_store.h"
 #include "codelist/markup.h"
+#include "codelist/text_widths.h"
 #include "forms/lists.h"
 #include "forms/picture_box.h"
 #include "forms/scroll_bar.h"
@@ -219,11 +218,6 @@ class ucListBox : public forms::UserControl {
   void lbx_LostFocus();
   void lbx_KeyPress(int key);
 
-  // Finds a text by a view of it.
-  struct TextHash : std::hash<std::string_view> {
-    using is_transparent = void;
-  };
-
   host::Services& services;
   LineStore store;
   AnalysisState analysis;
@@ -242,13 +236,9 @@ class ucListBox : public forms::UserControl {
   Twips curX = 0, curY = 0;  // where the next line is drawn
   bool scrollGuard = false, noRefresh = false, hasFocus = false, quickListBusy = false, placing = false;
 
-  // The drag of a selection: row and line of its last step, direction of that and of the scrolling outside the surface.
-  bool dragging = false;
-  long dragRow = 0, dragLine = 0, dragDirection = 0, scrollDirection = 0;
-  uint32_t pressTick = 0;
+  Drag drag;
   Twips mouseX = 0, mouseY = 0;
-
-  std::unordered_map<std::string, Twips, TextHash, std::equal_to<>> widths;  // of texts in the font of the surface
+  TextWidths widths;  // in the font of the surface
 };
 
 }  // namespace corvane::codelist

@@ -12,7 +12,6 @@ namespace {
 // Files that are one table, or one thing that reads better whole, and why.
 const std::map<std::string, const char*> kMayBeLong = {
     {"src/environment/control_class_tables.cpp", "the design-time properties of every control, one row each"},
-    {"src/codelist/uc_list_box.h", "the whole face of the list; its members are defined in a file for each duty"},
 };
 
 std::vector<SourceText> All() {
