@@ -213,6 +213,7 @@ void ucListBox::EndLoad() {
     SetStrPos(1);
   } else {
     for (long row = 1; row <= visibleRows; ++row) PaintLineAt(row, row, kPlain);
+    ClearPane();  // the surface may have another size by now
     PaintLineAt(currentRow, currentLine, highlightColor);
   }
   analysis.inBlockComment = false;

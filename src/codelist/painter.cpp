@@ -68,6 +68,7 @@ void ucListBox::PaintLine(Twips x, Twips y, long index, Color colour) {
   pic.SetCurrentY(y);
   if (IsHidden(store.State(index))) return;
   PaintText(x, y, index);
+  pic.SetCurrentX(x);
   pic.SetCurrentY(y + rowHeight);
 }
 
@@ -142,11 +143,8 @@ Twips ucListBox::PaintSegment(Twips x, Twips y, std::string_view text, bool meas
       return PrintEmphasized(x, y, text.substr(close + 1), kLink);
   if (size_t bold = text.find(kBold); bold != string_view::npos)
     return PaintSplit(x, y, text.substr(0, bold), text.substr(bold + 1), true, measured);
-  if (size_t comment = CommentStart(listMode, text); comment != string_view::npos) {
-    std::string behind(text.substr(comment));
-    std::replace(behind.begin(), behind.end(), kBlockComment, ' ');
-    return PaintSplit(x, y, text.substr(0, comment), behind, false, measured);
-  }
+  if (size_t comment = CommentStart(listMode, text); comment != string_view::npos)
+    return PaintSplit(x, y, text.substr(0, comment), text.substr(comment), false, measured);
   if (text.size() > 1 && text[1] == kPictureMark)
     if (size_t end = text.find(kPictureMark, 2); end != string_view::npos && end > 2) {
       pic.PaintPicture(PictureNamed(text.substr(2, end - 2)), x + 60, y + 10, rowHeight - 40, rowHeight - 40);
@@ -177,7 +175,13 @@ Twips ucListBox::PrintEmphasized(Twips x, Twips y, std::string_view text, Color 
   return WidthOf(text);
 }
 
+// The mark of a block comment shows as a blank.
 Twips ucListBox::Print(Twips x, Twips y, std::string_view text, bool measured) {
+  if (text.find(kBlockComment) != std::string_view::npos) {
+    std::string blank(text);
+    std::replace(blank.begin(), blank.end(), kBlockComment, ' ');
+    return Print(x, y, blank, measured);
+  }
   // No character is narrower than a pixel: what lies behind the right edge need not reach the surface.
   const Twips room = std::max<Twips>(0, paneWidth - x);
   const std::string_view seen = text.substr(0, static_cast<size_t>(room / forms::kTwipsPerPixel) + 1);

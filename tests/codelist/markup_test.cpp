@@ -48,6 +48,17 @@ TEST(Markup, TheColourFollowsTheLevelInARingOfEleven) {
   EXPECT_EQ(LevelColor(201), forms::RGB(255, 0, 0));
 }
 
+TEST(Markup, EachLevelOfTheRingHasItsColour) {
+  using forms::RGB;
+  const forms::Color ring[] = {RGB(0, 0, 0),     RGB(0, 0, 255),   RGB(0, 128, 0),   RGB(255, 0, 0),
+                               RGB(255, 0, 255), RGB(0, 128, 128), RGB(128, 0, 128), RGB(128, 128, 128),
+                               RGB(0, 0, 128),   RGB(128, 128, 0), RGB(128, 0, 0)};
+  for (long index = 0; index < 11; ++index) {
+    EXPECT_EQ(LevelColor(BaseLevel + index), ring[index]) << index;
+    EXPECT_EQ(LevelColor(index - 11), ring[index]) << index << " from below 0";
+  }
+}
+
 TEST(LineStore, KeepsATextInPlaceWhileOthersAreAppendedAndReplaced) {
   LineStore store;
   store.Append("first", 33);

@@ -1,3 +1,4 @@
+#include "forms/icons.h"
 #include "list_fixture.h"
 
 namespace corvane::codelist {
@@ -28,6 +29,7 @@ class Painter : public ListTest {
     Canvas().Forget();
     return texts;
   }
+  std::string BytesOf(const char* icon) { return std::to_string(forms::Icon(icon)->bytes.size()) + " bytes"; }
   void Redraw() {
     Canvas().Forget();
     list.pic.Paint();
@@ -289,6 +291,79 @@ TEST_F(Painter, AStepDownDrawsTwoRowsOnly) {
   Load(100);
   Key(forms::vbKeyDown);
   EXPECT_EQ(DrawnTexts().size(), 2u);
+}
+
+TEST_F(Painter, TextAfterALevelMarkAtTheFirstColumnStartsExactlyAtThePen) {
+  list.sGrid("TEXT");
+  list.SetText("x\r\nab/+\\cd\r\n");
+  list.hs.SetValue(3);
+  EXPECT_THAT(TextsOnRow(2), ElementsAre("392 234 \"cd\" Arial 9.75 #0000ff"));
+}
+
+TEST_F(Painter, TheStartOfACollapsedStretchHasAYellowDot) {
+  list.AddTreeItem("a", 33, false);
+  list.AddTreeItem("b", kCollapseStart | kBoundary | 33, false);
+  Redraw();
+  EXPECT_THAT(Drawn("circle"), ElementsAre("circle 196 351 40 #ff0000 filled #ffff00"));
+  EXPECT_EQ(list.pic.FillStyle(), 1);
+}
+
+TEST_F(Painter, AStarIsThePictureOfAnItem) {
+  EXPECT_THAT(TextsOf("\x04*\x04"
+                      "x"),
+              ElementsAre("632 234 \" x\" Arial 9.75 #000000"));
+  Redraw();
+  EXPECT_THAT(Drawn("picture"), Contains("picture 452 244 194 194 " + BytesOf("list-item")));
+}
+
+TEST_F(Painter, AMenuGroupWithAnExclamationMarkHasThePictureOfAnItem) {
+  ASSERT_NE(BytesOf("list-item"), BytesOf("list-group"));
+  list.ListRole = kScriptTree;
+  list.AddTreeItem("x", 33, false);
+  list.AddTreeItem("Menu" + runtime::Space(100) + "{}", 33, false);
+  list.AddTreeItem("Menu" + runtime::Space(100) + "{}!", 33, false);
+  list.AddTreeItem("}!" + runtime::Space(100) + "{}", 33, false);
+  Redraw();
+  EXPECT_THAT(Drawn("picture"), AllOf(Contains("picture 1186 244 194 194 " + BytesOf("list-group")),
+                                      Contains("picture 1186 478 194 194 " + BytesOf("list-item")),
+                                      Contains("picture 990 712 194 194 " + BytesOf("list-group"))));
+}
+
+TEST_F(Painter, ALineInABlockCommentThatHoldsItsBeginningAgainIsGreyAsAWhole) {
+  list.sGrid("SQL");
+  list.SetText("/* a\r\nb /* c\r\n");
+  EXPECT_THAT(TextsOnRow(2), ElementsAre("490 234 \" b /* c\" Arial 9.75 #c0c0c0"));
+}
+
+TEST_F(Painter, TheMarkOfABlockCommentIsNeverDrawn) {
+  list.sGrid("SQL");
+  list.SetText("/* a\r\n*/ select b\r\n");
+  EXPECT_THAT(DrawnTexts(), Not(Contains(HasSubstr("\x06"))));
+  list.SetText("/* a\r\nb /* c\r\n");
+  EXPECT_THAT(DrawnTexts(), Not(Contains(HasSubstr("\x06"))));
+}
+
+TEST_F(Painter, RowsAppendedToAGridStandBelowOneAnother) {
+  list.sGrid("|1000,2000");
+  list.AddItem("a|b|c");
+  list.AddItem("d|e|f");
+  EXPECT_THAT(TextsOnRow(2), ElementsAre("392 234 \" d\" Arial 9.75 #000000", "1100 234 \"e\" Arial 9.75 #000000",
+                                         "2100 234 \"f\" Arial 9.75 #000000"));
+}
+
+TEST_F(Painter, EntriesAppendedToATreeStandBelowOneAnother) {
+  list.sGrid("TREE");
+  list.AddItem("+a");
+  list.AddItem("+b");
+  const std::string b = "\" b\" Arial 9.75 #0000ff";
+  EXPECT_THAT(TextsOnRow(2), ElementsAre("1658 234 " + b, "1666 234 " + b));
+}
+
+TEST_F(Painter, AResizeDuringALoadLeavesAGutterOnAllOfTheSurface) {
+  list.sGrid("TEXT");
+  services.loop.on_do_events = [this] { list.Move(0, 0, 4000, 4680); };
+  list.SetText(runtime::Replace(std::string(25, 'x'), "x", "a\r\n"));
+  EXPECT_THAT(Drawn("fill"), Contains("fill 0 0 392 4680 system:22"));
 }
 
 }  // namespace

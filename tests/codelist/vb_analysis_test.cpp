@@ -60,6 +60,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Case{"If a Then b Else c", "^If{ a }^Then{ b }^Else{ c}"},
                     Case{"If a Then If b Then c", "^If{ a }^Then{ ^If{ b }^Then{ c}"},
                     Case{"If a Then If b Then 10", "^If{ a }^Then{ ^If{ b }^Then{ 10"},
+                    Case{"If a Then If b Then 'c", "^If{ a }^Then{ ^If{ b }^Then{ 'c"},
                     Case{"If a Then: b", "^If{ a Then: b"}, Case{"If a Then \"abc\"", "^If{ a }^Then{ \"abc\""},
                     Case{"If a Then _", "^If{ a }^Then{ _}"}, Case{"If a Then [x]", "^If{ a }^Then{ [x]}"},
                     Case{"If a Then \xE4", "^If{ a }^Then{ \xE4}"}, Case{"ElseIf a Then b", "}^ElseIf{ a }^Then{ b}"}));
