@@ -116,6 +116,7 @@ void ucListBox::SetRangeOfVs() {
   vs.SetMax(std::max(1L, store.Count()));
   vs.SetMin(1);
   vs.SetLargeChange(visibleRows + 1);
+  valueOfVs = vs.Value();
 }
 
 void ucListBox::ReplaceItem(long index, std::string_view text) {
@@ -212,8 +213,8 @@ void ucListBox::EndLoad() {
   if (treeMode) {
     SetStrPos(1);
   } else {
-    for (long row = 1; row <= visibleRows; ++row) PaintLineAt(row, row, kPlain);
     ClearPane();  // the surface may have another size by now
+    for (long row = 1; row <= visibleRows; ++row) PaintLineAt(row, row, kPlain);
     PaintLineAt(currentRow, currentLine, highlightColor);
   }
   analysis.inBlockComment = false;

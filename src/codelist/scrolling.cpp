@@ -1,5 +1,7 @@
 // Which lines the rows show, and how the current line and the top line move.
 #include <algorithm>
+#include <cstdlib>
+#include <utility>
 
 #include "codelist/raised.h"
 #include "codelist/uc_list_box.h"
@@ -32,6 +34,7 @@ long ucListBox::PrevVisible(long index) const {
 void ucListBox::SetBar(forms::ScrollBar& bar, long value) {
   Raised guard(scrollGuard);
   bar.SetValue(std::max(bar.Min(), std::min(bar.Max(), value)));
+  valueOfVs = vs.Value();
 }
 
 void ucListBox::FireClick() {
@@ -53,19 +56,21 @@ long ucListBox::SetStrPos(long index) {
     Raised without(noRefresh);
     Repaint();
   }
-  SetBar(vs, topLine - 1);
+  if (topLine > 1) SetBar(vs, topLine - 1);
   pic.Refresh();
   return index;
 }
 
-// The current row keeps its place; the current line is the one that comes to stand on it.
+// The current row keeps its place; the current line is the one that comes to stand on it. A hidden top line gives way
+// to the next visible one, if there is any.
 void ucListBox::Repaint() {
-  if (loading || scrollGuard || store.Count() == 0) return;
+  if (loading || scrollGuard || !store.Has(topLine)) return;
   runtime::PassOverErrors([this] {
     ClearPane();
     firstColumn = hs.Value();
     const int32_t state = store.State(topLine);
-    if (state >= kTopHiddenFrom && state < kVisibleFrom) topLine = NextVisible(topLine);
+    const bool hidden = state >= kTopHiddenFrom && state < kVisibleFrom;
+    if (const long visible = NextVisible(topLine); hidden && store.Has(visible)) topLine = visible;
     long drawn = 0;
     for (long line = topLine; drawn < visibleRows && line <= store.Count(); line = NextVisible(line)) {
       PaintLineAt(++drawn, line, kPlain);
@@ -124,7 +129,9 @@ void ucListBox::ScrollUpOne() {
 }
 
 void ucListBox::ScrollDownOne() {
-  topLine = NextVisible(topLine);
+  const long below = NextVisible(topLine);
+  if (!store.Has(below)) return;
+  topLine = below;
   --currentRow;
   PaintRows();
   PaintRowsBehindLast();
@@ -137,36 +144,32 @@ void ucListBox::PageUp() {
   if (topLine < 2) return;
   long line = topLine;
   for (long step = visibleRows - 2; step > 0 && PrevVisible(line) >= 1; --step) line = PrevVisible(line);
-  PageTo(line);
+  StepBackFrom(NextVisible(line));
 }
 
 void ucListBox::PageDown() {
   long line = topLine;
   for (long step = visibleRows - 2; step > 0 && line <= store.Count(); --step) line = NextVisible(line);
-  if (line < store.Count()) PageTo(line);
+  if (line < store.Count()) StepBackFrom(NextVisible(line));
 }
 
-void ucListBox::PageTo(long index) {
+// [line] becomes the top line and the current one, and then gives its place to the visible line above it; with none
+// there, to the first visible line.
+void ucListBox::StepBackFrom(long line) {
+  const long first = NextVisible(0);
+  if (!store.Has(first)) return;
   ClearPane();
-  topLine = currentLine = NextVisible(index);  // ScrollUpOne takes this step back
+  topLine = currentLine = PrevVisible(line) >= first ? line : NextVisible(first);
   currentRow = 1;
   ScrollUpOne();
 }
 
 void ucListBox::GoFirst() {
-  if (store.Count() < 2) return;
-  ClearPane();
-  topLine = currentLine = 2;
-  currentRow = 1;
-  ScrollUpOne();
+  if (store.Count() >= 2) StepBackFrom(2);
 }
 
 void ucListBox::GoLast() {
-  if (store.Count() < 3) return;
-  ClearPane();
-  topLine = currentLine = store.Count();
-  currentRow = 1;
-  ScrollUpOne();
+  if (store.Count() >= 3) StepBackFrom(store.Count());
 }
 
 // [line], or the visible line next to it in the direction of travel; the other direction where there is none.
@@ -178,29 +181,44 @@ long ucListBox::LineToward(long line, bool down) const {
   return previous >= 1 ? previous : next;
 }
 
-void ucListBox::vs_Change() {
-  if (scrollGuard || loading || store.Count() == 0 || vs.Value() == topLine - 1) return;
+// The bar counts lines from 0 but starts at 1: its lowest value is that of the first line, and only of that.
+long ucListBox::ValueOfTop() const {
+  return topLine <= NextVisible(0) ? vs.Min() : std::max(vs.Min() + 1, topLine - 1);
+}
+
+// The line that the bar asks for, having moved from [before].
+long ucListBox::LineOfBar(long before, bool dragging) const {
+  const long step = vs.Value() - before;
+  if (vs.Value() <= vs.Min()) return NextVisible(0);
+  const bool one_line = std::labs(step) == 1 && !dragging && before == ValueOfTop();
+  if (one_line) return step > 0 ? NextVisible(topLine) : PrevVisible(topLine);
+  return LineToward(vs.Value() + 1, step > 0);
+}
+
+// While the user drags the bar it stays under the hand, also over hidden lines.
+void ucListBox::MovedByBar(bool dragging) {
+  if (scrollGuard || loading || store.Count() == 0) return;
   if (vs.Value() > store.Count()) return SetBar(vs, topLine);
-  const long step = vs.Value() - (topLine - 1);
-  const long line = LineToward(vs.Value() + 1, step > 0);
-  if (line < 1 || line > store.Count()) return;
-  const long row_before = currentRow;
+  const long before = std::exchange(valueOfVs, vs.Value());
+  const long step = vs.Value() - before;
+  const long line = step == 0 ? topLine : LineOfBar(before, dragging);
+  if (line != topLine && store.Has(line)) ShowFrom(line, std::labs(step) == 1);
+  if (!dragging) SetBar(vs, ValueOfTop());
+}
+
+// [line] at the top; the highlight there too, or kept on its line.
+void ucListBox::ShowFrom(long line, bool keep_highlight) {
+  const long highlighted = currentLine;
   ClearPane();
   topLine = currentLine = line;
   currentRow = 1;
   PaintRows();
-  if (step == 1 || step == -1) StandOnRow(std::min(row_before - step, visibleRows - 1));
-  RepaintCurrent(highlightColor);
-  SetBar(vs, topLine - 1);
-  pic.Refresh();
-}
-
-// Steps the current line on from the top to [row], as far as there are lines.
-void ucListBox::StandOnRow(long row) {
-  while (currentRow < row && NextVisible(currentLine) <= store.Count()) {
+  while (keep_highlight && currentLine < highlighted && currentRow < visibleRows - 1) {
     currentLine = NextVisible(currentLine);
     ++currentRow;
   }
+  RepaintCurrent(highlightColor);
+  pic.Refresh();
 }
 
 }  // namespace corvane::codelist

@@ -57,8 +57,8 @@ void ucListBox::BindEvents() {
   pic.LostFocus = [this] { FocusChanged(false); };
   pic.Paint = [this] { store.Count() > 0 ? Repaint() : ClearPane(); };
   hs.Change = [this] { Repaint(); };
-  vs.Change = [this] { vs_Change(); };
-  vs.Scroll = [this] { vs_Change(); };
+  vs.Change = [this] { MovedByBar(false); };
+  vs.Scroll = [this] { MovedByBar(true); };
   tmr.Tick = [this] { tmr_Timer(); };
   txtEdit.KeyDown = [this](int& key, int) { txtEdit_KeyDown(key); };
   txtEdit.KeyPress = [this](int& key) { txtEdit_KeyPress(key); };

@@ -183,12 +183,14 @@ class ucListBox : public forms::UserControl {
   void ScrollDownOne();
   void PageUp();
   void PageDown();
-  void PageTo(long index);
+  void StepBackFrom(long line);
   void GoFirst();
   void GoLast();
   long LineToward(long line, bool down) const;
-  void vs_Change();
-  void StandOnRow(long row);
+  long ValueOfTop() const;
+  long LineOfBar(long before, bool dragging) const;
+  void MovedByBar(bool dragging);
+  void ShowFrom(long line, bool keep_highlight);
 
   // selection.cpp
   long RowAt(Twips y) const;
@@ -231,6 +233,7 @@ class ucListBox : public forms::UserControl {
   long runningLevel = BaseLevel;
   long replaceIndex = 0, topLine = 0, currentLine = 0, currentRow = 0, previousLine = 0;
   long visibleRows = 0, firstColumn = 0;
+  long valueOfVs = 0;  // its last one, from the user or from here
   Color highlightColor = kHighlightOfCurrent;
   Twips rowHeight = 0, gutterWidth = 0, paneWidth = 0;
   Twips curX = 0, curY = 0;  // where the next line is drawn

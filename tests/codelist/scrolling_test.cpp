@@ -258,5 +258,101 @@ TEST_F(Scrolling, AnEmptyListTakesAnyKey) {
   EXPECT_THAT(events, IsEmpty());
 }
 
+TEST_F(Scrolling, WithEveryLineHiddenTheTopStays) {
+  list.sGrid("TREE");
+  list.SetText("++a\r\n");
+  EXPECT_EQ(list.TopLine(), 1);
+  list.pic.Paint();
+  for (int key : {vbKeyUp, vbKeyDown, vbKeyPageUp, vbKeyPageDown, vbKeyHome, vbKeyEnd}) Key(key);
+  EXPECT_EQ(list.TopLine(), 1);
+  list.SetText("++a\r\n++b\r\n++c\r\n");
+  for (int key : {vbKeyPageDown, vbKeyPageUp, vbKeyHome, vbKeyEnd}) Key(key);
+  EXPECT_EQ(list.TopLine(), 1);
+}
+
+TEST_F(Scrolling, HomeWithAHiddenFirstLineShowsTheFirstVisibleOne) {
+  list.sGrid("TREE");
+  list.SetText("++a\r\n++b\r\nc\r\nd\r\ne\r\n");
+  list.SetStrPos(5);
+  Canvas().Forget();
+  Key(vbKeyHome);
+  EXPECT_EQ(Where(), (Place{3, 3, 1}));
+  EXPECT_EQ(DrawnTexts().size(), 2u * 3 + 2) << "each entry twice, for its bold, and the current one again";
+}
+
+TEST_F(Scrolling, EndWithAllButTheLastLineHiddenShowsThatLine) {
+  list.sGrid("TREE");
+  list.SetText("++a\r\n++b\r\nc\r\n");
+  Key(vbKeyEnd);
+  EXPECT_EQ(Where(), (Place{3, 3, 1}));
+  EXPECT_THAT(DrawnTexts(), Not(IsEmpty()));
+}
+
+TEST_F(Scrolling, ADragOverHiddenLinesKeepsItsDirection) {
+  LoadFolded();
+  list.vs.UserScroll(2, true);
+  EXPECT_EQ(list.TopLine(), 4);
+  EXPECT_EQ(list.vs.Value(), 2) << "the bar stays under the hand";
+  list.vs.UserScroll(3, true);
+  EXPECT_EQ(list.TopLine(), 4);
+  list.vs.UserScroll(2, true);
+  EXPECT_EQ(list.TopLine(), 1) << "back over the hidden lines";
+  list.vs.UserScroll(3, true);
+  EXPECT_EQ(list.TopLine(), 4);
+  list.vs.UserScroll(4, true);
+  list.vs.UserScroll(2, true);
+  list.vs.UserScroll(2, false);
+  EXPECT_EQ(list.TopLine(), 1);
+  EXPECT_EQ(list.vs.Value(), list.vs.Min()) << "let go, it stands where the list does";
+}
+
+TEST_F(Scrolling, ABarLetGoOverHiddenLinesTakesTheValueOfTheTopLine) {
+  LoadFolded();
+  list.vs.UserScroll(2, true);
+  list.vs.UserScroll(2, false);
+  EXPECT_EQ(list.TopLine(), 4);
+  EXPECT_EQ(list.vs.Value(), 3);
+}
+
+TEST_F(Scrolling, TheBarUpToItsMinimumShowsTheFirstLine) {
+  Load(30);
+  list.vs.UserScroll(10, false);
+  list.vs.UserScroll(1, false);
+  EXPECT_EQ(list.TopLine(), 1);
+  list.vs.UserScroll(10, true);
+  list.vs.UserScroll(1, true);
+  list.vs.UserScroll(1, false);
+  EXPECT_EQ(list.TopLine(), 1);
+}
+
+TEST_F(Scrolling, StepsOfTheBarFromTheTopGoLineByLine) {
+  Load(30);
+  for (long top : {2, 3, 4}) {
+    list.vs.UserScroll(list.vs.Value() + 1, false);
+    EXPECT_EQ(list.TopLine(), top);
+  }
+  for (long top : {3, 1}) {  // the minimum is the first line
+    list.vs.UserScroll(list.vs.Value() - 1, false);
+    EXPECT_EQ(list.TopLine(), top);
+  }
+}
+
+TEST_F(Scrolling, AStepOfTheBarFromTheTopAndBackKeepsTheHighlightOnItsLine) {
+  Load(30);
+  for (int step = 0; step < 4; ++step) Key(vbKeyDown);
+  list.vs.UserScroll(2, false);
+  EXPECT_EQ(Where(), (Place{2, 5, 4}));
+  list.vs.UserScroll(1, false);
+  EXPECT_EQ(Where(), (Place{1, 5, 5}));
+}
+
+TEST_F(Scrolling, SetStrPosLeavesTheBarWhenTheTopIsTheFirstLine) {
+  Load(30);
+  list.SetStrPos(20);
+  list.SetStrPos(2);
+  EXPECT_EQ(list.TopLine(), 1);
+  EXPECT_EQ(list.vs.Value(), 17);
+}
+
 }  // namespace
 }  // namespace corvane::codelist
