@@ -181,7 +181,7 @@ void ucListBox::pic_KeyDown(int& key, int shift) {
       return SelectAll();
     case forms::vbKeyUp:
     case forms::vbKeyDown:
-      if (shift & forms::vbShiftMask) FlipSelected();
+      if (shift & forms::vbShiftMask) ToggleSelect();
       return pressed == forms::vbKeyUp ? LineUp() : LineDown();
     case forms::vbKeyPageUp:
       return PageUp();

@@ -156,6 +156,16 @@ TEST_F(Selection, ShiftWithAnArrowFlipsTheLineThatIsLeft) {
   EXPECT_THAT(SelectedLines(), ElementsAre(1, 2, 3));
 }
 
+TEST_F(Selection, ShiftWithAnArrowThatCannotGoOnShowsTheFlippedLine) {
+  Load(2);
+  Key(vbKeyUp, vbShiftMask);
+  EXPECT_THAT(Drawn("fill"), testing::Contains("fill 0 0 3745 234 #808080"));
+  Key(vbKeyDown);
+  Canvas().Forget();
+  Key(vbKeyDown, vbShiftMask);
+  EXPECT_THAT(Drawn("fill"), testing::Contains("fill 0 234 3745 234 #808080"));
+}
+
 TEST_F(Selection, SelectAllAndCopy) {
   Load(3);
   Key(vbKeyA, vbCtrlMask);
