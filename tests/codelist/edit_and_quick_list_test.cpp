@@ -79,6 +79,24 @@ TEST_F(EditBox, NeedsACurrentLine) {
   EXPECT_FALSE(list.txtEdit.Visible());
 }
 
+TEST_F(EditBox, IsAsHighAsTheLastRow) {
+  Font small = list.txtEdit.Font();
+  small.Size = 6;  // in which a line is lower than a row
+  list.txtEdit.SetFont(small);
+  list.EditCodeline();
+  EXPECT_EQ(list.txtEdit.Height(), 234);
+}
+
+TEST_F(EditBox, DownOverManyHiddenLinesScrollsOnceMore) {
+  list.sGrid("TREE");
+  list.SetText("a\r\n" + runtime::Replace(std::string(10, 'x'), "x", "++h\r\n") + "b\r\nc\r\n");
+  list.EditCodeline();
+  list.txtEdit.UserKeyDown(vbKeyDown, 0);
+  EXPECT_EQ(list.ListIndex(), 12);
+  EXPECT_EQ(list.TopLine(), 12) << "eleven lines behind the top, but the second row";
+  EXPECT_EQ(list.CurrentRow(), 1);
+}
+
 class QuickList : public ListTest {
  protected:
   void SetUp() override {

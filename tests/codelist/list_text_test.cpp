@@ -364,5 +364,102 @@ TEST_F(ListText, WholeAndLineByLineAreTheSame) {
   }
 }
 
+TEST_F(ListText, ReplacingAnotherLineComparesTheLevelBehindTheCurrentOne) {
+  list.sGrid("VB");
+  list.SetText("a\r\nIf b Then\r\nDo\r\nd\r\n");
+  ASSERT_THAT(Levels(), ElementsAre(33, 33, 34, 35));
+  list.ReplaceItem(2, "If b Then");
+  EXPECT_THAT(Levels(), ElementsAre(33, 33, 33, 34)) << "the level behind line 1 counts, not the one behind line 2";
+  list.ReplaceItem(2, "If b Then");
+  EXPECT_THAT(Levels(), ElementsAre(33, 33, 34, 35)) << "and at once again the one behind the last line painted";
+}
+
+TEST_F(ListText, ALevelCarriedBelowZeroIsStoredAbove200) {
+  Load(3);
+  list.ReplaceItem(1, runtime::Replace(std::string(40, 'x'), "x", "/-\\"));
+  EXPECT_THAT(Levels(), ElementsAre(33, 207, 207));
+}
+
+TEST_F(ListText, ACarriedLevelLeavesHiddenAndCollapsedLinesSo) {
+  list.AddTreeItem("a", 33, false);
+  list.AddTreeItem("b", 34, true);
+  list.AddTreeItem("c", kCollapseStart | kBoundary | kHidden | 34, false);
+  list.AddTreeItem("d", 35, false);
+  list.ReplaceItem(1, "x");
+  EXPECT_THAT(Levels(), ElementsAre(33, 35, 35, 36));
+  EXPECT_FALSE(list.IsLineVisible(2));
+  EXPECT_TRUE(list.IsLineVisible(3)) << "a boundary is shown although it is hidden";
+  Canvas().Forget();
+  list.pic.Paint();
+  EXPECT_EQ(Drawn("circle").size(), 1u) << "and still the start of a collapsed stretch";
+}
+
+TEST_F(ListText, ThePermissionToPassAnEndWaitsForAnEnd) {
+  const std::pair<const char*, std::function<void()>> kBetween[] = {
+      {"Clear", [this] { list.Clear(); }},
+      {"sGrid", [this] { list.sGrid("VB"); }},
+      {"a load without an end", [this] { list.SetText("a\r\n"); }},
+      {"an end in the last piece", [this] { list.SetText("a\r\nEnd Sub"); }},
+      {"a load in another role", [this] {
+         list.ListRole = kSourcePane;
+         list.SetText(kTwoProcedures);
+         list.ListRole = kCodeView;
+       }}};
+  list.sGrid("VB");
+  for (const auto& [name, act] : kBetween) {
+    list.AllProcText(true);
+    act();
+    list.SetText(kTwoProcedures);
+    EXPECT_EQ(list.ListCount(), 6) << name;
+  }
+}
+
+TEST_F(ListText, AnEndInTheLastPieceIsTold) {
+  list.sGrid("VB");
+  list.SetText("a\r\nEnd Sub");
+  EXPECT_EQ(list.ListCount(), 2);
+  EXPECT_TRUE(list.GetEndState());
+}
+
+TEST_F(ListText, TheEndIsThatOfTheLastAnalysedLine) {
+  list.sGrid("VB");
+  list.AddItem("End Sub");
+  list.AddTreeItem("x", 33, false);
+  EXPECT_TRUE(list.GetEndState()) << "a tree entry is not analysed";
+  list.Clear();
+  EXPECT_FALSE(list.GetEndState());
+}
+
+TEST_F(ListText, ACaseOfSqlOutlivesItsLoadButNotAClear) {
+  list.sGrid("SQL");
+  list.SetText("case a\r\n");
+  list.AddItem("else b");
+  EXPECT_EQ(Stored(2), "}^Else{ b");
+  list.Clear();
+  list.AddItem("else b");
+  EXPECT_EQ(Stored(1), "^Else}{ b");
+}
+
+TEST_F(ListText, ChoosingAModeKeepsTheLinesAndAnOpenComment) {
+  list.sGrid("SQL");
+  list.AddItem("/* a");
+  list.sGrid("VB");
+  list.AddItem("x");
+  EXPECT_EQ(list.ListCount(), 2);
+  EXPECT_EQ(Stored(2), "~x");
+}
+
+TEST_F(ListText, EmptyLinesAndCaptionsInABlockCommentGetNoMark) {
+  list.sGrid("SQL");
+  list.SetText("/* a\r\n\r\n::b\r\nc\r\n");
+  EXPECT_EQ(Stored(2), "");
+  EXPECT_EQ(Stored(3), "::b");
+  EXPECT_EQ(Stored(4), "~c");
+}
+
+TEST_F(ListText, ItsColourIsTheButtonFaceAtFirst) {
+  EXPECT_EQ(list.BackColor(), 0x8000000Fu);
+}
+
 }  // namespace
 }  // namespace corvane::codelist
