@@ -39,8 +39,15 @@ void Connect::SetmStart(Ref<host::VBBuildEvents> source) {
 }
 
 explorer::frmAddIn& Connect::Window() {
+  if (!toolkit.IsInAct()) left.clear();
   if (!form) form = std::make_unique<explorer::frmAddIn>(services, toolkit);
   return *form;
+}
+
+// A disconnection may come during a yield of the window's own handlers, which still go on behind it.
+void Connect::LetGoOfWindow() {
+  if (form && toolkit.IsInAct()) left.push_back(std::move(form));
+  form.reset();
 }
 
 void Connect::AddinInstance_OnConnection(const Ref<host::VBE>& application, ConnectMode mode) {
@@ -109,12 +116,14 @@ Ref<host::CommandBarControl> Connect::AddToAddInMenu(const std::string& caption)
 }
 
 void Connect::Show(bool display) {
-  PassOverErrors([&] {
-    explorer::frmAddIn& window = Window();
-    window.VBInstance = VBInstance;
-    window.Connect = this;
-    FormDisplayed = true;
-    display ? window.Display() : window.Show();
+  toolkit.Guard([&] {
+    PassOverErrors([&] {
+      explorer::frmAddIn& window = Window();
+      window.VBInstance = VBInstance;
+      window.Connect = this;
+      FormDisplayed = true;
+      display ? window.Display() : window.Show();
+    });
   });
 }
 
@@ -151,7 +160,7 @@ void Connect::AddinInstance_OnDisconnection(DisconnectMode) {
     SetmStart(nullptr);
     if (form && form->IsLoaded()) form->Unload();
   });
-  form.reset();
+  LetGoOfWindow();
 }
 
 }  // namespace corvane::addin

@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "explorer/add_in_object.h"
 #include "explorer/frm_add_in.h"
@@ -66,11 +67,13 @@ class Connect : public explorer::AddInObject {
   void BindControls();
   void ShowIfLastShown();
   explorer::frmAddIn& Window();
+  void LetGoOfWindow();
 
   host::Services& services;
   forms::Toolkit& toolkit;
   host::Ref<host::CommandBarControl> mcbToolButton, mcbMenuItem;
   std::unique_ptr<explorer::frmAddIn> form;
+  std::vector<std::unique_ptr<explorer::frmAddIn>> left;  // windows whose act was still running at a disconnection
   host::Ref<host::CommandBarEvents> menuHandler, menuHand;
   host::Ref<host::VBBuildEvents> start;
   std::unique_ptr<host::Subscription> onMenuHandler, onMenuHand, onStart;

@@ -123,6 +123,7 @@ bool Desk::AddProject(const QString& path) {
 
 void Desk::Connect(addin::ConnectMode mode) {
   if (connect_) return;
+  if (!toolkit_.IsInAct()) disconnected_.clear();
   connect_ = std::make_unique<addin::Connect>(services_, toolkit_);
   connect_->AddinInstance_OnConnection(environment_, mode);
 }
@@ -131,6 +132,7 @@ void Desk::Disconnect(addin::DisconnectMode mode) {
   if (!connect_) return;
   if (mode == addin::DisconnectMode::HostShutdown) connect_->AddinInstance_OnBeginShutdown();
   connect_->AddinInstance_OnDisconnection(mode);
+  if (toolkit_.IsInAct()) disconnected_.push_back(std::move(connect_));
   connect_.reset();
 }
 

@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QString>
 #include <memory>
+#include <vector>
 
 #include "addin/connect.h"
 #include "desk/add_in_manager.h"
@@ -68,6 +69,7 @@ class Desk : public QObject {
   std::shared_ptr<environment::Environment> environment_;
   std::unique_ptr<MainWindow> window_;
   std::unique_ptr<addin::Connect> connect_;
+  std::vector<std::unique_ptr<addin::Connect>> disconnected_;  // during an act of theirs, which goes on
   QString path_;  // of what was opened last
 };
 

@@ -20,7 +20,7 @@ void frmAddIn::Display() {
   bool wasLoaded = loadedOnce;
   Show();
   DoEvents();
-  if (wasLoaded) PopupMenu(mnuIDE, kMenuX, kMenuY);
+  if (wasLoaded && IsLoaded()) PopupMenu(mnuIDE, kMenuX, kMenuY);
 }
 
 void frmAddIn::BindEvents() {

@@ -64,6 +64,24 @@ class Connecting : public ::testing::Test {
   addin::Connect connect{services, toolkit};
 };
 
+TEST_F(Connecting, DisconnectingDuringAYieldOfTheWindowIsSafe) {
+  Connect(ConnectMode::Startup);
+  connect.Show(false);
+  bool yielded = false;
+  services.loop.on_do_events = [&] {
+    if (!yielded) Disconnect();
+    yielded = true;
+  };
+  connect.Show(true);
+  EXPECT_TRUE(yielded);
+  EXPECT_EQ(connect.mfrmAddIn(), nullptr);
+  EXPECT_TRUE(toolkit.ShownForms().empty());
+  services.loop.on_do_events = nullptr;
+  Connect(ConnectMode::Startup);
+  connect.Show(false);
+  EXPECT_TRUE(WindowShown());
+}
+
 TEST_F(Connecting, TheExternalModeMakesNoControlsAndShowsTheWindowAtOnce) {
   Connect(ConnectMode::External);
   EXPECT_THAT(Captions("Standard"), ElementsAre("Add Project", "Start", "Toolbox"));
