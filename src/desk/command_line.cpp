@@ -1,6 +1,7 @@
 #include "desk/command_line.h"
 
 #include <CLI/CLI.hpp>
+#include <charconv>
 #include <ostream>
 
 #include "desk/check_command.h"
@@ -60,6 +61,14 @@ int WithFile(const Command& command, const std::string& path, Work work) {
   return work(bytes);
 }
 
+// An empty answer lets the word pass.
+std::string CheckCodePage(const std::string& word) {
+  int number = 0;
+  const auto [end, problem] = std::from_chars(word.data(), word.data() + word.size(), number);
+  const bool known = problem == std::errc() && end == word.data() + word.size() && IsKnownCodePage(number);
+  return known ? "" : word + " is no code page that is known";
+}
+
 template <class Word>
 std::map<std::string, Word> WordMap(const std::vector<std::pair<std::string, Word>>& words) {
   return {words.begin(), words.end()};
@@ -81,13 +90,14 @@ class CommandLine {
     } catch (const CLI::ParseError& error) {
       return app_.exit(error, command_.out, command_.errors) == 0 ? kDone : kWrongUsage;
     }
-    return run_ ? run_() : RunDesk(desk_, argc, argv, command_.out, command_.errors);
+    return run_ ? Written(run_()) : RunDesk(desk_, argc, argv, command_.out, command_.errors);
   }
 
  private:
   void DefineDesk() {
     app_.add_option("PROJECT", desk_.project, "a Visual Basic 6 project or group to open (.vbp, .vbg)");
-    app_.add_option("--codepage", desk_.code_page, "Windows code page of the project; guessed when it is left out");
+    app_.add_option("--codepage", desk_.code_page, "Windows code page of the project; guessed when it is left out")
+        ->check(CheckCodePage);
     app_.add_flag("--explorer", desk_.explorer, "open the explorer at once");
     app_.add_option("--connect-mode", desk_.connect_mode,
                     "how the add-in is connected: 0 by hand, 1 at startup, 2 external, 3 command line")
@@ -96,6 +106,13 @@ class CommandLine {
     app_.add_option("--screenshots", desk_.screenshots, "draw every window into this folder, and end");
     app_.add_option("--suffix", desk_.suffix, "added to the names of the screenshots");
     app_.set_version_flag("--version", std::string("Corvane ") + CORVANE_VERSION);
+  }
+
+  // [status], unless the output got lost, as on a full disk.
+  int Written(int status) {
+    if (command_.out.flush()) return status;
+    command_.errors << "the output cannot be written\n";
+    return kInputProblem;
   }
 
   CLI::App* Define(const char* name, const char* description, std::function<int()> run) {
@@ -107,12 +124,13 @@ class CommandLine {
   CLI::App* DefineOnProject(const char* name, const char* description, std::function<int()> run) {
     CLI::App* command = Define(name, description, std::move(run));
     command->add_option("PROJECT", path_, "the project (.vbp) or group (.vbg)")->required();
-    AddCodePage(command);
+    AddCodePage(command, "guessed");
     return command;
   }
 
-  void AddCodePage(CLI::App* command) {
-    command->add_option("--codepage", command_.code_page, "Windows code page; guessed when it is left out");
+  void AddCodePage(CLI::App* command, const std::string& left_out) {
+    command->add_option("--codepage", command_.code_page, "Windows code page; " + left_out + " when it is left out")
+        ->check(CheckCodePage);
   }
 
   void DefineList() {
@@ -139,7 +157,7 @@ class CommandLine {
     });
     view->add_option("FILE", path_, "a module, or any text")->required();
     view->add_flag("--html", html_, "as an HTML page");
-    AddCodePage(view);
+    AddCodePage(view, "1252");
   }
 
   void DefineCheck() {
@@ -156,8 +174,8 @@ class CommandLine {
     CLI::App* lines = inspect->add_subcommand("lines", "the lines of a file as a list stores them, as JSON Lines");
     lines->add_option("FILE", path_, "any text")->required();
     lines->add_option("--mode", mode_, "vb, sql or text")->required()->check(CLI::IsMember({"vb", "sql", "text"}));
-    lines->add_option("--role", role_, "ListRole of the list; 0 when it is left out");
-    AddCodePage(lines);
+    lines->add_option("--role", role_, "ListRole of the list, 0 to 2; 0 when it is left out")->check(CLI::Range(0, 2));
+    AddCodePage(lines, "1252");
     lines->callback([this] {
       run_ = [this] {
         return WithFile(command_, path_, [this](const std::string& bytes) {

@@ -5,7 +5,8 @@
 
 namespace corvane::desk {
 
-// 0 done, 1 a problem of the input (a line each on [errors]: file, line, what is wrong), 2 wrong usage; `check` also 3.
+// 0 done, 1 a problem of the input (a line each on [errors]: file, line, what is wrong) or an output that cannot be
+// written, 2 wrong usage; `check` also 3.
 int RunCommandLine(int argc, char** argv, std::ostream& out, std::ostream& errors);
 
 }  // namespace corvane::desk

@@ -18,4 +18,9 @@ int InspectLines(const std::string& file_bytes, const std::string& mode, int lis
   return 0;
 }
 
+// A page that is not known is taken as another one.
+bool IsKnownCodePage(int number) {
+  return runtime::CodePage(number).Number() == number;
+}
+
 }  // namespace corvane::desk

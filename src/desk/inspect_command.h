@@ -12,4 +12,7 @@ namespace corvane::desk {
 int InspectLines(const std::string& file_bytes, const std::string& mode, int list_role, int code_page,
                  std::ostream& out);
 
+// Whether text of that Windows code page can be read.
+bool IsKnownCodePage(int number);
+
 }  // namespace corvane::desk

@@ -16,8 +16,9 @@ struct Result {
   QStringList ErrorLines() const { return errors.split('\n', Qt::SkipEmptyParts); }
 };
 
-Result RunProgram(const QStringList& arguments) {
+Result RunProgram(const QStringList& arguments, const QString& output_file = {}) {
   QProcess process;
+  if (!output_file.isEmpty()) process.setStandardOutputFile(output_file);
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) environment.remove(name);
   process.setProcessEnvironment(environment);
@@ -38,15 +39,50 @@ TEST(CommandLine, HelpNamesTheCommandsAndIsDone) {
 }
 
 TEST(CommandLine, WrongUsageIsTwo) {
-  for (const QStringList& arguments : {QStringList{"list"},
-                                       {"list", "--kind", "odd", "x.vbp"},
-                                       {"--no-such-option"},
-                                       {"--connect-mode", "7"},
-                                       {"inspect"},
-                                       {"inspect", "lines"},
-                                       {"inspect", "lines", "x.bas", "--mode", "odd"},
-                                       {"check"}})
+  for (const QStringList& arguments :
+       {QStringList{"list"},
+        {"list", "--kind", "odd", "x.vbp"},
+        {"--no-such-option"},
+        {"--connect-mode", "7"},
+        {"inspect"},
+        {"inspect", "lines"},
+        {"inspect", "lines", "x.bas", "--mode", "odd"},
+        {"inspect", "lines", Sample("stockroom/modCsv.bas"), "--mode", "vb", "--role", "3"},
+        {"check"}})
     EXPECT_EQ(RunProgram(arguments).status, 2) << arguments.join(' ').toStdString();
+}
+
+TEST(CommandLine, ACodePageThatIsNotKnownIsWrongUsage) {
+  const QString project = Sample("stockroom/Stockroom.vbp"), file = Sample("stockroom/modCsv.bas");
+  for (const QString& page : {"437", "0", "-1", "65001", "1252x", "cp1252", ""})
+    for (const QStringList& command : {QStringList{"list", project},
+                                       {"check", project},
+                                       {"view", file},
+                                       {"inspect", "lines", file, "--mode", "vb"},
+                                       {project}}) {
+      const Result result = RunProgram(command + QStringList{"--codepage", page});
+      EXPECT_EQ(result.status, 2) << command.join(' ').toStdString() << " " << page.toStdString();
+      EXPECT_TRUE(result.out.isEmpty());
+    }
+  EXPECT_EQ(RunProgram({"view", file, "--codepage", "1251"}).status, 0);
+}
+
+TEST(CommandLine, HelpSaysWhichCodePageIsTakenWhenItIsLeftOut) {
+  for (const char* command : {"list", "check"})
+    EXPECT_TRUE(RunProgram({command, "--help"}).out.simplified().contains("guessed when it is left out")) << command;
+  for (const QStringList& command : {QStringList{"view"}, {"inspect", "lines"}})
+    EXPECT_TRUE(RunProgram(command + QStringList{"--help"}).out.simplified().contains("1252 when it is left out"));
+}
+
+TEST(CommandLine, AnOutputThatCannotBeWrittenIsOneLineAndStatusOne) {
+  const QString project = Sample("stockroom/Stockroom.vbp"), file = Sample("stockroom/modCsv.bas");
+  if (!QFile::exists("/dev/full")) GTEST_SKIP() << "no device that is always full";
+  for (const QStringList& command :
+       {QStringList{"list", project}, {"view", file}, {"inspect", "lines", file, "--mode", "vb"}}) {
+    const Result result = RunProgram(command, "/dev/full");
+    EXPECT_EQ(result.status, 1) << command.join(' ').toStdString();
+    EXPECT_EQ(result.ErrorLines(), QStringList{"the output cannot be written"});
+  }
 }
 
 TEST(CommandLine, WithoutADisplayTheDeskSaysSoAndNamesTheOtherWay) {

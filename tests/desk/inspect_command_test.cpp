@@ -42,6 +42,12 @@ TEST(InspectLines, WritesUtf8ThroughTheCodePage) {
   EXPECT_EQ(Inspect("\xE4", "text", 0, 1251), "{\"level\":33,\"text\":\"\xD0\xB4\"}\n");
 }
 
+TEST(InspectLines, TheCodePagesOfWindowsAreKnown) {
+  for (int page : {874, 932, 936, 949, 950, 1250, 1251, 1252, 1253, 1254, 1255, 1256, 1257, 1258})
+    EXPECT_TRUE(IsKnownCodePage(page)) << page;
+  for (int page : {0, -1, 437, 1249, 1259, 65001}) EXPECT_FALSE(IsKnownCodePage(page)) << page;
+}
+
 TEST(InspectLines, AnEmptyFileHasNoLines) {
   EXPECT_EQ(Inspect("", "vb"), "");
 }
