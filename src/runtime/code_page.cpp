@@ -107,7 +107,8 @@ constexpr std::string_view kSymbols = "-,;:!?'\"()[]{}@*/\\&#%`^+<=>|~$";
 uint16_t PlaceInList(const CodePage& page, unsigned char byte) {
   enum Group : uint16_t {
     kBlank = 1,
-    kControl = 2,
+    kTab = 2,
+    kControl = 3,
     kPoint = 10,
     kSymbol = 20,
     kUnderscore = 60,
@@ -115,7 +116,8 @@ uint16_t PlaceInList(const CodePage& page, unsigned char byte) {
     kDigit = 500,
     kLetter = 1000
   };
-  if (byte == ' ' || byte == '\t') return kBlank;
+  if (byte == ' ') return kBlank;
+  if (byte == '\t') return kTab;
   if (byte == '.') return kPoint;
   if (byte == '_') return kUnderscore;
   if (byte >= '0' && byte <= '9') return static_cast<uint16_t>(kDigit + byte);

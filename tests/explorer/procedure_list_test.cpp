@@ -127,6 +127,20 @@ TEST_F(ProcedureList, AModuleOfFewerThanTwoLinesGivesTheDeclarationsRowAlone) {
   EXPECT_THAT(CodeRows(), IsEmpty());
 }
 
+TEST_F(ProcedureList, HeadersIndentedByTabsStandBehindTheDeclarations) {
+  OpenWindow({Frm("frmA", {"Dim a", "", "\tPublic Sub One()", "\tEnd Sub", "\t\tPublic Sub Two()", "\t\tEnd Sub"}),
+              Frm("frmB", {"Dim b", ""})});
+  ChooseComponent("frmA");
+  EXPECT_THAT(Procedures(), ElementsAre("Declarations", "\t\tPublic Sub Two()", "\tPublic Sub One()"));
+  form.lbxProc->UserSelect(2);
+  EXPECT_THAT(CodeRows(), Contains(HasSubstr("Sub One()")));
+  form.lbxProc->UserSelect(0);
+  EXPECT_THAT(CodeRows(), ElementsAre("Dim a"));
+  Caret("frmA", 1);
+  form.optCurMod.UserClick();
+  EXPECT_THAT(form.lbxProc->List(0), StartsWith("  Declarations"));
+}
+
 TEST_F(ProcedureList, ADoubleClickGoesToTheStartOfTheProcedure) {
   OpenWindow(kShop);
   ChooseComponent("frmMain");

@@ -84,8 +84,8 @@ TEST(CodePage, TheCharsetOfAFontNamesItsPage) {
 }
 
 TEST(ListOrder, IsBlankPointSymbolsDigitsLettersWithoutCase) {
-  const std::vector<std::string> sorted = {" a",      ".a",      ":a",      "_a",     "1a",    "a", "Form1", "form1 x",
-                                           "Form1.x", "FORM1:x", "Form1_x", "Form10", "Formx", "z", "\xC4"};
+  const std::vector<std::string> sorted = {" a",      "\ta",     ".a",      ":a",      "_a",     "1a",    "a", "Form1",
+                                           "form1 x", "Form1.x", "FORM1:x", "Form1_x", "Form10", "Formx", "z", "\xC4"};
   for (size_t i = 0; i + 1 < sorted.size(); ++i) {
     EXPECT_LT(CompareAsListed(sorted[i], sorted[i + 1]), 0) << sorted[i] << " / " << sorted[i + 1];
     EXPECT_GT(CompareAsListed(sorted[i + 1], sorted[i]), 0);
