@@ -1,4 +1,5 @@
 #include "explorer/project_access.h"
+#include "runtime/code_page.h"
 #include "runtime/strings.h"
 
 namespace corvane::explorer {
@@ -14,9 +15,11 @@ std::string WordAt(const std::string& line, const host::Selection& selection) {
   if (selection.start_column > Len(line) || Len(line) < 2) return {};
   if (selection.start_line == selection.end_line && selection.start_column != selection.end_column)
     return Mid(line, selection.start_column, selection.end_column - selection.start_column);
-  size_t separator = line.find_last_of(kSeparators, static_cast<size_t>(selection.start_column) - 1);
-  std::string word = separator == std::string::npos ? line : line.substr(separator + 1);
-  return word.substr(0, word.find_first_of(kSeparators));
+  std::string copy;
+  const std::string_view searched = AnsiCodePage().ForSearch(line, copy);
+  size_t separator = searched.find_last_of(kSeparators, static_cast<size_t>(selection.start_column) - 1);
+  const size_t start = separator == std::string_view::npos ? 0 : separator + 1;
+  return line.substr(start, searched.find_first_of(kSeparators, start) - start);
 }
 
 }  // namespace

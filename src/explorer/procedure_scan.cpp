@@ -92,7 +92,9 @@ class Scan {
 
   // A name that only a parameter has does not count.
   bool NameFits() const {
+    const runtime::CodePage& page = runtime::AnsiCodePage();
     long at = InStr(line_, name_), paren = InStr(line_, "(");
+    while (at > 0 && page.IsSecondByte(line_, static_cast<size_t>(at) - 1)) at = InStr(at + 1, line_, name_);
     return at > 0 && (paren == 0 || at < paren);
   }
 
@@ -123,6 +125,8 @@ struct SubMarks {
 };
 
 SubMarks MarksOf(std::string_view text) {
+  std::string copy;
+  text = runtime::AnsiCodePage().ForSearch(text, copy);
   SubMarks marks;
   marks.sub = InStr(text, "SUB ");
   if (marks.sub == 0) return marks;

@@ -190,6 +190,24 @@ std::string CodePage::Mapped(std::string_view bytes, const std::array<unsigned c
   return result;
 }
 
+std::string_view CodePage::ForSearch(std::string_view bytes, std::string& copy) const {
+  if (!double_byte_) return bytes;
+  copy = bytes;
+  for (size_t i = 0; i + 1 < copy.size(); ++i) {
+    if (!lead_[static_cast<unsigned char>(copy[i])]) continue;
+    copy[i + 1] = copy[i];
+    ++i;
+  }
+  return copy;
+}
+
+bool CodePage::IsSecondByte(std::string_view bytes, size_t at) const {
+  if (!double_byte_) return false;
+  size_t character = 0;
+  while (character < at) character += lead_[static_cast<unsigned char>(bytes[character])] ? 2 : 1;
+  return character != at;
+}
+
 std::string CodePage::ToUpper(std::string_view bytes) const {
   return Mapped(bytes, upper_);
 }

@@ -20,6 +20,13 @@ class CodePage {
   // Whether [byte] is a letter, digit or underscore of this page (every byte of a two-byte character is).
   bool IsWordByte(unsigned char byte) const { return word_[byte]; }
 
+  // Whether the byte at [at] (from 0) of [bytes] is the second of a character of two bytes. Walks from the start.
+  bool IsSecondByte(std::string_view bytes, size_t at) const;
+  // A text of the same length in which a search for ASCII characters finds none inside a character of two bytes:
+  // [bytes] itself, or, in a page that has such characters, [copy], in which their first byte stands in place of the
+  // second.
+  std::string_view ForSearch(std::string_view bytes, std::string& copy) const;
+
   // Case by this page. Lengths never change: a letter whose other case is not in the page stays as it is.
   std::string ToUpper(std::string_view bytes) const;
   std::string ToLower(std::string_view bytes) const;

@@ -1,4 +1,5 @@
 #include "explorer/project_access.h"
+#include "runtime/code_page.h"
 #include "tests/explorer/explorer_fixture.h"
 
 namespace corvane::tests {
@@ -50,6 +51,20 @@ TEST_F(WordAtCaret, ASelectionOnOneLineIsTakenAsItIs) {
 
 TEST_F(WordAtCaret, ASelectionOfSeveralLinesCountsByItsStart) {
   EXPECT_EQ(Word("Dim total", {1, 6, 2, 3}), "total");
+}
+
+// The second byte of the first character is that of a backslash.
+TEST_F(WordAtCaret, ASecondByteOfACharacterIsNoSeparator) {
+  Open({Bas("modMain", {"Dim \x83\x5C\x83\x43x As Long", "a = b\\c + 1"})});
+  const auto word_at = [this](long line, long column) {
+    Caret("modMain", line, column);
+    return explorer::CurrentWord(environment);
+  };
+  runtime::SetAnsiCodePage(932);
+  for (long column : {5, 7, 9}) EXPECT_EQ(word_at(1, column), "\x83\x5C\x83\x43x") << column;
+  EXPECT_EQ(word_at(2, 7), "c");
+  runtime::SetAnsiCodePage(1252);
+  EXPECT_EQ(word_at(1, 7), "\x83\x43x");
 }
 
 TEST_F(WordAtCaret, WithoutACodePaneThereIsNone) {

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "environment/environment.h"
+#include "runtime/code_page.h"
 #include "tests/support/counting_host.h"
 #include "tests/support/fake_services.h"
 #include "tests/support/sources.h"
@@ -221,6 +222,25 @@ TEST(IsPlainSub, TellsByTheUnderscoreInTheName) {
     EXPECT_EQ(explorer::IsPlainSub(c.line), c.plain) << c.line;
     EXPECT_EQ(explorer::IsEventSub(c.line), c.event) << c.line;
   }
+}
+
+// A two-byte character whose second byte is that of an underscore.
+TEST(IsPlainSub, ASecondByteOfACharacterIsNoUnderscore) {
+  runtime::SetAnsiCodePage(932);
+  EXPECT_TRUE(explorer::IsPlainSub("SUB \x83\x5F\x83\x43()"));
+  EXPECT_FALSE(explorer::IsEventSub("SUB \x83\x5F\x83\x43()"));
+  EXPECT_FALSE(explorer::IsPlainSub("SUB \x83\x5F_CLICK()"));
+  EXPECT_TRUE(explorer::IsEventSub("SUB \x83\x5F_CLICK()"));
+  runtime::SetAnsiCodePage(1252);
+  EXPECT_TRUE(explorer::IsEventSub("SUB \x83\x5F\x83\x43()"));
+}
+
+TEST_F(Scan, ANameFilterDoesNotFindASecondByte) {
+  const auto module = Load({"Dim a", "", "Sub \x83\x41()", "End Sub", "Sub \x83\x41_Pay1()", "End Sub"});
+  runtime::SetAnsiCodePage(932);
+  EXPECT_THAT(LinesFound(*module, {ProcedureKind::All, Visibility::All, "a"}), ElementsAre(5));
+  EXPECT_THAT(LinesFound(*module, {ProcedureKind::All, Visibility::All, "\x83\x41"}), ElementsAre(3, 5));
+  runtime::SetAnsiCodePage(1252);
 }
 
 }  // namespace

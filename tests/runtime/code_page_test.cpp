@@ -77,6 +77,24 @@ TEST(CodePage, WordBytesAreLettersDigitsAndTheUnderscore) {
   for (unsigned char byte : {' ', '.', '-', '\xD7', '\xA7', '\x80'}) EXPECT_FALSE(page.IsWordByte(byte)) << int(byte);
 }
 
+TEST(CodePage, TellsTheSecondBytesOfATwoByteCharacter) {
+  const std::string text = "a\x83\x5F_\x83\x83\x5C\x83";
+  const bool second[] = {false, false, true, false, false, true, false, false};
+  for (size_t at = 0; at < text.size(); ++at) {
+    EXPECT_EQ(CodePage(932).IsSecondByte(text, at), second[at]) << at;
+    EXPECT_FALSE(CodePage(1252).IsSecondByte(text, at)) << at;
+  }
+}
+
+TEST(CodePage, ASearchFindsNoSecondByte) {
+  const std::string text = "a\x83\x5F_\x83\x83\x5C\x83";
+  std::string copy;
+  const std::string_view searched = CodePage(932).ForSearch(text, copy);
+  EXPECT_EQ(searched, "a\x83\x83_\x83\x83\x5C\x83");
+  EXPECT_EQ(searched.find('_'), 3u);
+  EXPECT_EQ(CodePage(1252).ForSearch(text, copy).data(), text.data()) << "nothing is copied";
+}
+
 TEST(CodePage, TheCharsetOfAFontNamesItsPage) {
   EXPECT_EQ(CodePageOfCharset(204), 1251);
   EXPECT_EQ(CodePageOfCharset(128), 932);
