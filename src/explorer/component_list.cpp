@@ -154,6 +154,7 @@ void frmAddIn::lbxComp_Click() {
 // The search box always offers the name that was chosen last.
 void frmAddIn::OfferInSearch(const std::string& rowText) {
   if (!rowText.empty() && !BeginsWithBlank(rowText)) cmbSearch.SetText(rowText);
+  pendingComponent.clear();
 }
 
 bool frmAddIn::TakePendingComponent(long& index) {

@@ -93,7 +93,9 @@ class frmAddIn : public forms::Form {
 
   bool goMode = false, toProcStart = false;
   std::string pendingComponent;  // name of a component to choose at the next choice
-  std::string previousPoint;     // bookmark row of the place the latest jump left; empty before the first
+  std::string currentText;       // component row that was selected before the list was rebuilt
+  long currentItemData = 0;
+  std::string previousPoint;  // bookmark row of the place the latest jump left; empty before the first
 
  private:
   // What a choice of a mode or pair remembers of each of the two list pairs.
@@ -121,6 +123,7 @@ class frmAddIn : public forms::Form {
   void Form_Load();
   void Form_Activate();
   void Form_Unload();
+  void ForgetChoices();
   void Form_KeyDown(int& key, int shift);
   void tlbr_ButtonClick(int position);
   void Refresh();
@@ -220,8 +223,10 @@ class frmAddIn : public forms::Form {
   bool wasMinimised = false;     // at the end of the last resize
   long kindFilter = 0;           // 0 all, 1 forms, 2 user controls, 3 standard modules, 4 classes
   long currentComponent = 0;     // position of the component in view
-  std::string currentText;       // component row that was selected before the list was rebuilt
-  long currentItemData = 0;
+  long chosenRow = -1;           // of the components, before a text is typed
+  long fills = 0;                // listings begun: one that finds another number behind a yield ends there
+  long textsShown = 0;           // texts given to the code view, to the same end
+  bool proceduresHadFocus = false;
 
   int pair = 0;
   long pairLine[kPairs] = {};

@@ -268,6 +268,7 @@ void frmAddIn::ResetToDesign() {
   lbxComp = &lbxComp1;
   lbxProc = &lbxProc1;
   pair = 0;
+  ForgetChoices();
   initDone = keepFilters = skipGlobals = goMode = toProcStart = designerFromRow = wasMinimised = false;
   SetCaption("Corvane V 1.0");
   Move(Left(), Top(), 10800, 9600);

@@ -11,7 +11,7 @@ void frmAddIn::SwitchPair(int to) {
   pairCurMod[pair] = optCurMod.Value();
   pairLine[pair] = txtCode.ListIndex();
   // The second pair goes on with the component that is in view.
-  if (to == 1) pendingComponent = lbxComp->List(optCurMod.Value() ? 0 : lbxComp->ListIndex());
+  pendingComponent = to == 1 ? lbxComp->List(optCurMod.Value() ? 0 : lbxComp->ListIndex()) : std::string();
   ShowPair(to);
   txtCode.Clear();
   {

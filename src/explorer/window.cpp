@@ -122,6 +122,14 @@ void frmAddIn::Form_Activate() {
 void frmAddIn::Form_Unload() {
   activated = false;
   loadedOnce = false;
+  ForgetChoices();
+}
+
+void frmAddIn::ForgetChoices() {
+  ++fills;
+  pendingComponent.clear();
+  currentText.clear();
+  currentItemData = 0;
 }
 
 // The buttons of the surface take no focus: these keys stand for them.

@@ -72,6 +72,55 @@ TEST_F(ListPairs, AWaitingComponentIsTakenByTheNextChoice) {
   EXPECT_EQ(form.pendingComponent, "");
 }
 
+TEST_F(ListPairs, AKindButtonOpensItsFirstComponentWhateverWaits) {
+  OpenWindow(kShop);
+  ChooseComponent("modMain");
+  form.optSecond.UserClick();
+  ASSERT_EQ(form.pendingComponent, "modMain");
+  form.axClasses.Click();
+  EXPECT_THAT(Components(), ElementsAre(" Project Globals", "clsItem"));
+  EXPECT_EQ(form.lbxComp->Text(), "clsItem");
+  EXPECT_THAT(CodeRows(), ElementsAre("Private a", "Private b"));
+  EXPECT_EQ(form.pendingComponent, "");
+}
+
+TEST_F(ListPairs, TheFirstPairIsOfferedNothing) {
+  OpenWindow(kShop);
+  ChooseComponent("modMain");
+  form.optSecond.UserClick();
+  form.optFirst.UserClick();
+  EXPECT_EQ(form.pendingComponent, "");
+}
+
+TEST_F(ListPairs, AWaitingComponentDoesNotOutliveTheWindow) {
+  OpenWindow(kShop);
+  ChooseComponent("modMain");
+  form.optSecond.UserClick();
+  form.Unload();
+  EXPECT_EQ(form.pendingComponent, "");
+  EXPECT_EQ(form.currentText, "");
+  EXPECT_EQ(form.currentItemData, 0);
+}
+
+TEST_F(ListPairs, TheCurrentCodeIsNotListedWhileTheModeIsRestored) {
+  Open(kShop);
+  Caret("modMain", 6);
+  OpenWindow();
+  form.optSecond.UserClick();
+  bool asked = false, shown = true;
+  form.optCurMod.Click = [&] {
+    asked = true;
+    shown = form.CurrentModule();
+  };
+  Caret("clsItem", 1);
+  form.optFirst.UserClick();
+  EXPECT_TRUE(asked);
+  EXPECT_FALSE(shown);
+  EXPECT_THAT(Components(), ElementsAre("modMain"));
+  EXPECT_TRUE(form.CurrentModule());
+  EXPECT_THAT(Components(), ElementsAre("clsItem"));
+}
+
 TEST_F(ListPairs, AWaitingComponentThatTheProjectDoesNotHoldIsForgotten) {
   OpenWindow(kShop);
   form.pendingComponent = "clsGone";
