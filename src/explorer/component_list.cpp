@@ -1,4 +1,6 @@
 // The list of components and what fills it.
+#include <algorithm>
+
 #include "explorer/frm_add_in.h"
 #include "explorer/project_access.h"
 #include "explorer/rows.h"
@@ -158,6 +160,7 @@ void frmAddIn::OfferInSearch(const std::string& rowText) {
 }
 
 bool frmAddIn::TakePendingComponent(long& index) {
+  chosenRow = lbxComp->ListIndex();
   if (pendingComponent.empty()) return false;
   std::string name = std::exchange(pendingComponent, {});
   index = FindComponentIndex(VBInstance, name);
@@ -225,3 +228,8 @@ void frmAddIn::txtFind_KeyPress(int key) {
 }
 
 }  // namespace corvane::explorer
+  if (row >= 0) chosenRow = row;
+  if (busy) return;
+  if (lbxComp->ListCount() == 0) return;
+  SetWhile restoring(busy);
+  lbxComp->SetListIndex(std::clamp(chosenRow, 0L, lbxComp->ListCount() - 1));

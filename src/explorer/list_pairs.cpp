@@ -35,3 +35,4 @@ void frmAddIn::ShowPair(int to) {
 }
 
 }  // namespace corvane::explorer
+  chosenRow = lbxComp->ListIndex();

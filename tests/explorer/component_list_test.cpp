@@ -218,7 +218,28 @@ TEST_F(ComponentList, ATypedNameChoosesItsRow) {
   EXPECT_THAT(Procedures(), ElementsAre("Declarations", "Property Get Name()"));
 }
 
-TEST_F(ComponentList, AFilterClickDuringAYieldOfAListingDoesNotListTwice) {
+TEST_F(ComponentList, ATypedNameThatIsInNoRowGivesWayToTheChosenOne) {
+  OpenWindow(kShop);
+  for (const char* chosen : {"clsItem", " Project Globals", "modMain"}) {
+    ChooseComponent(chosen);
+    const long row = form.lbxComp->ListIndex();
+    const auto procedures = Procedures();
+    form.lbxComp->SetFocus();
+    form.lbxComp->UserEdit("nonsense");
+    ASSERT_EQ(form.lbxComp->ListIndex(), -1);
+    Press(*form.lbxComp, forms::vbKeyReturn);
+    EXPECT_EQ(form.lbxComp->Text(), chosen);
+    EXPECT_EQ(form.lbxComp->ListIndex(), row);
+    EXPECT_EQ(Procedures(), procedures);
+    EXPECT_TRUE(form.lbxComp->HasFocus());
+  }
+  form.optSecond.UserClick();
+  form.lbxComp->UserEdit("nonsense");
+  Press(*form.lbxComp, forms::vbKeyReturn);
+  EXPECT_EQ(form.lbxComp->Text(), "nonsense") << "nothing is listed that it could give way to";
+}
+
+TEST_F(ComponentList, AChoiceDuringTheFirstListingDoesNotListTwice) {
   Open(kShop);
   form.VBInstance = environment;
   long clicks = 0;
