@@ -108,15 +108,22 @@ void frmAddIn::ShowBlock(host::CodeModule& module, long line) {
   txtCode.AllProcText(false);
 }
 
-// Escape has hidden the view; a text that comes into it must be seen.
+// A text that is shown while another one loads raw takes its place, and is not raw.
 void frmAddIn::ShowCode(const std::string& text) {
-  txtCode.SetVisible(true);
-  txtCode.SetText(text);
+  txtCode.NoAnalyse = false;
+  ShowText(text);
 }
 
 void frmAddIn::ShowRaw(const std::string& text) {
   SetWhile raw(txtCode.NoAnalyse);
-  ShowCode(text);
+  ShowText(text);
+}
+
+// Escape has hidden the view; a text that comes into it must be seen.
+void frmAddIn::ShowText(const std::string& text) {
+  ++textsShown;
+  txtCode.SetVisible(true);
+  txtCode.SetText(text);
 }
 
 void frmAddIn::txtCode_TextDone() {
@@ -126,7 +133,9 @@ void frmAddIn::txtCode_TextDone() {
       firstCodeRow = row;
       break;
     }
+  const long text = textsShown;
   DoEvents();
+  if (text != textsShown) return;
   if (savedPosition > 0) textOffset = savedPosition;
   txtCode.SetStrPos(textOffset);
   textOffset = 1;

@@ -26,7 +26,7 @@ bool BeginsWithBlank(const std::string& text) {
 }  // namespace
 
 void frmAddIn::FillComponentList() {
-  if (!PassOverErrors([this] { ListProject(); })) lbxProc->SetVisible(true);
+  if (!PassOverErrors([this] { ListProject(); })) ShowProcedures();
   services.Screen.SetMousePointer(host::vbDefault);
   busy = false;
 }
@@ -36,21 +36,25 @@ void frmAddIn::ListProject() {
   if (!initDone) {
     bool shown = CurrentModule();
     initDone = true;
-    if (shown) return lbxProc->SetVisible(true);
+    if (shown) return ShowProcedures();
+    const long fill = fills;
     DoEvents();
+    if (fill != fills) return;
     nameFilter = BeginListing();
   }
   if (!Holds(Caption(), " (")) SetCaption(Caption() + " ( " + ActiveProject(VBInstance)->FileName() + " )");
+  const long fill = fills;
   ListComponents(nameFilter);
+  if (fill != fills) return;
   services.Screen.SetMousePointer(host::vbDefault);
   ChooseListedRow();
 }
 
 // Empties the lists but for their first rows, and takes the name filter out of its box.
 std::string frmAddIn::BeginListing() {
-  busy = true;
+  BeginFill();
   RememberComponentRow();
-  lbxProc->SetVisible(false);
+  HideProcedures();
   if (!keepFilters) {
     optProcAll.SetValue(true);
     optAllProc.SetValue(true);
@@ -67,6 +71,23 @@ std::string frmAddIn::BeginListing() {
   SetWhile noEvent(noOptionEvent);
   optProj.SetValue(true);
   return nameFilter;
+}
+
+// What was being filled so far sees it behind its yield, and ends.
+long frmAddIn::BeginFill() {
+  busy = true;
+  return ++fills;
+}
+
+// A hidden control loses the focus; it gets it back when it is shown again.
+void frmAddIn::HideProcedures() {
+  proceduresHadFocus = proceduresHadFocus || lbxProc->HasFocus();
+  lbxProc->SetVisible(false);
+}
+
+void frmAddIn::ShowProcedures() {
+  lbxProc->SetVisible(true);
+  if (std::exchange(proceduresHadFocus, false)) Focus(*lbxProc);
 }
 
 void frmAddIn::RememberComponentRow() {
@@ -126,18 +147,20 @@ void frmAddIn::ChooseListedRow() {
   long row = rows == 2 || (skipGlobals && rows >= 3) ? 1 : 0;
   lbxComp->SetListIndex(row);
   lbxProc->SetListIndex(0);
-  lbxProc->SetVisible(true);
+  ShowProcedures();
   busy = false;
   if (row == 1) lbxComp_Click();
 }
 
 void frmAddIn::ListKind(long kind) {
   kindFilter = kind;
+  pendingComponent.clear();
   SetWhile skipping(skipGlobals);
   FillComponentList();
 }
 
 void frmAddIn::lbxComp_Click() {
+  chosenRow = lbxComp->ListIndex();
   if (busy) return;
   skipGlobals = false;
   OfferInSearch(lbxComp->List(lbxComp->ListIndex()));
@@ -156,11 +179,9 @@ void frmAddIn::lbxComp_Click() {
 // The search box always offers the name that was chosen last.
 void frmAddIn::OfferInSearch(const std::string& rowText) {
   if (!rowText.empty() && !BeginsWithBlank(rowText)) cmbSearch.SetText(rowText);
-  pendingComponent.clear();
 }
 
 bool frmAddIn::TakePendingComponent(long& index) {
-  chosenRow = lbxComp->ListIndex();
   if (pendingComponent.empty()) return false;
   std::string name = std::exchange(pendingComponent, {});
   index = FindComponentIndex(VBInstance, name);
@@ -173,6 +194,7 @@ bool frmAddIn::TakePendingComponent(long& index) {
 void frmAddIn::ListActiveModule() {
   Ref<host::CodeModule> module = ActiveModule(VBInstance);
   if (!module) return;
+  const long fill = BeginFill();
   {
     SetWhile filling(busy);
     currentComponent = FindComponentIndex(VBInstance, module->Name());
@@ -180,8 +202,9 @@ void frmAddIn::ListActiveModule() {
     AddRow(CurrentDeclarations(currentComponent), 1);
     FillProcedureList(*module);
   }
-  lbxProc->SetVisible(true);
+  ShowProcedures();
   DoEvents();
+  if (fill != fills) return;
   lbxProc_Click();
   Focus(*lbxProc);
 }
@@ -189,15 +212,17 @@ void frmAddIn::ListActiveModule() {
 // The declarations and the procedures of the component at [index]; of one that has gone only the empty lists.
 void frmAddIn::ShowComponent(long index) {
   SetWhile filling(busy);
+  const long fill = BeginFill();
   Ref<host::CodeModule> module;
   PassOverErrors([&] { module = Object(ActiveComponents(VBInstance)->Item(index)).CodeModule(); });
   txtCode.Clear();
   PassOverErrors([&] { ShowDeclarations(Object(module)); });
+  if (fill != fills) return;
   lbxProc->Clear();
   AddRow(kDeclarations, 0);
   currentComponent = index;
   if (module) FillProcedureList(*module);
-  lbxProc->SetVisible(true);
+  ShowProcedures();
   busy = false;
   Focus(*lbxProc);
 }
@@ -205,6 +230,7 @@ void frmAddIn::ShowComponent(long index) {
 void frmAddIn::lbxComp_GotFocus() {
   if (lbxComp->ListCount() == 0) return;
   long row = lbxComp->ListIndex();
+  if (row >= 0) chosenRow = row;
   std::string text = lbxComp->List(row);
   bool globals = text == kProjectGlobals;
   currentText = globals ? std::string() : text;
@@ -216,9 +242,13 @@ void frmAddIn::lbxComp_GotFocus() {
 void frmAddIn::lbxComp_KeyPress(int& key) {
   if (key != forms::vbKeyReturn) return;
   key = 0;
+  if (busy) return;
   std::string typed = UCase(Trim(lbxComp->Text()));
   for (long row = 0; row < lbxComp->ListCount(); ++row)
     if (UCase(Trim(lbxComp->List(row))) == typed) return lbxComp->UserSelect(row);
+  if (lbxComp->ListCount() == 0) return;
+  SetWhile restoring(busy);
+  lbxComp->SetListIndex(std::clamp(chosenRow, 0L, lbxComp->ListCount() - 1));
 }
 
 void frmAddIn::txtFind_KeyPress(int key) {
@@ -228,8 +258,3 @@ void frmAddIn::txtFind_KeyPress(int key) {
 }
 
 }  // namespace corvane::explorer
-  if (row >= 0) chosenRow = row;
-  if (busy) return;
-  if (lbxComp->ListCount() == 0) return;
-  SetWhile restoring(busy);
-  lbxComp->SetListIndex(std::clamp(chosenRow, 0L, lbxComp->ListCount() - 1));

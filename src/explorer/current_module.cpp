@@ -27,22 +27,25 @@ bool frmAddIn::CurrentModule() {
     return false;
   }
   long caretLine = Object(module->CodePane()).GetSelection().start_line;
+  const long fill = BeginFill();
   {
     SetWhile filling(busy);
     ListModuleAt(*module, caretLine);
   }
-  lbxProc->SetVisible(true);
+  ShowProcedures();
   DoEvents();
-  lbxProc_Click();
-  Focus(*lbxProc);
-  optFndSel.SetValue(true);
-  Focus(txtCode);
+  if (fill == fills) lbxProc_Click();
+  if (fill == fills) {
+    Focus(*lbxProc);
+    optFndSel.SetValue(true);
+    Focus(txtCode);
+  }
   initDone = true;
   return true;
 }
 
 void frmAddIn::LeaveCurrentMode() {
-  lbxProc->SetVisible(true);
+  ShowProcedures();
   {
     SetWhile noEvent(noOptionEvent);
     optProj.SetValue(true);

@@ -142,6 +142,9 @@ class frmAddIn : public forms::Form {
   // component_list.cpp
   void FillComponentList();
   void ListProject();
+  long BeginFill();
+  void HideProcedures();
+  void ShowProcedures();
   std::string BeginListing();
   void RememberComponentRow();
   void ListComponents(const std::string& nameFilter);
@@ -192,6 +195,7 @@ class frmAddIn : public forms::Form {
   void ShowBlock(host::CodeModule& module, long line);
   void ShowCode(const std::string& text);
   void ShowRaw(const std::string& text);
+  void ShowText(const std::string& text);
   void txtCode_TextDone();
   void ReloadCode(long row);
   void cmdMore_Click();

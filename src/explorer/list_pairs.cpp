@@ -24,7 +24,10 @@ void frmAddIn::SwitchPair(int to) {
   if (pairLine[to] > 1) txtCode.SetStrPos(pairLine[to]);
 }
 
+// What was being filled is given up: it belongs to the pair that is left.
 void frmAddIn::ShowPair(int to) {
+  ++fills;
+  busy = false;
   pair = to;
   lbxComp->SetVisible(false);
   lbxProc->SetVisible(false);
@@ -32,7 +35,7 @@ void frmAddIn::ShowPair(int to) {
   lbxProc = to == 0 ? &lbxProc1 : &lbxProc2;
   lbxComp->SetVisible(true);
   lbxProc->SetVisible(true);
+  chosenRow = lbxComp->ListIndex();
 }
 
 }  // namespace corvane::explorer
-  chosenRow = lbxComp->ListIndex();
