@@ -293,6 +293,18 @@ TEST_F(Window, WhatStandsBelowTheCodeMovesWithItsHeight) {
   }
 }
 
+TEST_F(Window, TheFramesKeepTheirHeightAndMove) {
+  OpenWindow(kShop);
+  const forms::Twips frame4 = form.Frame4.Height(), frame6 = form.Frame6.Height();
+  for (int height : {8400, 9600, 12000}) {
+    form.UserResize(11000, height);
+    EXPECT_EQ(form.Frame4.Height(), frame4);
+    EXPECT_EQ(form.Frame6.Height(), frame6);
+    EXPECT_EQ(form.Frame4.Top(), height - frame4 - 550);
+    EXPECT_EQ(form.Frame6.Top(), form.Frame4.Top());
+  }
+}
+
 TEST_F(Window, ASecondResizeWhileMinimisedBringsItBack) {
   OpenWindow(kShop);
   form.UserWindowState(forms::vbMinimized);
