@@ -142,8 +142,8 @@ void OpenModule::Change(long start, long count, const std::string* text, bool by
   std::vector<std::string_view> lines;
   if (text != nullptr) lines = CutIntoLines(*text);
   auto inserted = static_cast<long>(lines.size());
+  if (procedures_ && !procedures_->Follow(start, count, lines)) procedures_.reset();
   text_.Replace(start, count, lines, by_user);
-  procedures_.reset();
   if (pane_) pane_->LinesChanged(start, count, inserted);
   if (Observer* observer = Environment().CurrentObserver()) observer->LinesChanged(*this, start, count, inserted);
   SetDirty();

@@ -43,7 +43,7 @@ class Declarations {
     if (line.front() == '#') return AddDirective(number, line);
     if (IsProcedureEnd(line)) return;
     Declare(number);
-    for (size_t i = 0; i < blocks_.size(); ++i) blocks_[i] = true;
+    for (size_t i = blocks_.size(); i > 0 && !blocks_[i - 1]; --i) blocks_[i - 1] = true;  // and so all around it
   }
   // "#End If" belongs to the declarations when there is one in its block.
   void AddDirective(uint32_t number, std::string_view line) {
@@ -100,6 +100,8 @@ class Branches {
   uint32_t blocks_ = 0;
 };
 
+constexpr uint32_t kMostContinuations = 24;  // of one statement
+
 class Scanner {
  public:
   Scanner(const ModuleText& text, std::vector<Procedure>& procedures) : text_(text), procedures_(procedures) {}
@@ -125,27 +127,21 @@ class Scanner {
     if (statement.empty() || statement[0] == '\'') return;
     char first = Lower(statement[0]);
     if (first == '#') return branches_.Add(statement);
-    if (in_block_) return LeaveBlock(statement);
+    if (in_block_) return FollowBlock(statement);
     if (open_) {
       if ((first == 'e' || (first >= '0' && first <= '9')) && IsProcedureEnd(statement)) return Close(number);
-    } else if (EntersBlock(statement)) {
-      in_block_ = true;
-      return;
+    } else if (BeginsBlock(statement)) {
+      return FollowBlock(statement);
     }
     if ((first == 'p' || first == 's' || first == 'f' || first == 'g') && AddHeader(number, line, statement)) return;
     if (open_ && HoldsProcedureEnd(statement)) Close(number);
   }
 
-  // Members of a Type or an Enum may be named like keywords.
-  static bool EntersBlock(std::string_view statement) {
-    for (std::string_view scope : {"public", "private", "global"})
-      if (StartsWithWord(statement, scope)) statement = WithoutIndent(statement.substr(scope.size()));
-    return StartsWithWord(statement, "type") || StartsWithWord(statement, "enum");
-  }
-  void LeaveBlock(std::string_view statement) {
-    if (!StartsWithWord(statement, "end")) return;
-    statement = WithoutIndent(statement.substr(3));
-    in_block_ = !StartsWithWord(statement, "type") && !StartsWithWord(statement, "enum");
+  // Members of a Type or an Enum may be named like keywords. The whole of it may stand on one line.
+  void FollowBlock(std::string_view line) {
+    Statements statements(line);
+    for (std::string_view statement; statements.Next(statement);)
+      in_block_ = in_block_ ? !EndsBlock(statement) : BeginsBlock(statement);
   }
 
   bool AddHeader(uint32_t number, std::string_view line, std::string_view statement) {
@@ -154,6 +150,7 @@ class Scanner {
     if (!FindHeader(number, line, procedure, header)) return false;
     bool alternative = open_ && branches_.ExcludesFrom(open_at_);
     if (!alternative) {
+      procedure.behind_end = !open_;
       procedure.start = open_ ? number : last_end_ + 1;
       procedure.body = number;
       procedure.kind = header.kind;
@@ -172,7 +169,8 @@ class Scanner {
       if (!IsContinued(line) || !MayBeginHeader(line)) return false;
       std::string joined;
       size_t start = 0;
-      while (number <= static_cast<uint32_t>(text_.Count())) {
+      uint32_t last = std::min(number + kMostContinuations, static_cast<uint32_t>(text_.Count()));
+      while (number <= last) {
         start = joined.size();
         procedure.name_line = number;
         line = text_.Line(number++);
@@ -189,13 +187,6 @@ class Scanner {
     procedure.name_length = static_cast<uint16_t>(std::min<size_t>(header.name_length, 0xFFFF));
     return true;
   }
-  static bool MayBeginHeader(std::string_view line) {
-    line = WithoutIndent(line);
-    for (std::string_view word : {"public", "private", "friend", "static", "global", "sub", "function", "property"})
-      if (StartsWithWord(line, word)) return true;
-    return false;
-  }
-
   void Close(uint32_t number) {
     open_ = false;
     last_end_ = number;
@@ -217,6 +208,32 @@ class Scanner {
 ProcedureIndex::ProcedureIndex(const ModuleText& text) : text_(&text) {
   declaration_lines_ = Scanner(text, procedures_).Scan();
   procedures_.shrink_to_fit();
+}
+
+bool ProcedureIndex::Follow(long start, long count, const std::vector<std::string_view>& lines) {
+  if (doubtful::kCommentsBelowEndStay || !IsBehindFirstHeader(start) || IsContinued(text_->Line(start - 1)))
+    return false;
+  for (long line = start; line < start + count; ++line)
+    if (!IsPlainLine(text_->Line(line))) return false;
+  if (!std::all_of(lines.begin(), lines.end(), IsPlainLine)) return false;
+  Shift(start, static_cast<int64_t>(lines.size()) - count);
+  return true;
+}
+
+bool ProcedureIndex::IsBehindFirstHeader(long line) const {
+  return !procedures_.empty() && line > procedures_.front().body && line > procedures_.front().name_line;
+}
+
+void ProcedureIndex::Shift(long start, int64_t by) {
+  auto shift = [&](uint32_t& line) { line = static_cast<uint32_t>(line + by); };
+  auto first = std::lower_bound(procedures_.begin(), procedures_.end(), start,
+                                [](const Procedure& procedure, long line) { return procedure.body < line; });
+  for (; by != 0 && first != procedures_.end(); ++first) {
+    // Directly behind the end of the procedure above all lines are those of this one.
+    if (first->start > start || (first->start == start && !first->behind_end)) shift(first->start);
+    shift(first->body);
+    shift(first->name_line);
+  }
 }
 
 const Procedure* ProcedureIndex::At(long line) const {

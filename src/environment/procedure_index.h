@@ -1,5 +1,5 @@
 // ProcedureIndex: where the procedures of a module's text start and end. Built in one pass; stale when the text
-// changes.
+// changes, but for edits that it can follow.
 #pragma once
 
 #include <cstdint>
@@ -16,12 +16,17 @@ struct Procedure {
   uint32_t body = 0;
   uint32_t name_line = 0, name_at = 0;  // line and offset of the name
   uint16_t name_length = 0;
+  bool behind_end = false;  // starts directly behind the end of the one above; else at its header
   host::ProcKind kind = host::ProcKind::Proc;
 };
 
 class ProcedureIndex {
  public:
   explicit ProcedureIndex(const ModuleText& text);
+
+  // To be called before [count] lines from [start] are replaced by [lines]. Whether the index holds for the new text:
+  // so it does when these lines stand behind the first header and neither begin, end nor enclose anything.
+  bool Follow(long start, long count, const std::vector<std::string_view>& lines);
 
   long DeclarationLines() const { return declaration_lines_; }
   const std::vector<Procedure>& Procedures() const { return procedures_; }
@@ -34,6 +39,8 @@ class ProcedureIndex {
   long LineCountOf(const Procedure& procedure) const;
 
  private:
+  bool IsBehindFirstHeader(long line) const;
+  void Shift(long start, int64_t by);
   struct ByName {
     uint64_t hash = 0;
     uint32_t position = 0;

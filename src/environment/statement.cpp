@@ -76,16 +76,6 @@ bool BeginsAName(std::string_view word) {
   return !word.empty() && !(word[0] >= '0' && word[0] <= '9') && !Is(word, "as");
 }
 
-// Whether [at] lies inside a string literal or a comment of the line.
-bool IsInTextOrComment(std::string_view line, size_t at) {
-  bool in_string = false;
-  for (size_t i = 0; i < at; ++i) {
-    if (line[i] == '"') in_string = !in_string;
-    if (line[i] == '\'' && !in_string) return true;
-  }
-  return in_string;
-}
-
 std::string_view WithoutBrackets(std::string_view name) {
   return name.size() > 1 && name[0] == '[' ? name.substr(1, name.size() - 2) : name;
 }
@@ -171,10 +161,70 @@ bool IsProcedureEnd(std::string_view text) {
   return Is(words.Next(), "end") && IsAnyOf(words.Next(), {"sub", "function", "property"});
 }
 
+// Rem is a keyword: as a word of its own it begins a comment, where it is no member of something.
+bool Statements::IsRemAt(size_t at) const {
+  if (Lower(line_[at]) != 'r' || !StartsWithWord(line_.substr(at), "rem")) return false;
+  char before = at == 0 ? ' ' : line_[at - 1];
+  return !IsNameByte(before) && before != '.' && before != '!' && before != '[';
+}
+
+bool Statements::Next(std::string_view& statement) {
+  if (at_ > line_.size()) return false;
+  size_t start = at_;
+  bool in_string = false;
+  for (; at_ < line_.size(); ++at_) {
+    char c = line_[at_];
+    if (c == '"') in_string = !in_string;
+    if (in_string) continue;
+    if (c == ':') break;
+    if (c == '\'' || IsRemAt(at_)) {
+      statement = WithoutIndent(line_.substr(start, at_ - start));
+      at_ = line_.size() + 1;
+      return true;
+    }
+  }
+  statement = WithoutIndent(line_.substr(start, at_ - start));
+  ++at_;
+  return true;
+}
+
 bool HoldsProcedureEnd(std::string_view line) {
-  for (size_t at = line.find(':'); at != std::string_view::npos; at = line.find(':', at + 1))
-    if (IsProcedureEnd(line.substr(at + 1)) && !IsInTextOrComment(line, at)) return true;
+  if (line.find(':') == std::string_view::npos) return false;
+  Statements statements(line);
+  std::string_view statement;
+  statements.Next(statement);
+  while (statements.Next(statement))
+    if (IsProcedureEnd(statement)) return true;
   return false;
+}
+
+bool BeginsBlock(std::string_view statement) {
+  for (std::string_view scope : {"public", "private", "global"})
+    if (StartsWithWord(statement, scope)) statement = WithoutIndent(statement.substr(scope.size()));
+  return StartsWithWord(statement, "type") || StartsWithWord(statement, "enum");
+}
+
+bool EndsBlock(std::string_view statement) {
+  if (!StartsWithWord(statement, "end")) return false;
+  statement = WithoutIndent(statement.substr(3));
+  return StartsWithWord(statement, "type") || StartsWithWord(statement, "enum");
+}
+
+bool MayBeginHeader(std::string_view line) {
+  line = WithoutIndent(line);
+  for (std::string_view word : {"public", "private", "friend", "static", "global", "sub", "function", "property"})
+    if (StartsWithWord(line, word)) return true;
+  return false;
+}
+
+bool IsPlainLine(std::string_view line) {
+  line = WithoutIndent(line);
+  if (line.empty() || line[0] == '\'') return !IsContinued(line);
+  if (line[0] == '#' || MayBeginHeader(line) || IsContinued(line)) return false;
+  Statements statements(line);
+  for (std::string_view statement; statements.Next(statement);)
+    if (IsProcedureEnd(statement) || BeginsBlock(statement) || EndsBlock(statement)) return false;
+  return true;
 }
 
 std::vector<std::string_view> DeclaredNames(std::string_view line) {

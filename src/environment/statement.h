@@ -34,6 +34,27 @@ bool IsProcedureEnd(std::string_view text);
 // Whether an End Sub, End Function or End Property stands behind a colon of the line.
 bool HoldsProcedureEnd(std::string_view line);
 
+// The statements of a line, cut at its colons, without indent; its comment is left out.
+class Statements {
+ public:
+  explicit Statements(std::string_view line) : line_(line) {}
+  bool Next(std::string_view& statement);  // false behind the last one
+
+ private:
+  bool IsRemAt(size_t at) const;
+  std::string_view line_;
+  size_t at_ = 0;
+};
+
+// Whether a statement, without indent, begins or ends a Type or an Enum.
+bool BeginsBlock(std::string_view statement);
+bool EndsBlock(std::string_view statement);
+
+// Whether a line may be the first of a continued header.
+bool MayBeginHeader(std::string_view line);
+// Whether a line inside or between procedures does nothing to where they start and end, and is not continued.
+bool IsPlainLine(std::string_view line);
+
 // Names that a declaration line declares: the procedure, the event, or each variable or constant.
 std::vector<std::string_view> DeclaredNames(std::string_view line);
 

@@ -33,23 +33,26 @@ TEST_P(Outlines, AreAsTheEnvironmentSees) {
 
 INSTANTIATE_TEST_SUITE_P(
     Declarations, Outlines,
-    testing::Values(OutlineCase{"Option Explicit||'c|Sub A()|End Sub", "1; A 2-4-5"},
-                    OutlineCase{"Dim x|'attached|'too||Sub A()|End Sub", "3; A 4-5-6"},
-                    OutlineCase{"Dim x|'attached|Sub A()|End Sub", "2; A 3-3-4"},
-                    OutlineCase{"'block|'of comments||Sub A()|End Sub", "2; A 3-4-5"},
-                    OutlineCase{"'directly above|Sub A()|End Sub", "0; A 1-2-3"},
-                    OutlineCase{"|'c|Sub A()|End Sub", "0; A 1-3-4"}, OutlineCase{"Dim x", "1"},
-                    OutlineCase{"'only a comment", "1"},
-                    OutlineCase{"Type T|  Function As Long|  Sub As Long|  Property As Long|End Type|Sub A()|End Sub",
-                                "5; A 6-6-7"},
-                    OutlineCase{"Private Declare Sub S Lib \"x\" ()|Public Event E()|Sub A()|End Sub", "2; A 3-3-4"},
-                    OutlineCase{"#If Win32 Then|Declare Sub S Lib \"x\" ()|#Else|#End If|Sub A()|End Sub",
-                                "4; A 5-5-6"},
-                    OutlineCase{"Dim x|#If D Then|#End If|Sub A()|End Sub", "1; A 2-4-5"},
-                    OutlineCase{"Dim x|#Const D = 1|Sub A()|End Sub", "1; A 2-3-4"},
-                    OutlineCase{"#Const D = 1|Sub A()|End Sub", "0; A 1-2-3"},
-                    OutlineCase{"Dim x, _|  y|Sub A()|End Sub", "2; A 3-3-4"},
-                    OutlineCase{"Dim x|'a comment _|that goes on|Sub A()|End Sub", "3; A 4-4-5"}));
+    testing::Values(
+        OutlineCase{"Option Explicit||'c|Sub A()|End Sub", "1; A 2-4-5"},
+        OutlineCase{"Dim x|'attached|'too||Sub A()|End Sub", "3; A 4-5-6"},
+        OutlineCase{"Dim x|'attached|Sub A()|End Sub", "2; A 3-3-4"},
+        OutlineCase{"'block|'of comments||Sub A()|End Sub", "2; A 3-4-5"},
+        OutlineCase{"'directly above|Sub A()|End Sub", "0; A 1-2-3"}, OutlineCase{"|'c|Sub A()|End Sub", "0; A 1-3-4"},
+        OutlineCase{"Dim x", "1"}, OutlineCase{"'only a comment", "1"},
+        OutlineCase{"Type T|  Function As Long|  Sub As Long|  Property As Long|End Type|Sub A()|End Sub",
+                    "5; A 6-6-7"},
+        OutlineCase{"Private Enum E: A: B: End Enum|Sub A()|End Sub|Sub B()|End Sub", "1; A 2-2-3; B 4-4-5"},
+        OutlineCase{"Type T: a As Long: End Type|Sub A()|End Sub", "1; A 2-2-3"},
+        OutlineCase{"Enum E: A|  B: End Enum|Sub A()|End Sub", "2; A 3-3-4"},
+        OutlineCase{"Enum E: A 'to: End Enum|  Function|End Enum|Sub A()|End Sub", "3; A 4-4-5"},
+        OutlineCase{"Private Declare Sub S Lib \"x\" ()|Public Event E()|Sub A()|End Sub", "2; A 3-3-4"},
+        OutlineCase{"#If Win32 Then|Declare Sub S Lib \"x\" ()|#Else|#End If|Sub A()|End Sub", "4; A 5-5-6"},
+        OutlineCase{"Dim x|#If D Then|#End If|Sub A()|End Sub", "1; A 2-4-5"},
+        OutlineCase{"Dim x|#Const D = 1|Sub A()|End Sub", "1; A 2-3-4"},
+        OutlineCase{"#Const D = 1|Sub A()|End Sub", "0; A 1-2-3"},
+        OutlineCase{"Dim x, _|  y|Sub A()|End Sub", "2; A 3-3-4"},
+        OutlineCase{"Dim x|'a comment _|that goes on|Sub A()|End Sub", "3; A 4-4-5"}));
 
 INSTANTIATE_TEST_SUITE_P(
     Procedures, Outlines,
@@ -71,6 +74,13 @@ INSTANTIATE_TEST_SUITE_P(
                     OutlineCase{"End Sub|Sub B()|End Sub", "0; B 1-2-3"},
                     OutlineCase{"Sub A()|10 End Sub|Sub B()|End Sub", "0; A 1-1-2; B 3-3-4"},
                     OutlineCase{"Sub A()|End Sub|Dim late", "0; A 1-1-3"},
+                    OutlineCase{"Sub A()|Rem see: End Sub|x = 1|End Sub|Sub B()|End Sub", "0; A 1-1-4; B 5-5-6"},
+                    OutlineCase{"Sub A()|x = 1: Rem see: End Sub|End Sub|Sub B()|End Sub", "0; A 1-1-3; B 4-4-5"},
+                    OutlineCase{"Sub A()|10 Rem see: End Sub|End Sub|Sub B()|End Sub", "0; A 1-1-3; B 4-4-5"},
+                    OutlineCase{"Sub A()|If x Then Rem see: End Sub|End Sub|Sub B()|End Sub", "0; A 1-1-3; B 4-4-5"},
+                    OutlineCase{"Sub A()|o.Rem = remark: End Sub|Sub B()|End Sub", "0; A 1-1-2; B 3-3-4"},
+                    OutlineCase{"Sub A(): Rem see: End Sub|x = 1|End Sub|Sub B()|End Sub", "0; A 1-1-3; B 4-4-5"},
+                    OutlineCase{"Sub A()|x \"Rem \": End Sub|Sub B()|End Sub", "0; A 1-1-2; B 3-3-4"},
                     OutlineCase{"  private  SUB\tA ()|  end  sub", "0; A 1-1-2"},
                     OutlineCase{"Sub \xC4\xD6()|End Sub", "0; \xC4\xD6 1-1-2"}));
 
