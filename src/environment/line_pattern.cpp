@@ -16,14 +16,16 @@ bool IsWordAt(std::string_view line, size_t at) {
 bool EndsWord(std::string_view line, size_t end) {
   return !IsWordAt(line, end);
 }
-bool BeginsWord(std::string_view line, size_t at) {
-  return at == 0 || !IsWordAt(line, at - 1);
-}
 
 }  // namespace
 
+bool IsWholeWord(std::string_view line, size_t at, size_t length, CharacterWalk& walk) {
+  return EndsWord(line, at + length) && !walk.IsWordBefore(line, at);
+}
+
 bool IsWholeWord(std::string_view line, size_t at, size_t length) {
-  return BeginsWord(line, at) && EndsWord(line, at + length);
+  CharacterWalk walk;
+  return IsWholeWord(line, at, length, walk);
 }
 
 LinePattern::LinePattern(std::string_view pattern, bool match_case) : match_case_(match_case), pieces_(1) {
@@ -97,8 +99,9 @@ bool LinePattern::FindRest(std::string_view line, size_t at, bool whole_word, si
 
 LinePattern::Hit LinePattern::Find(std::string_view line, size_t from, bool whole_word) const {
   const Piece& first = pieces_[0];
+  CharacterWalk walk;
   for (size_t at = from; at + first.size() <= line.size(); ++at) {
-    if (!FitsAt(first, line, at) || (whole_word && !BeginsWord(line, at)) || !IsAtCharacter(line, at)) continue;
+    if (!FitsAt(first, line, at) || !walk.IsAt(line, at) || (whole_word && walk.IsWordBefore(line, at))) continue;
     size_t end = at + first.size();
     if (pieces_.size() == 1) {
       if (whole_word && !EndsWord(line, end)) continue;

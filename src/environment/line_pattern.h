@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "environment/text_search.h"
+
 namespace corvane::environment {
 
 class LinePattern {
@@ -33,7 +35,9 @@ class LinePattern {
   std::vector<Piece> pieces_;
 };
 
-// Whether the bytes beside [at, at + length) are no letters, digits or underscores of the code page.
+// Whether the characters beside [at, at + length) are no letters, digits or underscores of the code page. The walk
+// makes many places of one line cheap.
 bool IsWholeWord(std::string_view line, size_t at, size_t length);
+bool IsWholeWord(std::string_view line, size_t at, size_t length, CharacterWalk& walk);
 
 }  // namespace corvane::environment

@@ -27,6 +27,12 @@ Range RangeOf(const ModuleText& text, const FindRequest& request) {
   return range;
 }
 
+// The stretch that holds [line], from 1.
+std::vector<Stretch>::const_iterator StretchOf(const std::vector<Stretch>& stretches, long line) {
+  return std::partition_point(stretches.begin(), stretches.end(),
+                              [&](const Stretch& stretch) { return static_cast<long>(stretch.last_line) + 1 < line; });
+}
+
 bool FindPattern(const ModuleText& text, const FindRequest& request, const Range& range, FoundPlace& place) {
   LinePattern pattern(request.target, request.match_case);
   for (long number = range.first; number <= range.last; ++number) {
@@ -49,11 +55,11 @@ class PlainFind {
       : text_(text), request_(request), range_(range), search_(search) {}
 
   bool Run(FoundPlace& place) {
-    for (const Stretch& stretch : text_.Stretches()) {
-      long first = static_cast<long>(stretch.first_line) + 1, last = static_cast<long>(stretch.last_line) + 1;
-      if (last < range_.first) continue;
+    const std::vector<Stretch>& stretches = text_.Stretches();
+    for (auto stretch = StretchOf(stretches, range_.first); stretch != stretches.end(); ++stretch) {
+      long first = static_cast<long>(stretch->first_line) + 1, last = static_cast<long>(stretch->last_line) + 1;
       if (first > range_.last) return false;
-      if (FindIn(stretch, std::max(first, range_.first), std::min(last, range_.last), place)) return true;
+      if (FindIn(*stretch, std::max(first, range_.first), std::min(last, range_.last), place)) return true;
     }
     return false;
   }
@@ -77,15 +83,16 @@ class PlainFind {
     }
     return false;
   }
-  bool Accepts(std::string_view line, size_t at) const {
-    return at + search_.Length() <= line.size() && IsAtCharacter(line, at) &&
-           (!request_.whole_word || IsWholeWord(line, at, search_.Length()));
+  bool Accepts(std::string_view line, size_t at) {
+    return at + search_.Length() <= line.size() && walk_.IsAt(line, at) &&
+           (!request_.whole_word || IsWholeWord(line, at, search_.Length(), walk_));
   }
 
   const ModuleText& text_;
   const FindRequest& request_;
   const Range& range_;
   const TextSearch& search_;
+  CharacterWalk walk_;
 };
 
 }  // namespace

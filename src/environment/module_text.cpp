@@ -122,7 +122,7 @@ void ModuleText::Replace(long start, long count, const std::vector<std::string_v
     lines_.insert(first + static_cast<long>(common), spans.begin() + static_cast<long>(common), spans.end());
 
   edited_ = true;
-  stretches_.clear();
+  if (!stretches_.empty()) PatchStretches(from, removed, spans.size());
   if (revives && !lost_.empty()) Revive(from, spans.size());
 }
 
@@ -159,37 +159,6 @@ std::string ModuleText::Write(std::string_view head) const {
   }
   if (!final_line_end_) out.resize(last_end);
   return out;
-}
-
-const std::vector<Stretch>& ModuleText::Stretches() const {
-  if (!stretches_.empty() || lines_.empty()) return stretches_;
-  for (uint32_t i = 0; i < lines_.size(); ++i) {
-    std::string_view line = View(lines_[i]);
-    const char* begin = line.data();
-    if (!stretches_.empty()) {
-      Stretch& last = stretches_.back();
-      std::string_view own = OwnLineEnd(lines_[i - 1]);
-      if (!own.empty() && last.end + own.size() == begin) {
-        last.last_line = i;
-        last.end = begin + line.size();
-        continue;
-      }
-    }
-    stretches_.push_back({i, i, begin, begin + line.size()});
-  }
-  return stretches_;
-}
-
-long ModuleText::LineAt(const Stretch& stretch, const char* at) const {
-  uint32_t low = stretch.first_line, high = stretch.last_line;
-  while (low < high) {
-    uint32_t middle = low + (high - low + 1) / 2;
-    if (View(lines_[middle]).data() <= at)
-      low = middle;
-    else
-      high = middle - 1;
-  }
-  return static_cast<long>(low) + 1;
 }
 
 }  // namespace corvane::environment

@@ -18,8 +18,7 @@ std::vector<std::string_view> CutIntoLines(std::string_view text);
 // A run of lines that lie in one piece of memory, each behind the line end of the one before.
 struct Stretch {
   uint32_t first_line = 0, last_line = 0;  // from 0
-  const char* begin = nullptr;
-  const char* end = nullptr;
+  bool operator==(const Stretch&) const = default;
 };
 
 class ModuleText {
@@ -50,7 +49,7 @@ class ModuleText {
   std::string Write(std::string_view head) const;  // with another head
   std::string_view LineEnd() const { return line_end_; }
 
-  // For searching: where the lines lie. Valid until the next change.
+  // For searching: where the lines lie, each in one stretch. Valid until the next change.
   const std::vector<Stretch>& Stretches() const;
   // The line (from 1) of a stretch in which [at] lies.
   long LineAt(const Stretch& stretch, const char* at) const;
@@ -88,6 +87,9 @@ class ModuleText {
   size_t HeaderStart(size_t line) const;
   size_t HeaderEnd(size_t line) const;
   std::string_view OwnLineEnd(Span span) const;
+  bool LiesBehind(size_t line) const;
+  void AddStretches(std::vector<Stretch>& stretches, size_t from, size_t to) const;
+  void PatchStretches(size_t start, size_t removed, size_t inserted);
   size_t WriteLine(std::string& out, Span span) const;
   size_t WriteAttribute(std::string& out, const Attribute& attribute) const;
 

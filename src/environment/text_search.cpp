@@ -102,12 +102,30 @@ const char* TextSearch::Find(const char* begin, const char* end) const {
   return nullptr;
 }
 
-bool IsAtCharacter(std::string_view line, size_t at) {
+void CharacterWalk::WalkTo(std::string_view line, size_t at) {
   const runtime::CodePage& page = runtime::AnsiCodePage();
-  if (!page.IsDoubleByte()) return true;
-  size_t i = 0;
-  while (i < at) i += page.IsLead(static_cast<unsigned char>(line[i])) ? 2 : 1;
-  return i == at;
+  if (line.data() != line_ || at < at_) line_ = line.data(), at_ = previous_ = 0;
+  while (at_ < at) {
+    previous_ = at_;
+    at_ += page.IsLead(static_cast<unsigned char>(line[at_])) ? 2 : 1;
+  }
+}
+
+bool CharacterWalk::IsAt(std::string_view line, size_t at) {
+  if (!runtime::AnsiCodePage().IsDoubleByte()) return true;
+  WalkTo(line, at);
+  return at_ == at;
+}
+
+bool CharacterWalk::IsWordBefore(std::string_view line, size_t at) {
+  if (at == 0) return false;
+  const runtime::CodePage& page = runtime::AnsiCodePage();
+  size_t before = at - 1;
+  if (page.IsDoubleByte()) {
+    WalkTo(line, at);
+    before = previous_;
+  }
+  return page.IsWordByte(static_cast<unsigned char>(line[before]));
 }
 
 }  // namespace corvane::environment

@@ -13,7 +13,7 @@ class TextSearch {
   TextSearch(std::string_view text, bool match_case);
 
   // The first place in [begin, end), null if there is none. In a double-byte code page it may be one inside a
-  // character: see IsAtCharacter.
+  // character: see CharacterWalk.
   const char* Find(const char* begin, const char* end) const;
   size_t Length() const { return text_.size(); }
   // Whether it was prepared for this search, by the code page in force.
@@ -39,7 +39,20 @@ class TextSearch {
   bool has_probes_ = false;
 };
 
-// Whether a character of a double-byte code page begins at offset [at] of [line].
-bool IsAtCharacter(std::string_view line, size_t at);
+// Tells where the characters of a double-byte code page begin. Places of one line that are asked for from left to right
+// cost one walk through the line.
+class CharacterWalk {
+ public:
+  // Whether a character begins at offset [at] of [line].
+  bool IsAt(std::string_view line, size_t at);
+  // Whether the character in front of offset [at], where one begins, is a letter, digit or underscore.
+  bool IsWordBefore(std::string_view line, size_t at);
+
+ private:
+  void WalkTo(std::string_view line, size_t at);
+  const char* line_ = nullptr;
+  size_t at_ = 0;        // where a character begins
+  size_t previous_ = 0;  // where the one in front of it does
+};
 
 }  // namespace corvane::environment

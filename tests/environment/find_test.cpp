@@ -1,11 +1,14 @@
 // The search of a code module: ranges, whole words, patterns; the fast search against a simple one.
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <random>
 
 #include "environment/line_pattern.h"
 #include "environment/module_find.h"
+#include "environment/procedure_index.h"
 #include "runtime/code_page.h"
 #include "tests/environment/opened.h"
+#include "tests/environment/processor_time.h"
 
 namespace corvane::environment {
 namespace {
@@ -146,6 +149,104 @@ TEST(Finding, TheFastFormEqualsTheSimpleForm) {
     request.whole_word = round % 2 == 0;
     request.match_case = round % 5 == 0;
     ASSERT_EQ(Found(text, request), SimplyFound(text, request)) << "round " << round;
+  }
+}
+
+struct CodePageInForce {
+  explicit CodePageInForce(int number) { runtime::SetAnsiCodePage(number); }
+  ~CodePageInForce() { runtime::SetAnsiCodePage(1252); }
+};
+
+TEST(Finding, TheSecondByteOfACharacterEndsNoWord) {
+  CodePageInForce japanese(932);
+  ModuleText text(
+      "\x83\x5C"
+      "abc\nabc\x83\x5C\n\x83\x5C abc\n",
+      0);
+  EXPECT_EQ(Found(text, Whole("abc")), "3:4+3");
+  EXPECT_EQ(Found(text, Pattern("a?c", true)), "3:4+3");
+}
+
+// Character by character, without case, with the second byte of each as it is.
+std::string FoundByCharacters(const std::string& line, const std::string& target, bool whole_word) {
+  auto is_lead = [](char c) { return c == '\x83'; };
+  auto fold = [&](const std::string& text, size_t at) {
+    size_t length = is_lead(text[at]) && at + 1 < text.size() ? 2 : 1;
+    return length == 2 ? text.substr(at, 2) : runtime::AnsiCodePage().ToUpper(text.substr(at, 1));
+  };
+  auto cut = [&](const std::string& text) {
+    std::vector<std::string> characters;
+    for (size_t at = 0; at < text.size(); at += characters.back().size()) characters.push_back(fold(text, at));
+    return characters;
+  };
+  auto is_word = [](const std::string& character) { return character != "." && character != " " && character != "\\"; };
+  std::vector<std::string> in = cut(line), of = cut(target);
+  for (size_t first = 0, at = 0; first + of.size() <= in.size(); at += in[first++].size()) {
+    bool fits = std::equal(of.begin(), of.end(), in.begin() + static_cast<long>(first));
+    bool whole =
+        (first == 0 || !is_word(in[first - 1])) && (first + of.size() == in.size() || !is_word(in[first + of.size()]));
+    if (fits && (whole || !whole_word)) return "1:" + std::to_string(at + 1) + "+" + std::to_string(target.size());
+  }
+  return {};
+}
+
+TEST(Finding, CharactersOfTwoBytesAreWhole) {
+  CodePageInForce japanese(932);
+  std::mt19937 random(13);
+  auto characters = [&](size_t count) {
+    std::string text;
+    for (; count > 0; --count)
+      text += (const char*[]){"a", "A", "\\", ".", " ", "\x83\x5C", "\x83\x41", "\x83\x61"}[random() % 8];
+    return text;
+  };
+  for (int round = 0; round < 4000; ++round) {
+    std::string line = characters(random() % 90), target = characters(1 + random() % 3);
+    FindRequest request{target};
+    request.whole_word = round % 2 == 0;
+    ASSERT_EQ(Found(ModuleText(line + "\n", 0), request), FoundByCharacters(line, target, request.whole_word))
+        << "round " << round;
+  }
+}
+
+// A line as no editor shows it, but as files may hold it: [unit] again and again up to a megabyte, then [end].
+std::string LongLine(std::string_view unit, std::string_view end) {
+  std::string line;
+  while (line.size() < 1000000) line += unit;
+  return (line += end) += '\n';
+}
+
+class LongLines : public testing::TestWithParam<int> {};
+TEST_P(LongLines, AreSearchedOnce) {
+  CodePageInForce page(GetParam());
+  ModuleText text(LongLine("abx", " ab.ac"), 0);
+  ModuleText wide(LongLine("\x83\x5C"
+                           "ab",
+                           " ab.ac"),
+                  0);
+  EXPECT_LT(SecondsOf([&] {
+              EXPECT_EQ(Found(text, Plain("ac")), "1:1000007+2");
+              EXPECT_EQ(Found(text, Whole("ab")), "1:1000004+2");
+              EXPECT_EQ(Found(text, Pattern("a[bc]", true)), "1:1000004+2");
+              EXPECT_EQ(Found(text, Pattern("a?x*zz", true)), "");
+              EXPECT_EQ(Found(text, Pattern("ac")), "1:1000007+2");
+              EXPECT_EQ(Found(wide, Plain("ac")), "1:1000005+2");
+              EXPECT_EQ(Found(wide, Plain("\\ab")), GetParam() == 932 ? "" : "1:2+3");
+            }),
+            10);
+}
+INSTANTIATE_TEST_SUITE_P(OneAndTwoBytes, LongLines, testing::Values(1252, 932));
+
+TEST(LongLine, IsOneLineOfItsProcedure) {
+  for (const char* unit : {"x = 1: ", ": \"End Sub ", "Rem : End Sub:", "a:End Subs", "' ", "10 "}) {
+    std::string bytes = "Sub A()\n  y\n" + LongLine(unit, "z") + "End Sub\nSub B()\nEnd Sub\n";
+    EXPECT_LT(SecondsOf([&] {
+                ModuleText text(bytes, 0);
+                ProcedureIndex index(text);
+                ASSERT_EQ(index.Procedures().size(), 2u) << unit;
+                EXPECT_EQ(index.At(4)->body, 1u) << unit;
+                EXPECT_EQ(index.At(5)->body, 5u) << unit;
+              }),
+              10);
   }
 }
 
