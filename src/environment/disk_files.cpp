@@ -18,6 +18,8 @@ namespace corvane::environment {
 
 namespace {
 
+constexpr off_t kLargestFile = 0x7FFFFFFF;  // bytes: texts count theirs in 31 bits
+
 // The names of a Windows path, "Z:" in front left out. A drive other than Z: and a share have no place on this machine:
 // their paths stay as they are and are not found.
 struct Names {
@@ -146,11 +148,13 @@ class DiskFiles : public host::Files {
   std::string Read(const std::string& path) override {
     std::string native = Resolve(path);
     if (native.empty()) throw runtime::Error(runtime::kPathNotFound, "No such drive or share on this machine");
-    Handle file(::open(native.c_str(), O_RDONLY | O_CLOEXEC));
     struct stat info;
+    // Opening alone may wait for good (a pipe) or do something (a device).
+    if (::stat(native.c_str(), &info) == 0) RequireRegular(info);
+    Handle file(::open(native.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
     if (file.Get() < 0 || ::fstat(file.Get(), &info) != 0) Fail(errno == ENOENT ? MissingPart(native) : errno, true);
-    if (!S_ISREG(info.st_mode))
-      throw runtime::Error(runtime::kPathFileAccessError, "No file, but a folder or a device");
+    RequireRegular(info);
+    if (info.st_size > kLargestFile) throw runtime::Error(runtime::kPathFileAccessError, "a file of 2 GB or more");
     std::string bytes(static_cast<size_t>(info.st_size), '\0');
     size_t got = 0;
     while (got < bytes.size()) {
@@ -174,8 +178,7 @@ class DiskFiles : public host::Files {
     }
     struct stat old;
     bool exists = ::stat(native.c_str(), &old) == 0;
-    if (exists && !S_ISREG(old.st_mode))
-      throw runtime::Error(runtime::kPathFileAccessError, "No file, but a folder or a device");
+    if (exists) RequireRegular(old);
     if (exists && ::access(native.c_str(), W_OK) != 0) Fail(EACCES, false);
     std::string temporary = native + ".XXXXXX";
     Handle file(::mkostemp(temporary.data(), O_CLOEXEC));
@@ -224,6 +227,11 @@ class DiskFiles : public host::Files {
   std::string Resolve(const std::string& windows) {
     Names split = Split(windows);
     return split.has_place ? finder_.Find(split, windows) : std::string();
+  }
+
+  static void RequireRegular(const struct stat& info) {
+    if (!S_ISREG(info.st_mode))
+      throw runtime::Error(runtime::kPathFileAccessError, "No file, but a folder or a device");
   }
 
   // ENOENT of a file in a folder that is there, ENOTDIR where the folder is missing too.

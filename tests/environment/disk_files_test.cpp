@@ -3,10 +3,13 @@
 #include <csignal>
 #include <filesystem>
 #include <fstream>
+#include <grp.h>
 #include <gtest/gtest.h>
+#include <optional>
 #include <sstream>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include "runtime/code_page.h"
@@ -16,6 +19,23 @@ namespace corvane::environment {
 namespace {
 
 namespace fs = std::filesystem;
+
+// The number of the Error that [action] throws for somebody who is not root: where root runs this, a child that gave up
+// its rights. Nothing when no such child can be had.
+std::optional<long> ErrorWithoutRights(const std::function<void()>& action) {
+  constexpr int kNobody = 65534, kKeptItsRights = 255;
+  if (::geteuid() != 0) return ErrorOf(action);
+  pid_t child = ::fork();
+  if (child == 0) {
+    bool dropped = ::setgroups(0, nullptr) == 0 && ::setgid(kNobody) == 0 && ::setuid(kNobody) == 0;
+    ::_exit(dropped ? static_cast<int>(ErrorOf(action)) : kKeptItsRights);
+  }
+  int status = 0;
+  if (child < 0 || ::waitpid(child, &status, 0) != child || !WIFEXITED(status)) return std::nullopt;
+  return WEXITSTATUS(status) == kKeptItsRights ? std::nullopt : std::optional<long>(WEXITSTATUS(status));
+}
+
+constexpr char kNoChild[] = "root here, and no child can give up its rights";
 
 class DiskFilesTest : public testing::Test {
  protected:
@@ -84,6 +104,10 @@ TEST_F(DiskFilesTest, SaysWhyAFileCannotBeRead) {
   EXPECT_EQ(ErrorOf([&] { files_->Read(Path("")); }), 75);
   EXPECT_EQ(ErrorOf([&] { files_->Read("\\\\server\\share\\a.bas"); }), 76);
   EXPECT_EQ(ErrorOf([&] { files_->Read("Q:\\a.bas"); }), 76);
+  for (const char* path : {"Q:\\a.bas", "\\\\server\\share\\a.bas"}) {
+    EXPECT_EQ(ReasonOfFailure([&] { files_->Read(path); }), "No such drive or share on this machine");
+    EXPECT_EQ(ReasonOfFailure([&] { files_->Write(path, "x"); }), "No such drive or share on this machine");
+  }
 }
 
 TEST_F(DiskFilesTest, WritesAFileAsAWholeAndLeavesNothingElse) {
@@ -107,14 +131,72 @@ TEST_F(DiskFilesTest, AWriteThatFailsLeavesTheOldFile) {
   Put("folder.bas/x", "x");
   EXPECT_EQ(ErrorOf([&] { files_->Write(Path("folder.bas"), "new"); }), 75);
   EXPECT_EQ(ErrorOf([&] { files_->Write(Path("none\\a.bas"), "new"); }), 76);
-  if (::geteuid() == 0) return;  // root may write everywhere
+}
+
+TEST_F(DiskFilesTest, AWriteWithoutPermissionLeavesTheOldFile) {
   Put("a.bas", "old");
-  ::chmod((folder_ / "a.bas").c_str(), 0440);
-  EXPECT_EQ(ErrorOf([&] { files_->Write(Path("a.bas"), "new"); }), 70);
-  fs::permissions(folder_, fs::perms(0500));
-  ::chmod((folder_ / "a.bas").c_str(), 0640);
-  EXPECT_EQ(ErrorOf([&] { files_->Write(Path("a.bas"), "new"); }), 70);
+  auto write = [&] { files_->Write(Path("a.bas"), "new"); };
+  fs::permissions(folder_, fs::perms(0777));
+  ::chmod((folder_ / "a.bas").c_str(), 0444);
+  std::optional<long> error = ErrorWithoutRights(write);
+  if (!error) GTEST_SKIP() << kNoChild;
+  EXPECT_EQ(error, 70) << "a file that is read-only";
+  ::chmod((folder_ / "a.bas").c_str(), 0666);
+  fs::permissions(folder_, fs::perms(0555));
+  EXPECT_EQ(ErrorWithoutRights(write), 70) << "a folder that takes no file";
   EXPECT_EQ(Disk("a.bas"), "old");
+  EXPECT_EQ(Entries(), 1u);
+  fs::permissions(folder_, fs::perms(0777));
+  EXPECT_EQ(ErrorWithoutRights(write), 0);
+  EXPECT_EQ(Disk("a.bas"), "new");
+}
+
+TEST_F(DiskFilesTest, WhatMayNotBeReadSaysSo) {
+  Put("a.bas", "x");
+  Put("sub/b.bas", "x");
+  fs::permissions(folder_, fs::perms(0755));
+  ::chmod((folder_ / "a.bas").c_str(), 0);
+  ::chmod((folder_ / "sub").c_str(), 0);
+  std::optional<long> error = ErrorWithoutRights([&] { files_->Read(Path("a.bas")); });
+  if (!error) GTEST_SKIP() << kNoChild;
+  EXPECT_EQ(error, 70);
+  EXPECT_EQ(ErrorWithoutRights([&] { files_->Read(Path("sub\\b.bas")); }), 70);
+  ::chmod((folder_ / "a.bas").c_str(), 0444);
+  EXPECT_EQ(ErrorWithoutRights([&] { files_->Read(Path("a.bas")); }), 0);
+  ::chmod((folder_ / "sub").c_str(), 0755);
+}
+
+// Nobody writes to the pipe: whoever opens it to read waits for good.
+TEST_F(DiskFilesTest, APipeIsNoFile) {
+  ASSERT_EQ(::mkfifo((folder_ / "pipe.bas").c_str(), 0600), 0);
+  fs::create_symlink("/dev/zero", folder_ / "zero.bas");
+  for (const char* name : {"pipe.bas", "zero.bas", ""}) {
+    EXPECT_EQ(ErrorOf([&] { files_->Read(Path(name)); }), 75) << name;
+    EXPECT_EQ(ReasonOfFailure([&] { files_->Read(Path(name)); }), "No file, but a folder or a device") << name;
+    EXPECT_EQ(ReasonOfFailure([&] { files_->Write(Path(name), "x"); }), "No file, but a folder or a device") << name;
+  }
+}
+
+TEST_F(DiskFilesTest, WhatCannotBeAModuleIsReportedAndTheRestOpens) {
+  ASSERT_EQ(::mkfifo((folder_ / "pipe.bas").c_str(), 0600), 0);
+  Put("large.bas", "");
+  fs::resize_file(folder_ / "large.bas", 0x80000000u);  // takes no room on the disk
+  Put("folder.bas/x", "");
+  Put("Main.bas", "Attribute VB_Name = \"Main\"\n");
+  Put("P.vbp",
+      "Module=A; pipe.bas\nModule=B; large.bas\nModule=C; folder.bas\nModule=D; Q:\\d.bas\nModule=M; Main.bas\n");
+  auto environment = Environment::Create(*files_);
+  environment->Open(Path("P.vbp"));
+  std::vector<std::string> reasons;
+  for (const Problem& problem : environment->Problems())
+    reasons.push_back(std::to_string(problem.line) + ": " + problem.reason);
+  EXPECT_EQ(reasons,
+            (std::vector<std::string>{"1: pipe.bas: a file that cannot be read", "2: large.bas: a file of 2 GB or more",
+                                      "3: folder.bas: a folder, no file", "4: Q:\\d.bas: file not found",
+                                      "5: Main.bas: called M here and Main in its file"}));
+  ASSERT_EQ(environment->Projects()[0]->Modules().size(), 1u);
+  auto components = environment->Projects()[0]->VBComponents();
+  EXPECT_EQ(ReasonOfFailure([&] { components->AddFile("large.bas"); }), "a file of 2 GB or more");
 }
 
 // A limit on the size of files stands in for a full disk: writing breaks off in the middle of the bytes.

@@ -23,6 +23,16 @@ inline long ErrorOf(const std::function<void()>& action) {
   return 0;
 }
 
+// Its description; empty text if it throws none.
+inline std::string ReasonOfFailure(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const runtime::Error& error) {
+    return error.Description();
+  }
+  return {};
+}
+
 // "a|b" as "a" CR LF "b".
 inline std::string Text(std::string_view lines) {
   std::string text;
