@@ -24,9 +24,10 @@ bool EndsALine(std::string_view text) {
 std::vector<std::string_view> CutIntoLines(std::string_view text) {
   std::vector<std::string_view> lines;
   size_t from = 0;
-  for (size_t at; (at = text.find_first_of("\r\n", from)) != std::string_view::npos;) {
-    lines.push_back(text.substr(from, at - from));
-    from = at + (text.substr(at, 2) == "\r\n" ? 2 : 1);
+  for (size_t feed; (feed = text.find('\n', from)) != std::string_view::npos;) {
+    size_t end = feed > from && text[feed - 1] == '\r' ? feed - 1 : feed;
+    lines.push_back(text.substr(from, end - from));
+    from = feed + 1;
   }
   lines.push_back(text.substr(from));
   return lines;

@@ -12,7 +12,8 @@
 
 namespace corvane::environment {
 
-// Cuts at CR LF, LF and CR. "a" CR LF is "a" and an empty line; empty text is one empty line.
+// Cuts at CR LF and LF, as files are read; a CR alone is a character like others. "a" CR LF is "a" and an empty line;
+// empty text is one empty line.
 std::vector<std::string_view> CutIntoLines(std::string_view text);
 
 // A run of lines that lie in one piece of memory, each behind the line end of the one before.

@@ -182,8 +182,8 @@ TEST(ModuleText, LinesOfTheTextItselfMayBeInsertedAgain) {
   EXPECT_EQ(Shown(text), "long enough to be no short string|b|long enough to be no short string|b|");
 }
 
-TEST(CutIntoLines, CutsAtEveryLineEnd) {
-  EXPECT_EQ(CutIntoLines("a\r\nb\nc\rd\r\n"), (std::vector<std::string_view>{"a", "b", "c", "d", ""}));
+TEST(CutIntoLines, CutsAtFeedsAloneAsReadingDoes) {
+  EXPECT_EQ(CutIntoLines("a\r\nb\nc\rd\r\n"), (std::vector<std::string_view>{"a", "b", "c\rd", ""}));
   EXPECT_EQ(CutIntoLines(""), std::vector<std::string_view>{""});
 }
 
