@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 #include "environment/statement.h"
 
@@ -52,6 +53,13 @@ bool IsConflictMark(std::string_view line) {
          line.substr(0, 8) == "======= ";
 }
 
+constexpr char kConflictMark[] = "conflict mark of a version control";
+
+bool HoldsConflictMark(const std::vector<Problem>& problems) {
+  return std::any_of(problems.begin(), problems.end(),
+                     [](const Problem& problem) { return problem.reason == kConflictMark; });
+}
+
 // "Attribute VB_Name = "Form1"".
 std::string_view QuotedValue(std::string_view line) {
   size_t open = line.find('"');
@@ -82,6 +90,11 @@ class HeadReader {
  private:
   void Report(const char* reason) { head_.problems.push_back({{}, lines_.Number(), reason}); }
 
+  // The first of a file stands for all.
+  void ReportConflictMark() {
+    if (!std::exchange(has_conflict_mark_, true)) Report(kConflictMark);
+  }
+
   void NoteOldVersion() {
     double version = std::strtod(head_.version.c_str(), nullptr);
     if (head_.version.find("CLASS") == std::string::npos && version < 5)
@@ -94,8 +107,11 @@ class HeadReader {
     head_.designer_end = lines_.End();
     while (lines_.Next()) {
       std::string_view line = Trimmed(lines_.Line()), word = FirstWord(line);
-      if (depth == 0 && IsAttributeLine(lines_.Line())) return ReportMissingRoot();
-      if (StartsWithWord(word, "begin") || StartsWithWord(word, "beginproperty")) {
+      if (IsConflictMark(line)) {
+        ReportConflictMark();
+      } else if (depth == 0 && IsAttributeLine(lines_.Line())) {
+        return ReportMissingRoot();
+      } else if (StartsWithWord(word, "begin") || StartsWithWord(word, "beginproperty")) {
         if (depth++ == 0) ReadRoot(line);
       } else if (StartsWithWord(line, "end") || StartsWithWord(line, "endproperty")) {
         if (--depth <= 0) return Leave();
@@ -129,7 +145,6 @@ class HeadReader {
   void ReadProperty(std::string_view line) {
     if (line.empty()) return;
     size_t equals = line.find('=');
-    if (IsConflictMark(line)) return Report("conflict mark of a version control");
     if (equals == std::string_view::npos) return Report("neither a property nor a block");
     if (!StartsWithWord(line, "charset")) return;
     long charset = std::strtol(std::string(Trimmed(line.substr(equals + 1))).c_str(), nullptr, 10);
@@ -152,6 +167,7 @@ class HeadReader {
   std::string_view bytes_;
   LineReader lines_;
   ModuleHead head_;
+  bool has_conflict_mark_ = false;
 };
 
 }  // namespace
@@ -160,12 +176,25 @@ ModuleHead ReadModuleHead(std::string_view bytes) {
   return HeadReader(bytes).Read();
 }
 
-void FindConflictMarks(std::string_view bytes, size_t at, std::vector<Problem>& problems) {
-  for (std::string_view mark : {"\n<<<<<<< ", "\n>>>>>>> "})
-    for (size_t found = at; (found = bytes.find(mark, found)) != std::string_view::npos; found += mark.size())
-      problems.push_back({{},
-                          std::count(bytes.begin(), bytes.begin() + static_cast<long>(found) + 1, '\n') + 1,
-                          "conflict mark of a version control"});
+void FindConflictMark(std::string_view bytes, size_t at, std::vector<Problem>& problems) {
+  if (HoldsConflictMark(problems)) return;
+  size_t first = std::string_view::npos;
+  for (std::string_view mark : {"<<<<<<<", ">>>>>>>"}) {
+    size_t found = bytes.find(mark, at);
+    while (found != std::string_view::npos && found > at && bytes[found - 1] != '\n')
+      found = bytes.find(mark, found + 1);
+    first = std::min(first, found);
+  }
+  if (first == std::string_view::npos) return;
+  auto line = std::count(bytes.begin(), bytes.begin() + static_cast<long>(first), '\n') + 1;
+  problems.push_back({{}, line, kConflictMark});
+}
+
+std::vector<long> ConflictMarkLines(std::string_view designer) {
+  std::vector<long> numbers;
+  for (LineReader lines(designer); lines.Next();)
+    if (IsConflictMark(Trimmed(lines.Line()))) numbers.push_back(lines.Number());
+  return numbers;
 }
 
 std::string HeadWithName(std::string_view head, const std::string& name) {

@@ -26,8 +26,12 @@ struct ModuleHead {
 // [bytes] is a whole module file.
 ModuleHead ReadModuleHead(std::string_view bytes);
 
-// Marks that a version control left in a file, "<<<<<<<" and ">>>>>>>", in the lines of [bytes] from [at] on.
-void FindConflictMarks(std::string_view bytes, size_t at, std::vector<Problem>& problems);
+// The first mark that a version control left in a file, "<<<<<<<" or ">>>>>>>", in the lines of [bytes] from [at] (the
+// start of a line) on; not where a mark is among [problems] already.
+void FindConflictMark(std::string_view bytes, size_t at, std::vector<Problem>& problems);
+
+// The lines of a designer part that are such marks, "=======" too.
+std::vector<long> ConflictMarkLines(std::string_view designer);
 
 // [head] with its VB_Name, and the name of its root block, changed to [name].
 std::string HeadWithName(std::string_view head, const std::string& name);

@@ -22,8 +22,13 @@ Designer& OpenModule::DesignerOf() {
 
 void OpenModule::ReportDesigner() {
   if (!HasCode(kind_->type) || std::exchange(designer_reported_, true)) return;
-  for (const DesignerProblem& problem : DesignerOf().Problems())
-    Environment().ReportOnce({path_.empty() ? name_ : path_, problem.line, problem.reason});
+  const std::vector<DesignerProblem>& problems = DesignerOf().Problems();
+  if (problems.empty()) return;
+  const std::string& file = path_.empty() ? name_ : path_;
+  std::unordered_set<long> told = Environment().LinesReported(file);
+  for (long line : ConflictMarkLines(text_.Head().substr(0, designer_end_))) told.insert(line);
+  for (const DesignerProblem& problem : problems)
+    if (told.insert(problem.line).second) Environment().Report({file, problem.line, problem.reason});
 }
 
 std::string OpenModule::HeadText() const {

@@ -128,9 +128,11 @@ void OpenEnvironment::TakeCodePageHint(int code_page) {
   runtime::SetAnsiCodePage(code_page);
 }
 
-void OpenEnvironment::ReportOnce(Problem problem) {
-  auto same = [&](const Problem& other) { return other.line == problem.line && SamePath(other.file, problem.file); };
-  if (std::none_of(problems_.begin(), problems_.end(), same)) problems_.push_back(std::move(problem));
+std::unordered_set<long> OpenEnvironment::LinesReported(const std::string& file) const {
+  std::unordered_set<long> lines;
+  for (const Problem& problem : problems_)
+    if (SamePath(problem.file, file)) lines.insert(problem.line);
+  return lines;
 }
 
 void OpenEnvironment::Forget(const OpenModule& module) {

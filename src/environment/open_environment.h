@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 #include "environment/code_pane.h"
@@ -65,9 +66,12 @@ class OpenEnvironment : public Environment {
   // [saved] was written by [module]: others that show the same file take it over, unless they were edited themselves;
   // those are refused when they are saved, as after any other change on disk.
   void FileWasSaved(const OpenModule& module, const std::string& saved);
+  // Whether [path] is that of the group or of a file of what is open, those of
+  // [but] left out.
+  bool UsesFile(const std::string& path, const OpenModule* but) const;
   const std::string& GroupPath() const { return group_path_; }
-  // Unless something of that line was reported already.
-  void ReportOnce(Problem problem);
+  // The lines of [file] of which something was reported already.
+  std::unordered_set<long> LinesReported(const std::string& file) const;
   void Report(Problem problem) { problems_.push_back(std::move(problem)); }
 
  private:

@@ -41,6 +41,30 @@ bool IsAscii(std::string_view text) {
   return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
+// Neither a statement nor a declaration of Visual Basic ends so, a comment may.
+bool EndsAsInC(std::string_view line) {
+  size_t last = line.find_last_not_of(" \t");
+  return last != std::string_view::npos && (line[last] == ';' || line[last] == '{');
+}
+
+bool Declares(std::string_view line) {
+  line = WithoutIndent(line);
+  for (std::string_view word : {"option", "implements", "type", "enum", "declare", "event", "attribute"})
+    if (StartsWithWord(line, word)) return true;
+  return !DeclaredNames(line).empty();
+}
+
+// Whether a text has lines of code, and none of them defines or declares anything.
+bool IsForeign(const OpenModule::Source& source) {
+  bool has_code = false;
+  for (std::string_view line : CutIntoLines(std::string_view(source.bytes).substr(source.head.code_start))) {
+    if (IsBlank(line) || IsComment(WithoutIndent(line))) continue;
+    if (!EndsAsInC(line) && Declares(line)) return false;
+    has_code = true;
+  }
+  return has_code;
+}
+
 std::string FirstOf(std::initializer_list<std::string> names) {
   for (const std::string& name : names)
     if (!name.empty()) return name;
@@ -184,7 +208,7 @@ void OpenProject::TakeHead(OpenModule::Source& source, const std::string& name_i
   source.head = ReadModuleHead(source.bytes);
   source.kind = KindInFile(*source.kind, source.head);
   source.name = FirstOf({source.head.name, source.head.root_name, name_in_project, StemOf(source.path)});
-  FindConflictMarks(source.bytes, source.head.designer_end, source.head.problems);
+  FindConflictMark(source.bytes, source.head.designer_end, source.head.problems);
   if (source.kind->type == host::ComponentType::ClassModule && source.head.version.empty())
     source.head.problems.push_back({{}, 1, "class without a VERSION line: all of it is taken for code"});
 }
@@ -194,7 +218,10 @@ void OpenProject::ReportName(const ComponentLine& line, const OpenModule::Source
   if (!HasCode(source.kind->type)) {
     if (IsMissing(line.path)) ReportAt(line, "file not found");
   } else if (source.head.name.empty()) {
-    if (source.head.problems.empty()) ReportAt(line, "no line in it says its name: called " + source.name);
+    if (!source.head.problems.empty()) return;
+    if (!IsForeign(source)) return ReportAt(line, "no line in it says its name: called " + source.name);
+    std::string reason = "a module of another language? Nothing in it has a name or is declared: called ";
+    Environment().Report({source.path, 1, reason + source.name});
   } else if (!line.name.empty() && !SameName(line.name, source.head.name)) {
     ReportAt(line, "called " + line.name + " here and " + source.head.name + " in its file");
   }

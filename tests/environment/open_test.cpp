@@ -1,4 +1,5 @@
 // Opening projects and groups from their files, sound ones and bad ones.
+#include <chrono>
 #include <gtest/gtest.h>
 
 #include "environment/lookup.h"
@@ -71,6 +72,7 @@ TEST_P(BadModules, AreReportedAndTheRestOpens) {
   if (bad.file) opened.Put(bad.file, std::string(bad.bytes, bad.length ? bad.length : std::string(bad.bytes).size()));
   opened.files.MakeFolder("C:\\P\\folder.bas");
   opened.files.FailReads("C:\\P\\locked.bas", 70);
+  opened.files.FailReads("C:\\P\\broken.bas", 75);
   opened.environment->Open("C:\\P\\P.vbp");
   EXPECT_EQ(opened.Problems(), Lines{std::string("C:\\P\\") + bad.problem});
   EXPECT_TRUE(SameName(opened.Names().back(), "Main"));
@@ -83,8 +85,7 @@ INSTANTIATE_TEST_SUITE_P(
     Each, BadModules,
     testing::Values(
         BadCase{"missing", "Module=Gone; Gone.bas", nullptr, "", "P.vbp:2: Gone.bas: file not found", 0},
-        BadCase{"folder", "Module=F; folder.bas", nullptr, "",
-                "P.vbp:2: folder.bas: a folder, no file", 0},
+        BadCase{"folder", "Module=F; folder.bas", nullptr, "", "P.vbp:2: folder.bas: a folder, no file", 0},
         BadCase{"permission", "Module=L; locked.bas", nullptr, "",
                 "P.vbp:2: locked.bas: no permission to read the file", 0},
         BadCase{"self", "Module=P; P.vbp", nullptr, "", "P.vbp:2: P.vbp: the project file names itself", 0},
@@ -92,6 +93,13 @@ INSTANTIATE_TEST_SUITE_P(
         BadCase{"nul", "Module=B; b.bas", "b.bas", "x|\0y", "P.vbp:2: b.bas: no text: NUL byte in line 2", 4},
         BadCase{"language", "UserControl=b.ctl", "b.ctl", "load data|infile x|",
                 "P.vbp:2: b.ctl: no UserControl: its first line is not VERSION", 0},
+        BadCase{"otherlanguage", "Module=B; b.bas", "b.bas",
+                "#include <stdio.h>|/* Sub x() */|static int n;|int main(void) {|  return 0;|}|",
+                "b.bas:1: a module of another language? Nothing in it has a name or is declared: called B", 0},
+        BadCase{"nameless", "Module=B; b.bas", "b.bas", "Private n As Long|",
+                "P.vbp:2: b.bas: no line in it says its name: called B", 0},
+        BadCase{"unreadable", "Module=U; broken.bas", nullptr, "", "P.vbp:2: broken.bas: a file that cannot be read",
+                0},
         BadCase{"class", "Class=C; c.cls", "c.cls", "using System;|",
                 "c.cls:1: class without a VERSION line: all of it is taken for code", 0},
         BadCase{"duplicate", "Module=Main; Other.bas", "Other.bas", "Attribute VB_Name = \"MAIN\"|",
@@ -101,6 +109,17 @@ INSTANTIATE_TEST_SUITE_P(
                 "f.frm:3: conflict mark of a version control", 0},
         BadCase{"conflictincode", "Module=C; c.bas", "c.bas", "Attribute VB_Name = \"C\"|x|>>>>>>> theirs|",
                 "c.bas:3: conflict mark of a version control", 0},
+        BadCase{"conflictfirst", "Module=C; c.bas", "c.bas", "<<<<<<< mine|Attribute VB_Name = \"C\"|x|",
+                "c.bas:1: conflict mark of a version control", 0},
+        BadCase{"conflictbehindend", "Form=f.frm", "f.frm",
+                "VERSION 5.00|Begin VB.Form F |End|<<<<<<< mine|Attribute VB_Name = \"F\"|",
+                "f.frm:4: conflict mark of a version control", 0},
+        BadCase{"conflictbeforeroot", "Form=f.frm", "f.frm",
+                "VERSION 5.00|<<<<<<< mine|Begin VB.Form F |End|Attribute VB_Name = \"F\"|",
+                "f.frm:2: conflict mark of a version control", 0},
+        BadCase{"conflictseveral", "Form=f.frm", "f.frm",
+                "VERSION 5.00|Begin VB.Form F |<<<<<<< a|=======|>>>>>>> b|End|Attribute VB_Name = \"F\"|<<<<<<< a|",
+                "f.frm:3: conflict mark of a version control", 0},
         BadCase{"junk", "Form=f.frm", "f.frm", "VERSION 5.00|Begin VB.Form F |  what|End|Attribute VB_Name = \"F\"|",
                 "f.frm:3: neither a property nor a block", 0},
         BadCase{"cut", "Form=f.frm", "f.frm", "VERSION 5.00|Begin VB.Form F |   Begin VB.Label L |      Capt",
@@ -198,11 +217,40 @@ TEST(Opening, WhatIsWrongInAGroupIsReported) {
   opened.environment->Open("C:\\g.vbg");
   EXPECT_EQ(opened.Problems(),
             (Lines{"C:\\g.vbg:9: neither Project nor StartupProject", "C:\\g.vbg:3: none.vbp: file not found",
-                   "C:\\g.vbg:4: g.vbg: the group names itself",
-                   "C:\\g.vbg:5: nul.vbp: not a text: it holds NUL bytes",
+                   "C:\\g.vbg:4: g.vbg: the group names itself", "C:\\g.vbg:5: nul.vbp: not a text: it holds NUL bytes",
                    "C:\\g.vbg:6: A.VBP: named twice in the group", "C:\\g.vbg:7: h.vbg: a group inside a group",
                    "C:\\g.vbg:8: same.vbp: its name a is that of another project of the group"}));
   EXPECT_EQ(opened.environment->Projects().size(), 2u);
+}
+
+// A count of lines from the start for each of them would take minutes.
+TEST(Opening, ConflictMarksCostNoMoreThanTheirLines) {
+  Opened opened;
+  opened.PutProject("Module=M; M.bas|Form=F.frm|");
+  std::string marks;
+  for (int i = 0; i < 100000; ++i) marks += "<<<<<<< mine\r\n>>>>>>> theirs\r\n";
+  opened.files.Put("C:\\P\\M.bas", Text("Attribute VB_Name = \"M\"|") + marks);
+  opened.files.Put("C:\\P\\F.frm",
+                   Text("VERSION 5.00|Begin VB.Form F |") + marks + Text("End|Attribute VB_Name = \"F\"|"));
+  auto start = std::chrono::steady_clock::now();
+  opened.environment->Open("C:\\P\\P.vbp");
+  opened.At(1)->Designer();
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+  EXPECT_EQ(opened.Problems(), (Lines{"C:\\P\\M.bas:2: conflict mark of a version control",
+                                      "C:\\P\\F.frm:3: conflict mark of a version control"}));
+}
+
+TEST(Opening, TwoProjectsOfOneNameAreBothReachable) {
+  Opened opened;
+  opened.files.Put("C:\\g.vbg", Text("VBGROUP 5.0|Project=a.vbp|Project=b.vbp|"));
+  opened.files.Put("C:\\a.vbp", "Name=\"Same\"\n");
+  opened.files.Put("C:\\b.vbp", "Name=\"same\"\n");
+  opened.environment->Open("C:\\g.vbg");
+  auto projects = opened.environment->VBProjects();
+  ASSERT_EQ(projects->Count(), 2);
+  EXPECT_EQ(projects->Item(1)->FileName(), "C:\\a.vbp");
+  EXPECT_EQ(projects->Item(2)->FileName(), "C:\\b.vbp");
+  for (const char* name : {"Same", "same"}) EXPECT_EQ(projects->Item(name)->FileName(), "C:\\a.vbp") << name;
 }
 
 // The code page in force is one for the whole program: each test puts it back.
