@@ -40,9 +40,13 @@ host::Ref<host::VBComponents> OpenProject::VBComponents() {
   return std::make_shared<Components>(shared_from_this());
 }
 
+bool OpenProject::HasName(const std::string& name, const OpenModule* but) const {
+  auto has_it = [&](const auto& module) { return module.get() != but && SameName(module->Name(), name); };
+  return std::any_of(modules_.begin(), modules_.end(), has_it);
+}
+
 void OpenProject::RequireFreeName(const std::string& name, const OpenModule* but) const {
-  for (const auto& module : modules_)
-    if (module.get() != but && SameName(module->Name(), name)) throw host::Error(runtime::kNameInUse);
+  if (HasName(name, but)) throw host::Error(runtime::kNameInUse);
 }
 
 void OpenProject::WasRenamed(OpenModule& module, const std::string& old_name) {

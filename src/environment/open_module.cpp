@@ -167,6 +167,16 @@ void OpenModule::TakeSaved(const std::string& path, const host::FileStamp& stamp
   if (designer_) designer_->SetClean();
 }
 
+// The name that another project gave it in the file that they share.
+void OpenModule::TakeName(const std::string& name) {
+  auto project = project_.lock();
+  if (!project || name.empty() || name == name_) return;
+  if (project->HasName(name, this))
+    return Environment().Report({path_, 0, "its name " + name + " is that of another component of " + project->Name()});
+  std::string old_name = std::exchange(name_, name);
+  project->WasRenamed(*this, old_name);
+}
+
 void OpenModule::Reload(std::string bytes, const host::FileStamp& stamp) {
   long old_count = text_.Count();
   ModuleHead head = ReadModuleHead(bytes);
@@ -175,6 +185,7 @@ void OpenModule::Reload(std::string bytes, const host::FileStamp& stamp) {
   designer_.reset();
   siblings_read_.clear();
   stamp_ = stamp;
+  TakeName(head.name.empty() ? head.root_name : head.name);
   if (Observer* observer = Environment().CurrentObserver()) observer->LinesChanged(*this, 1, old_count, text_.Count());
 }
 

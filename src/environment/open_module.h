@@ -120,7 +120,7 @@ class OpenModule : public Module,
   void MoveSiblingBack(const std::string& name);
   // Its file holds what WriteToText gave.
   void TakeSaved(const std::string& path, const host::FileStamp& stamp);
-  // Takes [bytes] from the disk for its own; nothing of it was edited.
+  // Takes [bytes] from the disk, and the name in them, for its own; nothing of it was edited.
   void Reload(std::string bytes, const host::FileStamp& stamp);
   void SetDirty();
 
@@ -130,6 +130,8 @@ class OpenModule : public Module,
   environment::Designer& DesignerOf();
   std::string HeadText() const;
   void RenameHead(const std::string& name);
+  bool IsForeignSibling(const std::string& path) const;
+  void TakeName(const std::string& name);
   void ShowDesigner(bool open);
   WindowActs DesignerActs();
 

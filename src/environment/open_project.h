@@ -40,6 +40,7 @@ class OpenProject : public Project, public std::enable_shared_from_this<OpenProj
   std::shared_ptr<OpenEnvironment> EnvironmentOf() const { return environment_.lock(); }
   const std::vector<std::shared_ptr<OpenModule>>& OpenModules() const { return modules_; }
   long PositionOf(const OpenModule& module) const;
+  bool HasName(const std::string& name, const OpenModule* but) const;
   void RequireFreeName(const std::string& name, const OpenModule* but) const;  // Error 32813
   void WasRenamed(OpenModule& module, const std::string& old_name);
   void SaveAs(OpenModule& module, const std::string& path);

@@ -182,6 +182,45 @@ TEST_F(SharedModule, AnEditIsNeverLostSilently) {
   EXPECT_TRUE(second_->IsDirty());
 }
 
+TEST_F(SharedModule, ItsNewNameStandsInBothProjects) {
+  first_->SetName("Fresh");
+  EXPECT_EQ(opened_.environment->SaveAll().size(), 0u);
+  EXPECT_EQ(second_->Name(), "Fresh");
+  EXPECT_EQ(opened_.Disk("a.vbp"), Text("Name=\"A\"|Module=Fresh; M.bas|"));
+  EXPECT_EQ(opened_.Disk("b.vbp"), Text("Name=\"B\"|Module=Fresh; m.BAS|"));
+  EXPECT_FALSE(opened_.environment->IsDirty());
+}
+
+TEST_F(SharedModule, KeepsItsNameWhereAnotherComponentHasTheNewOne) {
+  auto added = opened_.Project(1)->VBComponents()->Add(host::ComponentType::StdModule);
+  added->SetName("Fresh");
+  first_->SetName("Fresh");
+  opened_.Project(0)->Save(*first_);
+  EXPECT_EQ(second_->Name(), "M");
+  EXPECT_EQ(opened_.Problems(), Lines{"C:\\P\\m.BAS:0: its name Fresh is that of another component of B"});
+}
+
+TEST_F(SharedModule, MayBeSavedUnderItsOwnPath) {
+  first_->ReplaceLines(1, 1, "two");
+  first_->SaveAs("m.bas");
+  EXPECT_EQ(second_->CodeModule()->Lines(1, 1), "two");
+}
+
+// What another project of the group has open is not overwritten.
+TEST(SavingInAGroup, TheFilesOfTheOtherProjectsAreTheirs) {
+  Opened opened;
+  opened.files.Put("C:\\P\\g.vbg", Text("VBGROUP 5.0|StartupProject=a.vbp|Project=b.vbp|"));
+  opened.Put("a.vbp", "Name=\"A\"|Module=M; M.bas|");
+  opened.Put("b.vbp", "Name=\"B\"|Module=N; N.bas|");
+  opened.Put("M.bas", "Attribute VB_Name = \"M\"|one|");
+  opened.Put("N.bas", "Attribute VB_Name = \"N\"|");
+  opened.environment->Open("C:\\P\\g.vbg");
+  for (const char* path : {"n.BAS", "b.vbp", "g.vbg"})
+    EXPECT_EQ(ErrorOf([&] { opened.At()->SaveAs(path); }), 58) << path;
+  EXPECT_EQ(opened.Disk("N.bas"), Text("Attribute VB_Name = \"N\"|"));
+  EXPECT_EQ(opened.files.writes, 0);
+}
+
 class Recorder : public Observer {
  public:
   Lines log;
