@@ -87,7 +87,7 @@ std::shared_ptr<OpenModule> OpenProject::Add(host::ComponentType type) {
 
 std::shared_ptr<OpenModule> OpenProject::AddFile(const std::string& path) {
   OpenModule::Source source;
-  source.path = JoinPath(FolderOf(path_), path);
+  source.path = WholePath(path);
   source.kind = KindOfExtension(ExtensionOf(path));
   if (source.kind == nullptr) source.kind = &KindOf(host::ComponentType::RelatedDocument);
   source.stamp = Environment().FilesInUse().Stamp(source.path);

@@ -1,4 +1,5 @@
 // OpenModule: its designer, the designer's window, and the binary file beside the module.
+#include <algorithm>
 #include <utility>
 
 #include "environment/observer.h"
@@ -8,6 +9,7 @@
 #include "environment/paths.h"
 #include "environment/statement.h"
 #include "runtime/error.h"
+#include "runtime/strings.h"
 
 namespace corvane::environment {
 
@@ -115,25 +117,51 @@ std::string OpenModule::ReadSibling(const std::string& name) {
   auto project = project_.lock();
   if (!project || path_.empty()) throw host::Error(runtime::kFileNotFound);
   std::string path = JoinPath(FolderOf(path_), name);
-  siblings_read_[path] = Environment().FilesInUse().Stamp(path);
-  return project->ReadBeside(path_, name);
+  host::FileStamp stamp = IsAbsolutePath(path) ? Environment().FilesInUse().Stamp(path) : host::FileStamp();
+  std::string bytes = project->ReadBeside(path_, name);
+  siblings_read_[runtime::UCase(path)] = stamp;
+  return bytes;
+}
+
+// Whether [path] is a file on disk other than the one that was read there.
+bool OpenModule::IsForeignSibling(const std::string& path) const {
+  auto read = siblings_read_.find(runtime::UCase(path));
+  host::FileStamp now = Environment().FilesInUse().Stamp(path);
+  return now.size != -1 && (read == siblings_read_.end() || read->second != now);
 }
 
 std::string OpenModule::NewSiblingName() {
   return (path_.empty() ? name_ : StemOf(path_)) + std::string(kind_->sibling);
 }
 
-// A light look at the head: `"Form1.frx":0000`.
-std::string OpenModule::SiblingName() const {
-  if (!HasDesigner(kind_->type)) return {};
+// A light look at the head: `"Form1.frx":0000`. Each name once.
+std::vector<std::string> OpenModule::SiblingNames() const {
+  std::vector<std::string> names;
+  if (!HasDesigner(kind_->type)) return names;
   std::string head = HeadText();
   for (size_t colon = head.find("\":"); colon != std::string::npos; colon = head.find("\":", colon + 1)) {
+    if (colon == 0) continue;
     size_t open = head.rfind('"', colon - 1);
-    if (open == std::string::npos || colon == 0) continue;
+    if (open == std::string::npos) continue;
     std::string name = head.substr(open + 1, colon - open - 1);
-    if (IsSiblingExtension(ExtensionOf(name))) return name;
+    auto is_same = [&](const std::string& other) { return SamePath(other, name); };
+    if (IsSiblingExtension(ExtensionOf(name)) && std::none_of(names.begin(), names.end(), is_same))
+      names.push_back(std::move(name));
   }
-  return {};
+  return names;
+}
+
+std::string OpenModule::SiblingName() const {
+  std::vector<std::string> names = SiblingNames();
+  return names.empty() ? std::string() : names.front();
+}
+
+bool OpenModule::UsesFile(const std::string& path) const {
+  if (Path().empty()) return false;
+  if (SamePath(path_, path)) return true;
+  std::vector<std::string> names = SiblingNames();
+  auto is_it = [&](const std::string& name) { return SamePath(JoinPath(FolderOf(path_), name), path); };
+  return std::any_of(names.begin(), names.end(), is_it);
 }
 
 void OpenModule::WriteSiblings(const std::string& path) {
@@ -143,26 +171,40 @@ void OpenModule::WriteSiblings(const std::string& path) {
     if (!sibling.changed) continue;
     std::string whole = JoinPath(FolderOf(path), sibling.name);
     files.Write(whole, sibling.bytes);
-    siblings_read_[whole] = files.Stamp(whole);
+    siblings_read_[runtime::UCase(whole)] = files.Stamp(whole);
   }
 }
 
 void OpenModule::RequireUnchangedSiblings() const {
   if (!designer_) return;
   for (const DesignerSibling& sibling : designer_->Siblings()) {
-    std::string path = JoinPath(FolderOf(path_), sibling.name);
-    auto read = siblings_read_.find(path);
-    host::FileStamp now = Environment().FilesInUse().Stamp(path);
-    if (sibling.changed && now.size != -1 && (read == siblings_read_.end() || read->second != now))
+    if (sibling.changed && IsForeignSibling(JoinPath(FolderOf(path_), sibling.name)))
       throw host::Error(runtime::kPermissionDenied, sibling.name + ": changed on disk since it was read");
   }
 }
 
-std::string OpenModule::MoveSibling(const std::string& path) {
+// What SaveAs to [path] calls the binary file: a new one beside the new file; that of a file which keeps its folder and
+// name stays as it is named.
+std::string OpenModule::SiblingNameAt(const std::string& path) const {
   std::string old_name = SiblingName();
+  return old_name.empty() || SamePath(path, path_) ? old_name : StemOf(path) + std::string(kind_->sibling);
+}
+
+void OpenModule::RequireOwnSibling(const std::string& path) const {
+  std::string name = SiblingNameAt(path);
+  if (name.empty()) return;
+  std::string whole = JoinPath(FolderOf(path), name);
+  bool is_unread = siblings_read_.count(runtime::UCase(whole)) == 0;
+  if (is_unread && SamePath(whole, JoinPath(FolderOf(path_), SiblingName()))) return;  // it is read on the way
+  if (!IsForeignSibling(whole)) return;
+  if (is_unread)
+    throw host::Error(runtime::kFileAlreadyExists, runtime::DescriptionOf(runtime::kFileAlreadyExists) + ": " + whole);
+  throw host::Error(runtime::kPermissionDenied, name + ": changed on disk since it was read");
+}
+
+std::string OpenModule::MoveSibling(const std::string& path) {
+  std::string old_name = SiblingName(), name = SiblingNameAt(path);
   if (old_name.empty()) return {};
-  // A new file beside the new one; the sibling of a file that keeps its folder and name stays as it is named.
-  std::string name = SamePath(path, path_) ? old_name : StemOf(path) + std::string(kind_->sibling);
   DesignerOf().MoveSibling(name);
   return old_name;
 }

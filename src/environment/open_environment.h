@@ -66,8 +66,7 @@ class OpenEnvironment : public Environment {
   // [saved] was written by [module]: others that show the same file take it over, unless they were edited themselves;
   // those are refused when they are saved, as after any other change on disk.
   void FileWasSaved(const OpenModule& module, const std::string& saved);
-  // Whether [path] is that of the group or of a file of what is open, those of
-  // [but] left out.
+  // Whether [path] is that of the group or of a file of what is open, those of [but] left out.
   bool UsesFile(const std::string& path, const OpenModule* but) const;
   const std::string& GroupPath() const { return group_path_; }
   // The lines of [file] of which something was reported already.

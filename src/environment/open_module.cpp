@@ -104,14 +104,18 @@ void OpenModule::RenameHead(const std::string& name) {
   text_.SetHead(head.substr(0, designer_end_) + HeadWithName(head.substr(designer_end_), name));
 }
 
+std::string OpenModule::Path() const {
+  return IsAbsolutePath(path_) ? path_ : std::string();
+}
+
 long OpenModule::FileCount() {
-  bool has_sibling = !path_.empty() && !SiblingName().empty();
+  bool has_sibling = !Path().empty() && !SiblingName().empty();
   return has_sibling ? 2 : doubtful::kFileCountWithoutFrx;
 }
 
 std::string OpenModule::FileNames(long index) {
   if (index < 1 || index > FileCount()) throw host::Error(runtime::kSubscriptOutOfRange);
-  return index == 1 || SiblingName().empty() ? path_ : JoinPath(FolderOf(path_), SiblingName());
+  return index == 1 || SiblingName().empty() ? Path() : JoinPath(FolderOf(path_), SiblingName());
 }
 
 void OpenModule::SaveAs(const std::string& path) {
@@ -191,7 +195,7 @@ void OpenModule::Reload(std::string bytes, const host::FileStamp& stamp) {
 
 bool OpenModule::ChangedOnDisk() const {
   // A file that is gone may be written again: nothing is lost by it.
-  host::FileStamp now = path_.empty() ? stamp_ : Environment().FilesInUse().Stamp(path_);
+  host::FileStamp now = Path().empty() ? stamp_ : Environment().FilesInUse().Stamp(path_);
   return now.size != -1 && now != stamp_;
 }
 

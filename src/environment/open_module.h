@@ -62,7 +62,7 @@ class OpenModule : public Module,
   std::shared_ptr<Project> ProjectOf() const override;
   long Position() const override;
   bool IsDirty() const override { return dirty_; }
-  std::string Path() const override { return path_; }
+  std::string Path() const override;
   std::string WriteToText() const override;
   std::string_view LineView(long line) const override { return text_.Line(line); }
   void ReplaceLines(long start, long count, const std::string& text) override;
@@ -100,7 +100,9 @@ class OpenModule : public Module,
   void Change(long start, long count, const std::string* text, bool by_user);
   Pane& PaneOf();
 
-  // For the project.
+  // For the project. PathAsRead is its path; relative for a text of a project that was never saved, which has no file
+  // yet.
+  const std::string& PathAsRead() const { return path_; }
   long ProjectLine() const { return project_line_; }
   void SetProjectLine(long id) { project_line_ = id; }
   const ModuleKind& Kind() const { return *kind_; }
@@ -113,8 +115,15 @@ class OpenModule : public Module,
   void WriteSiblings(const std::string& path);
   // Error 70 where somebody else changed one of these since it was read.
   void RequireUnchangedSiblings() const;
+  // Whether [path] is that of its file or of a binary file that its designer part refers to.
+  bool UsesFile(const std::string& path) const;
+  // The name of the binary file beside [path] once the module is saved there; empty if there is none.
+  std::string SiblingNameAt(const std::string& path) const;
+  // Error 58 where that is a file which it did not read, Error 70 where somebody else changed it since.
+  void RequireOwnSibling(const std::string& path) const;
   // The name of the binary file that its designer part refers to; empty if there is none.
   std::string SiblingName() const;
+  std::vector<std::string> SiblingNames() const;
   // The designer's references name a file beside [path] instead. Returns the name that they had.
   std::string MoveSibling(const std::string& path);
   void MoveSiblingBack(const std::string& name);
@@ -149,7 +158,7 @@ class OpenModule : public Module,
   std::shared_ptr<Pane> pane_;
   // The designer and what it was made from: the head in front of the attributes of the module.
   std::unique_ptr<environment::Designer> designer_;
-  std::map<std::string, host::FileStamp> siblings_read_;  // by path
+  std::map<std::string, host::FileStamp> siblings_read_;  // by upper-cased path
   std::shared_ptr<ActWindow> designer_window_;
   bool designer_open_ = false, designer_reported_ = false;
 };

@@ -44,6 +44,9 @@ class OpenProject : public Project, public std::enable_shared_from_this<OpenProj
   void RequireFreeName(const std::string& name, const OpenModule* but) const;  // Error 32813
   void WasRenamed(OpenModule& module, const std::string& old_name);
   void SaveAs(OpenModule& module, const std::string& path);
+  // Whether [path] is that of the project or of a file of its modules, [but] left out; of modules that were not read
+  // too.
+  bool UsesFile(const std::string& path, const OpenModule* but) const;
   std::shared_ptr<OpenModule> Add(host::ComponentType type);
   std::shared_ptr<OpenModule> AddFile(const std::string& path);
   void Remove(const host::Ref<host::VBComponent>& component);
@@ -68,6 +71,8 @@ class OpenProject : public Project, public std::enable_shared_from_this<OpenProj
   void AddNamesInUse(OpenModule& module);
   void ReportAt(const ComponentLine& line, const std::string& reason);
   void SetDirty();
+  std::string WholePath(const std::string& path) const;  // Error 76 for a relative one without a folder
+  void RequireFreeFiles(const OpenModule& module, const std::string& path) const;
   void WriteModule(OpenModule& module, const std::string& path);
   void ListInFile(OpenModule& module);
   std::string NewName(const ModuleKind& kind) const;

@@ -97,7 +97,7 @@ bool IsAbsolutePath(std::string_view path) {
 std::string JoinPath(std::string_view folder, std::string_view path) {
   std::string whole = WithBackslashes(path);
   if (!IsAbsolutePath(whole)) {
-    whole = WithBackslashes(folder) + "\\" + whole;
+    whole = folder.empty() ? whole : WithBackslashes(folder) + "\\" + whole;
   } else if (whole[0] == '\\' && whole.substr(0, 2) != "\\\\" && folder.size() >= 2 && folder[1] == ':') {
     whole = std::string(folder.substr(0, 2)) + whole;
   }

@@ -12,7 +12,7 @@ std::string StemOf(std::string_view path);       // the file name without its ex
 std::string ExtensionOf(std::string_view path);  // ".frm"; empty where there is none
 
 bool IsAbsolutePath(std::string_view path);
-// [path] seen from [folder]; "." and ".." are resolved, "/" counts as "\".
+// [path] seen from [folder], relative where that is empty; "." and ".." are resolved, "/" counts as "\".
 std::string JoinPath(std::string_view folder, std::string_view path);
 // [path] as a file in [folder] names it: relative where both are on one drive, else whole.
 std::string RelativePath(std::string_view folder, std::string_view path);

@@ -112,7 +112,8 @@ bool OpenProject::IsFolder(const std::string& path) const {
 bool OpenProject::IsMissing(const std::string& path) const {
   for (const SourceFile& text : loose_texts_)
     if (SamePath(text.path, path)) return false;
-  return Environment().FilesInUse().Attributes(JoinPath(FolderOf(path_), path)) == host::kNoSuchFile;
+  std::string whole = JoinPath(FolderOf(path_), path);
+  return !IsAbsolutePath(whole) || Environment().FilesInUse().Attributes(whole) == host::kNoSuchFile;
 }
 
 void OpenProject::KeepLooseTexts(const std::vector<SourceFile>& sources) {
@@ -129,6 +130,7 @@ std::string OpenProject::ReadBeside(const std::string& path, const std::string& 
   std::string whole = JoinPath(FolderOf(path), name);
   for (const SourceFile& text : loose_texts_)
     if (SamePath(JoinPath(FolderOf(path_), text.path), whole)) return text.text;
+  if (!IsAbsolutePath(whole)) throw host::Error(runtime::kFileNotFound);
   return Environment().FilesInUse().Read(whole);
 }
 
@@ -149,7 +151,7 @@ int OpenProject::CodePageOfPaths(const std::vector<ComponentLine>& lines) const 
   for (int page : {in_force, 932, 950, 936, 949, 1251, 1252, 1250, 1253, 1254, 874}) {
     runtime::SetAnsiCodePage(page);
     std::string path = JoinPath(FolderOf(path_), lines.front().path);
-    if (Environment().FilesInUse().Attributes(path) == host::kNoSuchFile) continue;
+    if (!IsAbsolutePath(path) || Environment().FilesInUse().Attributes(path) == host::kNoSuchFile) continue;
     found = page;
     break;
   }
@@ -163,6 +165,7 @@ bool OpenProject::ReadBytes(const ComponentLine& line, const std::vector<SourceF
     source.bytes = text->text;
     return true;
   }
+  if (!IsAbsolutePath(source.path)) return ReportAt(line, "no folder to look in: the project was never saved"), false;
   try {
     source.stamp = Environment().FilesInUse().Stamp(source.path);
     if (static_cast<uint64_t>(std::max<int64_t>(source.stamp.size, 0)) > kLargestFile)
@@ -195,8 +198,9 @@ void OpenProject::CollectNamesInUse() {
 }
 
 void OpenProject::AddNamesInUse(OpenModule& module) {
-  if (!module.Path().empty()) paths_in_use_.insert(runtime::UCase(module.Path()));
-  if (HasCode(module.Type())) names_in_use_.emplace(runtime::UCase(module.Name()), FileNameOf(module.Path()));
+  const std::string& path = module.PathAsRead();
+  if (!path.empty()) paths_in_use_.insert(runtime::UCase(path));
+  if (HasCode(module.Type())) names_in_use_.emplace(runtime::UCase(module.Name()), FileNameOf(path));
 }
 
 // Reads the head of the source's bytes, and with it its kind and its name.

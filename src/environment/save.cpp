@@ -1,4 +1,6 @@
 // Saving: each file is written as a whole or stays as it was; a file that somebody else changed is refused.
+#include <algorithm>
+
 #include "environment/observer.h"
 #include "environment/open_environment.h"
 #include "environment/open_project.h"
@@ -41,11 +43,44 @@ void OpenProject::Save(Module& module, OnDiskChange rule) {
   WriteModule(open, open.Path());
 }
 
-void OpenProject::SaveAs(OpenModule& module, const std::string& path) {
+std::string OpenProject::WholePath(const std::string& path) const {
   std::string whole = JoinPath(FolderOf(path_), path);
-  for (const auto& other : modules_)
-    if (other.get() != &module && SamePath(other->Path(), whole)) throw host::Error(runtime::kFileAlreadyExists);
+  if (IsAbsolutePath(whole)) return whole;
+  throw host::Error(runtime::kPathNotFound, "a relative path, and the project has no folder: it was never saved");
+}
+
+bool OpenProject::UsesFile(const std::string& path, const OpenModule* but) const {
+  auto uses_it = [&](const auto& module) { return module.get() != but && module->UsesFile(path); };
+  if (SamePath(path_, path) || std::any_of(modules_.begin(), modules_.end(), uses_it)) return true;
+  std::vector<ComponentLine> lines = file_.Components();
+  auto names_it = [&](const ComponentLine& line) {
+    bool is_own = but != nullptr && line.id == but->ProjectLine();
+    return !is_own && SamePath(JoinPath(FolderOf(path_), line.path), path);
+  };
+  return std::any_of(lines.begin(), lines.end(), names_it);
+}
+
+bool OpenEnvironment::UsesFile(const std::string& path, const OpenModule* but) const {
+  auto uses_it = [&](const auto& project) { return project->UsesFile(path, but); };
+  return SamePath(group_path_, path) || std::any_of(projects_.begin(), projects_.end(), uses_it);
+}
+
+// What [module] would write when it is saved as [path] must belong to nobody else. Its own files it may share with
+// another project.
+void OpenProject::RequireFreeFiles(const OpenModule& module, const std::string& path) const {
+  bool keeps_path = SamePath(path, module.Path());
+  bool is_taken = !keeps_path && Environment().UsesFile(path, nullptr);
+  std::string name = module.SiblingNameAt(path), sibling = name.empty() ? name : JoinPath(FolderOf(path), name);
+  if (!name.empty() && !module.UsesFile(sibling)) is_taken |= Environment().UsesFile(sibling, &module);
+  if (is_taken || (!name.empty() && SamePath(sibling, path))) throw host::Error(runtime::kFileAlreadyExists);
+  RequireUnchanged(keeps_path && module.ChangedOnDisk());
+}
+
+void OpenProject::SaveAs(OpenModule& module, const std::string& path) {
+  std::string whole = WholePath(path);
+  RequireFreeFiles(module, whole);
   if (!HasCode(module.Type())) throw host::Error(runtime::kNoSuchMember);
+  module.RequireOwnSibling(whole);
   std::string old_sibling = module.MoveSibling(whole);
   try {
     WriteModule(module, whole);

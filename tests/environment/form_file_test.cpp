@@ -98,7 +98,58 @@ TEST_F(FormFile, ABinaryFileThatSomebodyElseChangedIsRefused) {
   form_->Designer()->VBControls()->Item("lst")->Properties()->Item("List")->SetIndexedValue(0, std::string("longer"));
   opened_.files.Put("C:\\P\\Form1.frx", kFrx + "theirs");
   EXPECT_EQ(ErrorOf([&] { opened_.Project()->Save(*form_); }), 70);
+  EXPECT_EQ(ReasonOfFailure([&] { opened_.Project()->Save(*form_); }), "Form1.frx: changed on disk since it was read");
   EXPECT_EQ(opened_.Disk("Form1.frx"), kFrx + "theirs");
+}
+
+TEST_F(FormFile, ABinaryFileThatIsNotItsOwnIsNeverReplaced) {
+  opened_.files.Put("C:\\P\\Old.frx", "of a form that nobody has open");
+  EXPECT_EQ(ErrorOf([&] { form_->SaveAs("Old.frm"); }), 58);
+  EXPECT_EQ(opened_.Disk("Old.frx"), "of a form that nobody has open");
+  EXPECT_EQ(opened_.files.Attributes("C:\\P\\Old.frm"), host::kNoSuchFile);
+  EXPECT_EQ(form_->WriteToText(), Text(kForm));
+  EXPECT_FALSE(form_->IsDirty());
+}
+
+TEST_F(FormFile, ASaveAsThatFailedMayBeTriedAgain) {
+  opened_.files.FailWrites("C:\\New\\frmOther.frm", 61);
+  EXPECT_EQ(ErrorOf([&] { form_->SaveAs("C:\\New\\frmOther.frm"); }), 61);
+  opened_.files.FailWrites("C:\\New\\frmOther.frm", 0);
+  form_->SaveAs("C:\\New\\frmOther.frm");
+  EXPECT_EQ(opened_.files.Read("C:\\New\\frmOther.frx"), kFrx);
+}
+
+// Two forms, the binary file of the second named after neither.
+class TwoForms : public testing::Test {
+ protected:
+  static std::string Form(const std::string& name, const std::string& sibling) {
+    return "VERSION 5.00|Begin VB.Form " + name + " |   Begin VB.ListBox lst |      List            =   \"" + sibling +
+           "\":0000|   End|End|Attribute VB_Name = \"" + name + "\"|";
+  }
+  TwoForms() {
+    opened_.PutProject("Type=Exe|Form=A.frm|Form=B.frm|");
+    opened_.Put("A.frm", Form("A", "A.frx"));
+    opened_.Put("B.frm", Form("B", "Other.frx"));
+    opened_.files.Put("C:\\P\\A.frx", kFrx);
+    opened_.files.Put("C:\\P\\Other.frx", kFrx + "of B");
+    opened_.environment->Open("C:\\P\\P.vbp");
+  }
+  Opened opened_;
+};
+
+TEST_F(TwoForms, TheBinaryFileOfTheOtherIsNotReplaced) {
+  for (const char* path : {"Other.frm", "other.FRX", "a.frx"})
+    EXPECT_EQ(ErrorOf([&] { opened_.At(0)->SaveAs(path); }), 58) << path;
+  opened_.files.Remove("C:\\P\\Other.frx");  // its place stays taken
+  EXPECT_EQ(ErrorOf([&] { opened_.At(0)->SaveAs("Other.frm"); }), 58);
+  EXPECT_EQ(opened_.At(0)->FileNames(1), "C:\\P\\A.frm");
+  EXPECT_EQ(opened_.files.writes, 0);
+}
+
+TEST_F(TwoForms, TheOneThatReadsABinaryFileMayBeNamedAfterIt) {
+  opened_.At(1)->SaveAs("Other.frm");
+  EXPECT_EQ(opened_.At(1)->FileNames(2), "C:\\P\\Other.frx");
+  EXPECT_EQ(opened_.Disk("Other.frx"), kFrx + "of B");
 }
 
 TEST_F(FormFile, ItsDesignerWindowOpensOnDemand) {

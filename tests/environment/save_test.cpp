@@ -92,6 +92,21 @@ TEST_F(Saving, SaveAsMakesThePathTheFileOfTheComponent) {
   EXPECT_EQ(ErrorOf([&] { Components()->Item("Thing")->SaveAs("C:\\P\\Main.bas"); }), 58);
 }
 
+TEST_F(Saving, AProjectFileIsNoPlaceForAComponent) {
+  EXPECT_EQ(ErrorOf([&] { Components()->Item("Thing")->SaveAs("p.VBP"); }), 58);
+}
+
+TEST(SavingAs, AModuleThatCouldNotBeReadKeepsItsFile) {
+  Opened opened;
+  opened.PutProject("Module=M; M.bas|Module=B; b.bas|");
+  opened.Put("M.bas", "Attribute VB_Name = \"M\"|");
+  opened.files.Put("C:\\P\\b.bas", std::string("x\0", 2));
+  opened.environment->Open("C:\\P\\P.vbp");
+  ASSERT_EQ(opened.Names(), Lines{"M"});
+  EXPECT_EQ(ErrorOf([&] { opened.At()->SaveAs("B.bas"); }), 58);
+  EXPECT_EQ(opened.Disk("b.bas"), std::string("x\0", 2));
+}
+
 TEST_F(Saving, AFileIsAddedByItsExtension) {
   opened_.files.Put("C:\\lib\\Tools.bas", "Attribute VB_Name = \"Tools\"\n");
   auto added = Components()->AddFile("C:\\lib\\Tools.bas");
@@ -282,6 +297,51 @@ TEST(Environment, AProjectThatWasNeverSavedHasNoFileName) {
   EXPECT_EQ(environment->ActiveVBProject()->FileName(), "");
   EXPECT_EQ(environment->ActiveVBProject()->Name(), "New");
   EXPECT_EQ(ErrorOf([&] { environment->Projects()[0]->SaveProjectFile(); }), 75);
+}
+
+TEST(Environment, ComponentsOfAProjectThatWasNeverSavedHaveNoFileYet) {
+  MemoryFiles files;
+  files.Put("M.bas", "beside the program\r\n");
+  files.Put("Gone.bas", "beside the program\r\n");
+  auto environment = Environment::Create(files);
+  environment->OpenFromTexts(
+      "", "Type=Exe\r\nModule=M; M.bas\r\nModule=N; C:\\P\\N.bas\r\nModule=G; Gone.bas\r\n",
+      {{"M.bas", "Attribute VB_Name = \"M\"\r\n"}, {"C:\\P\\N.bas", "Attribute VB_Name = \"N\"\r\n"}});
+  auto project = environment->Projects()[0];
+  ASSERT_EQ(project->Modules().size(), 2u);
+  auto module = project->Modules()[0];
+  EXPECT_EQ(module->FileNames(1), "");
+  EXPECT_EQ(module->Path(), "");
+  EXPECT_EQ(project->Modules()[1]->FileNames(1), "C:\\P\\N.bas");
+  ASSERT_EQ(environment->Problems().size(), 1u);
+  EXPECT_EQ(environment->Problems()[0].reason, "Gone.bas: no folder to look in: the project was never saved");
+  const std::string refused = "a relative path, and the project has no folder: it was never saved";
+  EXPECT_EQ(ReasonOfFailure([&] { project->Save(*module); }), "never saved: it has no file yet");
+  EXPECT_EQ(ReasonOfFailure([&] { project->SaveProjectFile(); }), "never saved: it has no file yet");
+  EXPECT_EQ(ReasonOfFailure([&] { module->SaveAs("M.bas"); }), refused);
+  EXPECT_EQ(ReasonOfFailure([&] { project->VBComponents()->AddFile("Gone.bas"); }), refused);
+  module->SaveAs("C:\\Q\\M.bas");
+  EXPECT_EQ(module->FileNames(1), "C:\\Q\\M.bas");
+  EXPECT_EQ(files.Read("M.bas"), "beside the program\r\n");
+  EXPECT_NE(project->WriteToText().find("Module=M; C:\\Q\\M.bas\r\n"), std::string::npos);
+}
+
+// Its binary files are found among the texts that it was made from.
+TEST(Environment, AFormOfAProjectThatWasNeverSavedReadsItsBinaryFile) {
+  MemoryFiles files;
+  auto environment = Environment::Create(files);
+  environment->OpenFromTexts(
+      "", "Type=Exe\r\nForm=sub\\F.frm\r\n",
+      {{"sub\\F.frm", Text("VERSION 5.00|Begin VB.Form F |   Begin VB.ListBox l |      List            =   "
+                           "\"F.frx\":0000|   End|End|Attribute VB_Name = \"F\"|")},
+       {"sub\\F.frx", std::string("\x01\0\x03\0\x02\0ab", 8)}});
+  auto form = environment->Projects()[0]->Modules()[0];
+  EXPECT_EQ(form->FileCount(), 1);
+  EXPECT_EQ(form->FileNames(1), "");
+  EXPECT_EQ(runtime::ToText(form->Designer()->VBControls()->Item(1)->Properties()->Item("List")->IndexedValue(0)),
+            "ab");
+  form->SaveAs("C:\\Q\\F.frm");
+  EXPECT_EQ(files.Read("C:\\Q\\F.frx"), std::string("\x01\0\x03\0\x02\0ab", 8));
 }
 
 TEST(Environment, ObjectsOutliveItAndFail) {
