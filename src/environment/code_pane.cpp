@@ -44,6 +44,7 @@ void Pane::OpenOnDemand() {
   open_ = true;
   list_->panes_.push_back(shared_from_this());
   list_->activity_.insert(list_->activity_.begin(), weak_from_this());
+  Window();  // every open pane is in the list of windows
 }
 
 void Pane::MoveToFront() {
