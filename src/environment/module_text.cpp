@@ -139,7 +139,9 @@ size_t ModuleText::WriteLine(std::string& out, Span span) const {
   out += View(span);
   size_t end = out.size();
   std::string_view own = OwnLineEnd(span);
-  out += own.empty() ? line_end_ : own;
+  // A CR that ends the line itself would be taken for a part of an LF.
+  bool ends_in_cr = end > 0 && out[end - 1] == '\r';
+  out += !own.empty() ? own : ends_in_cr ? std::string_view("\r\n") : line_end_;
   return end;
 }
 

@@ -119,6 +119,13 @@ TEST_F(FormFile, ASaveAsThatFailedMayBeTriedAgain) {
   EXPECT_EQ(opened_.files.Read("C:\\New\\frmOther.frx"), kFrx);
 }
 
+TEST_F(FormFile, ItsOwnPathIsNoWayRoundAChangeOfItsBinaryFile) {
+  form_->Designer()->VBControls()->Item("lst")->Properties()->Item("List")->SetIndexedValue(0, std::string("longer"));
+  opened_.files.Put("C:\\P\\Form1.frx", kFrx + "theirs");
+  EXPECT_EQ(ErrorOf([&] { form_->SaveAs("Form1.frm"); }), 70);
+  EXPECT_EQ(opened_.Disk("Form1.frx"), kFrx + "theirs");
+}
+
 // Two forms, the binary file of the second named after neither.
 class TwoForms : public testing::Test {
  protected:

@@ -96,6 +96,8 @@ INSTANTIATE_TEST_SUITE_P(
                  0,
                  {"x"},
                  "Attribute VB_Name = \"A\"\r\nx\r\n"},
+        EditCase{"a CR inside a line", "a\nb\n", 2, 0, {"x\ry"}, "a\nx\ry\nb\n"},
+        EditCase{"a CR at its end is no part of the line end", "a\nb\n", 2, 0, {"x\r"}, "a\nx\r\r\nb\n"},
         EditCase{"an empty file", "", 1, 0, {"x", ""}, "x\r\n\r\n"}));
 
 INSTANTIATE_TEST_SUITE_P(Attributes, Edits,

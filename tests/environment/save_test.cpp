@@ -55,6 +55,23 @@ TEST_F(Saving, AFileThatSomebodyElseChangedIsRefusedUntilAsked) {
   EXPECT_FALSE(opened_.At(0)->ChangedOnDisk());
 }
 
+TEST_F(Saving, ItsOwnPathIsNoWayRoundAChangeOnDisk) {
+  opened_.Put("Main.bas", "theirs|");
+  EXPECT_EQ(ReasonOfFailure([&] { opened_.At(0)->SaveAs("main.bas"); }), "changed on disk since it was read");
+  EXPECT_EQ(opened_.Disk("Main.bas"), Text("theirs|"));
+}
+
+TEST_F(Saving, ACarriageReturnInsideALineStaysInIt) {
+  opened_.Code(0)->InsertLines(1, "' a\rb");
+  EXPECT_EQ(opened_.Code(0)->CountOfLines(), 3);
+  opened_.environment->SaveAll();
+  Opened again;
+  again.files = opened_.files;
+  again.environment->Open("C:\\P\\P.vbp");
+  EXPECT_EQ(again.Code(0)->CountOfLines(), 3);
+  EXPECT_EQ(again.Code(0)->Lines(1, 1), "' a\rb");
+}
+
 TEST_F(Saving, AProjectFileThatSomebodyElseChangedIsRefusedUntilAsked) {
   opened_.At(0)->SetName("Start");
   opened_.PutProject("Type=OleDll|");
