@@ -69,9 +69,18 @@ std::string CheckCodePage(const std::string& word) {
   return known ? "" : word + " is no code page that is known";
 }
 
-template <class Word>
-std::map<std::string, Word> WordMap(const std::vector<std::pair<std::string, Word>>& words) {
-  return {words.begin(), words.end()};
+// An option whose value is one of [words], which outlive the command.
+template <class Meaning>
+void AddWord(CLI::App* command, const std::string& name, Meaning& value,
+             const std::vector<std::pair<std::string, Meaning>>& words) {
+  std::string offered;
+  for (const auto& [word, meaning] : words) offered += (offered.empty() ? "" : ", ") + word;
+  const auto take = [name, offered, &value, &words](const std::string& given) {
+    for (const auto& [word, meaning] : words)
+      if (word == given) return void(value = meaning);
+    throw CLI::ValidationError(name, "\"" + given + "\" is none of " + offered);
+  };
+  command->add_option_function<std::string>(name, take, "one of " + offered);
 }
 
 class CommandLine {
@@ -142,10 +151,8 @@ class CommandLine {
     });
     list->add_flag("--procedures", list_.procedures, "rows of procedures: component, line, text");
     list->add_flag("--json", list_.json, "JSON Lines");
-    list->add_option("--kind", list_.filter.kind, "all, subs, functions, properties or events")
-        ->transform(CLI::CheckedTransformer(WordMap(KindWords())));
-    list->add_option("--visibility", list_.filter.visibility, "all, public, private or static")
-        ->transform(CLI::CheckedTransformer(WordMap(VisibilityWords())));
+    AddWord(list, "--kind", list_.filter.kind, KindWords());
+    AddWord(list, "--visibility", list_.filter.visibility, VisibilityWords());
     list->add_option("--filter", filter_, "only procedures whose row holds this text");
   }
 

@@ -2,6 +2,8 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -194,6 +196,59 @@ TEST(CommandLine, AMissingModuleIsToldAndTheRestIsListed) {
   EXPECT_TRUE(result.out.startsWith("here\t"));
   ASSERT_EQ(result.ErrorLines().size(), 1);
   EXPECT_TRUE(result.errors.contains("gone.bas")) << result.errors.toStdString();
+}
+
+TEST(CommandLine, AWordThatIsNotOfferedIsRefusedWithThoseThatAre) {
+  const QString project = Sample("stockroom/Stockroom.vbp");
+  for (const QString& word : {QString("odd"), QString("2"), QString("Subs")}) {
+    const Result kind = RunProgram({"list", "--kind", word, project});
+    EXPECT_EQ(kind.status, 2) << word.toStdString();
+    EXPECT_EQ(kind.ErrorLines().value(0),
+              "--kind: \"" + word + "\" is none of all, subs, functions, properties, events");
+    EXPECT_TRUE(kind.out.isEmpty());
+  }
+  const Result visibility = RunProgram({"list", "--visibility", "1", project});
+  EXPECT_EQ(visibility.status, 2);
+  EXPECT_EQ(visibility.ErrorLines().value(0), "--visibility: \"1\" is none of all, public, private, static");
+}
+
+TEST(CommandLine, ListFiltersProceduresByVisibility) {
+  const QString project = Sample("stockroom/Stockroom.vbp");
+  const qsizetype all = RunProgram({"list", project, "--procedures", "--visibility", "all"}).OutLines().size();
+  EXPECT_EQ(RunProgram({"list", project, "--procedures"}).OutLines().size(), all);
+  for (const QString& word : {QString("Public"), QString("Private")}) {
+    const Result result = RunProgram({"list", project, "--procedures", "--visibility", word.toLower()});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_GT(result.OutLines().size(), 0);
+    EXPECT_LT(result.OutLines().size(), all);
+    for (const QString& line : result.OutLines())
+      EXPECT_TRUE(line.section('\t', 2).contains(word + " ")) << line.toStdString();
+  }
+}
+
+TEST(CommandLine, ListWritesJsonLines) {
+  const QString project = Sample("stockroom/Stockroom.vbp");
+  const struct {
+    QStringList options, keys;
+  } kCases[] = {{{}, {"component", "declarations", "kind", "lines", "procedures"}},
+                {{"--procedures"}, {"component", "line", "text"}}};
+  for (const auto& c : kCases) {
+    const Result result = RunProgram(QStringList{"list", project, "--json"} + c.options);
+    EXPECT_EQ(result.status, 0);
+    EXPECT_GT(result.OutLines().size(), 0);
+    EXPECT_EQ(result.OutLines().size(), RunProgram(QStringList{"list", project} + c.options).OutLines().size());
+    for (const QString& line : result.OutLines())
+      EXPECT_EQ(QJsonDocument::fromJson(line.toUtf8()).object().keys(), c.keys) << line.toStdString();
+  }
+}
+
+TEST(CommandLine, ListOfAGroupSaysWhichProjectItLists) {
+  const QString group = Sample("group/Counters.vbg");
+  const Result result = RunProgram({"list", group});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_TRUE(result.out.startsWith("frmTill\t"));
+  EXPECT_EQ(result.ErrorLines(), QStringList{group + ": Till is listed, the active project; not listed: Report"});
+  EXPECT_TRUE(RunProgram({"list", Sample("group/Till/Till.vbp")}).errors.isEmpty());
 }
 
 }  // namespace
