@@ -147,6 +147,7 @@ class CommandLine {
       return WithProject(command_, path_, [this](auto& environment) {
         list_.filter.name = runtime::AnsiCodePage().FromUtf8(filter_);
         RunListCommand(environment, list_, command_.out);
+        TellOtherProjects(environment, path_, command_.errors);
       });
     });
     list->add_flag("--procedures", list_.procedures, "rows of procedures: component, line, text");

@@ -132,4 +132,13 @@ void RunListCommand(environment::Environment& environment, const ListOptions& op
     if (explorer::HasCode(*component)) lister.List(*component);
 }
 
+void TellOtherProjects(environment::Environment& environment, const std::string& path, std::ostream& errors) {
+  const Ref<host::VBProject> active = environment.ActiveVBProject();
+  std::string others;
+  for (Ref<host::VBProject> project : host::Each(environment.VBProjects()))
+    if (project != active) others += (others.empty() ? "" : ", ") + Utf8(project->Name());
+  if (others.empty()) return;
+  errors << path << ": " << Utf8(active->Name()) << " is listed, the active project; not listed: " << others << '\n';
+}
+
 }  // namespace corvane::desk

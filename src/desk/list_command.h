@@ -31,4 +31,7 @@ const std::vector<std::pair<std::string, explorer::Visibility>>& VisibilityWords
 // A component is scanned as if it had been chosen with the filters. Throws host::Error without a project.
 void RunListCommand(environment::Environment& environment, const ListOptions& options, std::ostream& out);
 
+// Of a group: one line on [errors] with the name of the project that is listed and those of the others.
+void TellOtherProjects(environment::Environment& environment, const std::string& path, std::ostream& errors);
+
 }  // namespace corvane::desk
