@@ -33,5 +33,5 @@ function(corvane_room_tests room)
   endif()
   target_link_libraries(corvane_${room}_tests PRIVATE ${ARG_DEPENDS} ${ARG_LIBRARIES} GTest::gtest GTest::gmock
                                                       GTest::gtest_main)
-  gtest_discover_tests(corvane_${room}_tests DISCOVERY_TIMEOUT 120 PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+  gtest_discover_tests(corvane_${room}_tests NO_PRETTY_VALUES DISCOVERY_TIMEOUT 120 PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
 endfunction()
