@@ -156,7 +156,7 @@ TEST(DesignerPart, AnySequenceOfLinesIsWrittenBack) {
   }
 }
 
-TEST(DesignerPart, FourThousandLinesAreReadInWellUnderFiveMilliseconds) {
+TEST(DesignerPart, FourThousandLinesAreReadAtOnce) {
   std::string text = "VERSION 5.00\r\nBegin VB.Form F \r\n";
   for (int i = 0; i < 500; ++i)
     text += Crlf("   Begin VB.Label Label" + std::to_string(i) +
