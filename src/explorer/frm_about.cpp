@@ -4,6 +4,13 @@
 
 namespace corvane::explorer {
 
+namespace {
+
+// The readme's box shows whole lines.
+constexpr forms::Twips kLinesOfText = 12, kLineHeight = 195, kTextEdges = 90, kBesideText = 550;
+
+}  // namespace
+
 frmAbout::frmAbout(host::Services& services, forms::Toolkit& toolkit) : Form(toolkit, "frmAbout"), services(services) {
   Design();
   cmdOk.Click = [this] { Unload(); };
@@ -14,7 +21,7 @@ void frmAbout::Design() {
   SetCaption("About Corvane");
   SetBorderStyle(forms::FormBorder::FixedDialog);
   SetIcon(forms::Icon("corvane"));
-  Move(2400, 2400, 6300, 3000);
+  Move(2400, 2400, 6300, kLinesOfText * kLineHeight + kTextEdges + kBesideText);
   imgIcon.SetPicture(forms::Icon("corvane"));
   imgIcon.SetStretch(true);
   imgIcon.Move(240, 240, 720, 720);
@@ -29,7 +36,7 @@ void frmAbout::Design() {
   txtRead.SetScrollBars(2);
   txtRead.SetLocked(true);
   txtRead.SetVisible(false);
-  txtRead.Move(120, 120, 4545, Height() - 550);
+  txtRead.Move(120, 105, 4545, Height() - kBesideText);
   cmdOk.SetCaption("OK");
   cmdOk.SetDefault(true);
   cmdOk.SetCancel(true);
@@ -41,7 +48,9 @@ void frmAbout::Design() {
 }
 
 void frmAbout::cmdSysInfo_Click() {
-  cmdSysInfo.SetVisible(false);
+  for (forms::Control* covered :
+       std::initializer_list<forms::Control*>{&cmdSysInfo, &imgIcon, &lblTitle, &lblDescription, &lblLicence})
+    covered->SetVisible(false);
   std::string text;
   runtime::PassOverErrors([&] { text = services.Files.Read(services.App.Path + "\\readme.txt"); });
   txtRead.SetText(text);
