@@ -26,19 +26,19 @@ bool IsCommentOrBlank(const std::string& row) {
 void frmAddIn::lbxProc_Click() {
   if (busy) return;
   savedPosition = 0;
-  std::string row = lbxProc->List(lbxProc->ListIndex());
   long index = ComponentOfRow();
   if (index < 1) return;
+  std::string row = lbxProc->List(lbxProc->ListIndex());
   Ref<host::CodeModule> module = Object(ComponentAt(row, index)).CodeModule();
   long at = lbxProc->ListIndex(), line = lbxProc->ItemData(at);
   if (at == 0 && row == kDeclarations) return ShowDeclarations(*module);
-  lblSub.SetCaption(ShownText(row));
+  std::string title = ShownText(row);
   if (line >= kFirstProcedureLine) {
-    long moved = FindLineNear(*module, -line, row, lblSub.Caption());
+    long moved = FindLineNear(*module, -line, row, title);
     if (moved >= 1 && moved != line) lbxProc->SetItemData(at, line = moved);
     if (ShowProcedure(*module, line)) return;
   }
-  ShowBlock(*module, line);
+  ShowBlock(*module, line, title);
 }
 
 // Position of the component that the selected row belongs to; below 1 when it belongs to none. The first row of the
@@ -74,10 +74,12 @@ Ref<host::VBComponent> frmAddIn::ComponentAt(const std::string& row, long index)
 }
 
 void frmAddIn::ShowDeclarations(host::CodeModule& module) {
-  textOffset = 1;
-  lblSub.SetCaption(LTrim(kDeclarations));
   long lines = module.CountOfDeclarationLines();
-  ShowRaw(lines > 0 ? module.Lines(1, lines) : std::string());
+  std::string text = lines > 0 ? module.Lines(1, lines) : std::string();
+  textOffset = 1;
+  txtCode.Clear();
+  lblSub.SetCaption(LTrim(kDeclarations));
+  ShowRaw(text);
 }
 
 // The whole procedure around [line]; false where there is none, or its name has a single letter.
@@ -94,48 +96,49 @@ bool frmAddIn::ShowProcedure(host::CodeModule& module, long line) {
     textOffset = 1;
   }
   long count = module.ProcCountLines(name, kind);
+  std::string text = module.Lines(body, count >= kFewestLines ? count + kLinesBehind : kUnknownLines);
   lblSub.SetCaption(Trim(module.Lines(body, 1)));
-  ShowCode(module.Lines(body, count >= kFewestLines ? count + kLinesBehind : kUnknownLines));
+  ShowCode(text, false, false);
   return true;
 }
 
-void frmAddIn::ShowBlock(host::CodeModule& module, long line) {
+void frmAddIn::ShowBlock(host::CodeModule& module, long line, const std::string& title) {
   long start = line;
   if (line > 1) start = line >= kBlockFrom ? line - kBlockHead : 1;
+  std::string text = module.Lines(start, kBlockLines);
   textOffset = line - start + 1;
-  txtCode.AllProcText(true);
-  ShowCode(module.Lines(start, kBlockLines));
+  lblSub.SetCaption(title);
+  ShowCode(text, false, true);
+}
+
+// A text that comes while another one loads waits until that has stopped: how it is read is told for each text, and
+// taken back when the last one stands. Escape has hidden the view; a text that comes into it must be seen.
+void frmAddIn::ShowCode(const std::string& text, bool raw, bool wholeBlock) {
+  if (text.empty()) txtCode.Clear();  // an empty text does not wait
+  txtCode.SetVisible(true);
+  txtCode.NoAnalyse = raw;
+  txtCode.AllProcText(wholeBlock);
+  if (textLoads) return txtCode.SetText(text);
+  SetWhile loading(textLoads);
+  txtCode.SetText(text);
+  txtCode.NoAnalyse = false;
   txtCode.AllProcText(false);
 }
 
-// A text that is shown while another one loads raw takes its place, and is not raw.
-void frmAddIn::ShowCode(const std::string& text) {
-  txtCode.NoAnalyse = false;
-  ShowText(text);
-}
-
 void frmAddIn::ShowRaw(const std::string& text) {
-  SetWhile raw(txtCode.NoAnalyse);
-  ShowText(text);
-}
-
-// Escape has hidden the view; a text that comes into it must be seen.
-void frmAddIn::ShowText(const std::string& text) {
-  ++textsShown;
-  txtCode.SetVisible(true);
-  txtCode.SetText(text);
+  ShowCode(text, true, false);
 }
 
 void frmAddIn::txtCode_TextDone() {
+  long done = ++textsDone;
   firstCodeRow = 1;
   for (long row = 1; row <= std::min(txtCode.ListCount(), kLongestHead); ++row)
     if (!IsCommentOrBlank(txtCode.List(row))) {
       firstCodeRow = row;
       break;
     }
-  const long text = textsShown;
   DoEvents();
-  if (text != textsShown) return;
+  if (done != textsDone) return;  // another text stands in the view by now
   if (savedPosition > 0) textOffset = savedPosition;
   txtCode.SetStrPos(textOffset);
   textOffset = 1;
@@ -167,7 +170,16 @@ void frmAddIn::cmdMore_Click() {
   }
   cmdMore.SetCaption(maximise ? "Min" : "Max");
   cmGo.SetVisible(!maximise);
+  CoverLists(maximise);
+  txtCode.SetVisible(true);
   Focus(txtCode);
+}
+
+// What the maximised view covers must not take the focus.
+void frmAddIn::CoverLists(bool covered) {
+  for (forms::Control* control : std::initializer_list<forms::Control*>{
+           &lbxComp1, &lbxComp2, &txtFind, &Frame1, &lbxProc1, &lbxProc2, &txtFproc, &Frame2, &Frame3})
+    control->SetEnabled(!covered);
 }
 
 void frmAddIn::txtCode_EscapeClicked() {

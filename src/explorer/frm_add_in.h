@@ -92,6 +92,7 @@ class frmAddIn : public forms::Form {
   long GoToCode();
 
   bool goMode = false, toProcStart = false;
+  bool designerFromRow = false;  // the next click on cmGo takes the component from the procedure row
   std::string pendingComponent;  // name of a component to choose at the next choice
   std::string currentText;       // component row that was selected before the list was rebuilt
   long currentItemData = 0;
@@ -192,13 +193,13 @@ class frmAddIn : public forms::Form {
   host::Ref<host::VBComponent> ComponentAt(const std::string& row, long index);
   void ShowDeclarations(host::CodeModule& module);
   bool ShowProcedure(host::CodeModule& module, long line);
-  void ShowBlock(host::CodeModule& module, long line);
-  void ShowCode(const std::string& text);
+  void ShowBlock(host::CodeModule& module, long line, const std::string& title);
+  void ShowCode(const std::string& text, bool raw, bool wholeBlock);
   void ShowRaw(const std::string& text);
-  void ShowText(const std::string& text);
   void txtCode_TextDone();
   void ReloadCode(long row);
   void cmdMore_Click();
+  void CoverLists(bool covered);
   void cmdColor_Click();
   void txtCode_EscapeClicked();
 
@@ -214,22 +215,21 @@ class frmAddIn : public forms::Form {
 
   host::Services& services;
 
-  bool activated = false;        // the work of the first activation has been done
-  bool loadedOnce = false;       // the window is loaded
-  bool initDone = false;         // the first listing has been tried
-  bool busy = false;             // a list is being filled: a click on one does nothing
-  bool noOptionEvent = false;    // an option is set by code: its click does nothing
-  bool noPairEvent = false;      // a pair switch or a search sets the mode options
-  bool keepFilters = false;      // a filter is clicked: a listing leaves the filters as they are
-  bool skipGlobals = false;      // a kind button lists
-  bool designerFromRow = false;  // cmGo takes the component from the procedure row
-  bool filterClicked = false;    // the mouse press under way has chosen a filter
-  bool wasMinimised = false;     // at the end of the last resize
-  long kindFilter = 0;           // 0 all, 1 forms, 2 user controls, 3 standard modules, 4 classes
-  long currentComponent = 0;     // position of the component in view
-  long chosenRow = -1;           // of the components, before a text is typed
-  long fills = 0;                // listings begun: one that finds another number behind a yield ends there
-  long textsShown = 0;           // texts given to the code view, to the same end
+  bool activated = false;      // the work of the first activation has been done
+  bool loadedOnce = false;     // the window is loaded
+  bool initDone = false;       // the first listing has been tried
+  bool busy = false;           // a list is being filled: a click on one does nothing
+  bool noOptionEvent = false;  // an option is set by code: its click does nothing
+  bool noPairEvent = false;    // a pair switch or a search sets the mode options
+  bool keepFilters = false;    // a filter is clicked: a listing leaves the filters as they are
+  bool skipGlobals = false;    // a kind button lists
+  bool filterClicked = false;  // the mouse press under way has chosen a filter
+  bool textLoads = false;      // into the code view
+  bool wasMinimised = false;   // at the end of the last resize
+  long kindFilter = 0;         // 0 all, 1 forms, 2 user controls, 3 standard modules, 4 classes
+  long currentComponent = 0;   // position of the component in view
+  long chosenRow = -1;         // of the components, before a text is typed
+  long fills = 0;              // listings begun: one that finds another number behind a yield ends there
   bool proceduresHadFocus = false;
 
   int pair = 0;
@@ -238,6 +238,7 @@ class frmAddIn : public forms::Form {
 
   long textOffset = 1;     // row on which the text about to be loaded must stand
   long savedPosition = 0;  // the same, from a history step; 0: none
+  long textsDone = 0;      // texts that were loaded to their end
   long firstCodeRow = 1;   // row of the first real line of the text shown
   forms::Rect codePlace;   // of the code view before it was maximised
 };

@@ -97,6 +97,9 @@ void frmAddIn::Design() {
   Label1.SetCaption("Components");
   Label2.SetCaption("Procedures and Declarations");
   Label3.SetCaption("Code View");
+  // They show code, in which "&" is an operator.
+  lblSub.SetUseMnemonic(false);
+  Label5.SetUseMnemonic(false);
   OrderTabs();
 }
 
@@ -235,14 +238,14 @@ void frmAddIn::PlaceControls() {
       {optProcAll, {0, 30, 1185, 255}},     {optProcSub, {1185, 30, 795, 255}},   {optProcFunc, {1980, 30, 1125, 255}},
       {optProcProp, {3105, 30, 1170, 255}}, {optProcEvent, {4275, 30, 960, 255}}, {Frame3, {7140, 2775, 3205, 315}},
       {optAllProc, {0, 30, 645, 255}},      {optProcPubl, {645, 30, 870, 255}},   {optProcPriv, {1515, 30, 930, 255}},
-      {optProcStat, {2445, 30, 760, 255}},  {Label3, {75, 3195, 1125, 240}},      {lblSub, {1275, 3195, 5775, 240}},
-      {Label5, {7140, 3195, 2760, 240}},    {cmGo, {10000, 3150, 345, 330}},      {txtCode, {75, 3510, 10270, 3065}},
-      {Frame4, {75, 6635, 1500, 1215}},     {optProj, {120, 150, 1320, 255}},     {optCurMod, {120, 480, 1320, 255}},
-      {optSelMod, {120, 810, 1320, 255}},   {Frame6, {1650, 6635, 6120, 1215}},   {cmbSearch, {120, 135, 4455, 315}},
-      {cbSearch, {4650, 135, 1350, 315}},   {optFndAll, {120, 525, 1410, 255}},   {optFndCur, {1530, 525, 1530, 255}},
-      {optFndSel, {3060, 525, 1605, 255}},  {optGroup, {4665, 525, 1335, 255}},   {Frame5, {120, 840, 5880, 285}},
-      {chkWhole, {0, 15, 1410, 255}},       {chkSub, {1410, 15, 1530, 255}},      {chkComnt, {2940, 15, 1605, 255}},
-      {cmdMore, {7845, 6725, 735, 345}},    {cmdColor, {7845, 7135, 735, 345}},   {txtClip, {8655, 6725, 1690, 1090}},
+      {optProcStat, {2445, 30, 760, 255}},  {Label3, {75, 3195, 1125, 240}},      {lblSub, {1275, 3195, 8650, 200}},
+      {Label5, {3150, 1335, 6390, 200}},    {cmGo, {10000, 3150, 345, 330}},      {txtCode, {75, 3510, 10270, 3065}},
+      {Frame4, {75, 6635, 1560, 1215}},     {optProj, {120, 150, 1380, 255}},     {optCurMod, {120, 480, 1380, 255}},
+      {optSelMod, {120, 810, 1380, 255}},   {Frame6, {1710, 6635, 6180, 1215}},   {cmbSearch, {120, 135, 4515, 315}},
+      {cbSearch, {4710, 135, 1350, 315}},   {optFndAll, {120, 525, 1440, 255}},   {optFndCur, {1560, 525, 1545, 255}},
+      {optFndSel, {3105, 525, 1620, 255}},  {optGroup, {4725, 525, 1335, 255}},   {Frame5, {120, 840, 5940, 285}},
+      {chkWhole, {0, 15, 1440, 255}},       {chkSub, {1440, 15, 1545, 255}},      {chkComnt, {2985, 15, 1620, 255}},
+      {cmdMore, {7965, 6725, 735, 345}},    {cmdColor, {7965, 7135, 735, 345}},   {txtClip, {8775, 6725, 1570, 1090}},
       {lstSave, {75, 1635, 1215, 495}},     {txtPrev, {75, 1635, 1215, 315}},
   };
   for (const auto& spot : kPlaces)
@@ -302,6 +305,7 @@ void frmAddIn::ResetOptions() {
     first->SetVisible(true);
   lbxComp2.SetVisible(false);
   lbxProc2.SetVisible(false);
+  CoverLists(false);
 }
 
 }  // namespace corvane::explorer

@@ -14,6 +14,7 @@ void frmAddIn::SwitchPair(int to) {
   pendingComponent = to == 1 ? lbxComp->List(optCurMod.Value() ? 0 : lbxComp->ListIndex()) : std::string();
   ShowPair(to);
   txtCode.Clear();
+  lblSub.SetCaption("");
   {
     SetWhile noEvent(noPairEvent);
     optProj.SetValue(pairProj[to]);

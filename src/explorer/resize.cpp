@@ -10,7 +10,7 @@ using forms::Twips;
 namespace {
 
 constexpr Twips kWidest = 12300, kLeastWidth = 10530, kLeastHeight = 8400;
-constexpr Twips kFrameWidth = 260, kBelowFrames = 550, kBetweenButtons = 45;
+constexpr Twips kFrameWidth = 260, kBelowFrames = 550, kBetweenButtons = 45, kBesideLabels = 75;
 
 }  // namespace
 
@@ -47,7 +47,9 @@ void frmAddIn::AlignRight(Twips right) {
   txtFind.SetWidth(right - txtFind.Left());
   cmdNext.SetLeft(right - cmdNext.Width());
   cmdPrev.SetLeft(cmdNext.Left() - kBetweenButtons - cmdPrev.Width());
+  Label5.SetWidth(cmdPrev.Left() - kBesideLabels - Label5.Left());
   cmGo.SetLeft(right - cmGo.Width());
+  lblSub.SetWidth(cmGo.Left() - kBesideLabels - lblSub.Left());
   txtClip.SetWidth(right - txtClip.Left());
 }
 

@@ -111,10 +111,7 @@ class DropDownPeer : public ControlPeer {
     ControlPeer::ShowFont();
     ShowPlace();
   }
-  // The rows and the button keep the system's colours; what can be typed in has the control's.
-  void ShowColors() override {
-    if (QLineEdit* edit = shown_->lineEdit()) edit->setPalette(FieldPalette(combo_.BackColor(), combo_.ForeColor()));
-  }
+  void ShowColors() override {}
   void ShowOwn(forms::Property property) override {
     using forms::Property;
     shown_->Locked = combo_.Locked();

@@ -1,5 +1,7 @@
 // What a row of the procedures shows in the code view.
+#include "environment/observer.h"
 #include "tests/explorer/explorer_fixture.h"
+#include "tests/support/counting_host.h"
 
 namespace corvane::tests {
 namespace {
@@ -21,12 +23,36 @@ class CodeView : public ExplorerTest {
     forms::Twips left = form.Frame4.Top() - 60 - form.txtCode.Top() - form.txtCode.Height();
     return left >= 0 && left < form.txtCode.RowHeight();
   }
+  // What the user does while the next text loads, or stands there for the first time.
+  void DuringNextYield(std::function<void()> act) {
+    services.loop.on_do_events = [this, act = std::move(act)] { std::exchange(services.loop.on_do_events, {}), act(); };
+  }
+  // A row for a line, as searches and bookmarks make them.
+  long AddRowFor(const std::string& module, long line) {
+    form.AddProcedureRow(Module(module), line);
+    return form.lbxProc->NewIndex();
+  }
   // Opens the module and a row of the list for one of its lines.
   void ShowLine(long line) {
     OpenWindow(Shop());
     ChooseComponent("modMain");
-    form.AddProcedureRow(Module("modMain"), line);
-    form.lbxProc->UserSelect(form.lbxProc->NewIndex());
+    form.lbxProc->UserSelect(AddRowFor("modMain", line));
+  }
+};
+
+// 30 lines of declarations with a condition, a procedure of 30 lines with a condition, a short one.
+class LongCodeView : public CodeView {
+ protected:
+  void SetUp() override {
+    Code lines = {"#If Debugging Then", "Dim d", "#End If"};
+    lines.resize(30, "Dim a");
+    for (const char* line : {"Sub Lengthy()", "    If a Then"}) lines.push_back(line);
+    lines.resize(58, "        a = 1");
+    for (const char* line : {"    End If", "End Sub", "Sub Brief()", "    If a Then", "        a = 2", "    End If",
+                             "End Sub", "Sub After()", "End Sub"})
+      lines.push_back(line);
+    OpenWindow({Bas("modMain", lines), Frm("frmMain", {"Dim x", ""})});
+    ChooseComponent("modMain");
   }
 };
 
@@ -269,6 +295,181 @@ TEST_F(CodeView, WhatTheViewCopiedStandsInTheClipBook) {
   services.clipboard.text = "b = 1";
   form.txtCode.ClipBook();
   EXPECT_EQ(form.txtClip.Text(), "b = 1");
+}
+
+TEST_F(CodeView, MaxShowsAViewThatEscHasHidden) {
+  OpenWindow(Shop());
+  for (const char* caption : {"Min", "Max"}) {
+    form.txtCode.SetVisible(false);
+    form.cmdMore.UserClick();
+    EXPECT_EQ(form.cmdMore.Caption(), caption);
+    EXPECT_TRUE(form.txtCode.Visible());
+    EXPECT_TRUE(form.txtCode.HasFocus());
+  }
+}
+
+TEST_F(CodeView, WhatTheMaximisedViewCoversDoesNotTakeTheFocus) {
+  OpenWindow(Shop());
+  forms::Control* covered[] = {&form.lbxComp1, &form.txtFind,    &form.optFirst,   &form.lbxProc1,
+                               &form.txtFproc, &form.optProcAll, &form.optAllProc, &form.optProcSub};
+  form.cmdMore.UserClick();
+  for (forms::Control* control : covered) {
+    EXPECT_THROW(control->SetFocus(), runtime::Error) << control->Name();
+    EXPECT_TRUE(form.txtCode.HasFocus()) << control->Name();
+  }
+  form.optProj.UserClick();
+  EXPECT_FALSE(form.lbxProc1.HasFocus());
+  form.cmdMore.UserClick();
+  for (forms::Control* control : covered) {
+    control->SetFocus();
+    EXPECT_TRUE(control->HasFocus()) << control->Name();
+  }
+}
+
+TEST_F(CodeView, AWindowThatWasClosedWithTheViewMaximisedComesUpWithItsLists) {
+  OpenWindow(Shop());
+  form.cmdMore.UserClick();
+  form.Unload();
+  form.Show();
+  form.lbxComp1.SetFocus();
+  EXPECT_TRUE(form.lbxComp1.HasFocus());
+}
+
+TEST_F(LongCodeView, AProcedureChosenWhileDeclarationsLoadIsAnalysed) {
+  DuringNextYield([&] { ChooseProcedure("Sub Brief"); });
+  ChooseProcedure("Declarations");
+  EXPECT_THAT(CodeRows(), ElementsAre("Sub Brief()", "    If a Then", "        a = 2", "    End If", "End Sub"));
+  EXPECT_EQ(form.txtCode.LineLevel(3) - form.txtCode.LineLevel(1), 1);
+}
+
+TEST_F(LongCodeView, AProcedureChosenWhileABlockLoadsEndsWithItsEnd) {
+  long block = AddRowFor("modMain", 25);
+  DuringNextYield([&] { ChooseProcedure("Sub Brief"); });
+  form.lbxProc->UserSelect(block);
+  EXPECT_EQ(form.txtCode.ListCount(), 5);
+  EXPECT_EQ(form.lblSub.Caption(), "Sub Brief()");
+}
+
+TEST_F(LongCodeView, ABlockChosenWhileAProcedureLoadsPassesOneEnd) {
+  long block = AddRowFor("modMain", 25);
+  DuringNextYield([&] { form.lbxProc->UserSelect(block); });
+  ChooseProcedure("Sub Lengthy");
+  EXPECT_EQ(form.txtCode.ListCount(), 65);
+  EXPECT_EQ(form.txtCode.ListIndex(), 25);
+}
+
+TEST_F(LongCodeView, DeclarationsChosenWhileAProcedureLoadsStayAsTheyAre) {
+  DuringNextYield([&] { ChooseProcedure("Declarations"); });
+  ChooseProcedure("Sub Lengthy");
+  EXPECT_EQ(form.txtCode.ListCount(), 30);
+  EXPECT_EQ(form.txtCode.StoredText(1), "#If Debugging Then");
+  ChooseProcedure("Sub Brief");
+  EXPECT_EQ(form.txtCode.LineLevel(3) - form.txtCode.LineLevel(1), 1);
+}
+
+TEST_F(LongCodeView, DeclarationsThatAreNoMoreEndTheTextThatLoads) {
+  DuringNextYield([&] {
+    Module("modMain").DeleteLines(1, 30);
+    ChooseProcedure("Declarations");
+  });
+  ChooseProcedure("Sub Lengthy");
+  EXPECT_EQ(form.txtCode.ListCount(), 0);
+  EXPECT_EQ(form.lblSub.Caption(), "Declarations");
+}
+
+TEST_F(CodeView, ARowChosenWhileATextComesToStandKeepsItsOwnPlace) {
+  OpenWindow(Shop());
+  ChooseComponent("modMain");
+  long inside = AddRowFor("modMain", 7);
+  DuringNextYield([&] { form.lbxProc->UserSelect(inside); });
+  ChooseProcedure("Sum");
+  EXPECT_EQ(form.txtCode.List(1), "Public Sub First()");
+  EXPECT_EQ(form.txtCode.ListIndex(), 3);
+}
+
+TEST_F(CodeView, ABookmarkWhoseLineMovedIsFoundByItsText) {
+  OpenWindow(Shop());
+  form.lbxComp->Clear();
+  form.lbxProc->Clear();
+  form.lbxComp->AddItem(explorer::kResult);
+  form.lbxProc->AddItem(explorer::BookmarkRow("b = 1", "modMain", 7));
+  Module("modMain").InsertLines(1, "Private c As Long");
+  form.lbxProc->UserSelect(0);
+  EXPECT_EQ(form.lbxProc->ItemData(0), 8);
+  EXPECT_EQ(form.txtCode.ListIndex(), 3);
+}
+
+TEST_F(CodeView, TheTitleStaysWithItsTextWhenTheClickFails) {
+  OpenWindow(Shop());
+  ChooseComponent("modMain");
+  ChooseProcedure("First");
+  Module("modMain").DeleteLines(6, 55);
+  toolkit.Guard([&] { ChooseProcedure("Sum"); });
+  EXPECT_EQ(form.txtCode.List(1), "Public Sub First()");
+  EXPECT_EQ(form.lblSub.Caption(), "Public Sub First()");
+  EXPECT_THAT(toolkit.Faults(), ::testing::SizeIs(1));
+}
+
+TEST_F(CodeView, ItsTitleShowsAnAmpersandAsItIs) {
+  EXPECT_FALSE(form.lblSub.UseMnemonic());
+  EXPECT_FALSE(form.Label5.UseMnemonic());
+}
+
+TEST_F(CodeView, AListPairWithoutATextHasNoTitle) {
+  OpenWindow(Shop());
+  ChooseComponent("modMain");
+  ChooseProcedure("First");
+  form.optSecond.UserClick();
+  EXPECT_EQ(form.txtCode.ListCount(), 0);
+  EXPECT_EQ(form.lblSub.Caption(), "");
+}
+
+TEST_F(CodeView, AfterALineInsideAProcedureTheNextTextStandsOnItsFirstRow) {
+  ShowLine(7);
+  EXPECT_EQ(form.txtCode.ListIndex(), 3);
+  form.tlbr.UserButtonClick(form.tlbr.PositionOf("Refresh"));
+  EXPECT_EQ(form.txtCode.ListCount(), 4);
+  EXPECT_EQ(form.txtCode.ListIndex(), 1);
+}
+
+TEST_F(CodeView, AProcedureIsAskedForWithFiveLinesMoreAShortOneWith550) {
+  Open({Bas("modMain", {"Dim a1", "Dim a2", "Dim a3", "Dim a4", "Sub Three()", "    a1 = 1", "End Sub", "Sub Two()",
+                        "End Sub", "Sub Open()"}),
+        Frm("frmMain", {"Dim x", ""})});
+  auto counting = std::make_shared<CountingHost>(environment);
+  form.VBInstance = counting;
+  form.Show();
+  ChooseComponent("modMain");
+  const struct {
+    const char* row;
+    long line, count;
+  } kCases[] = {{"Sub Three", 5, 3 + 5}, {"Sub Two", 8, 550}, {"Sub Open", 10, 550}};
+  for (const auto& c : kCases) {
+    counting->Module("modMain").asked.clear();
+    ChooseProcedure(c.row);
+    EXPECT_THAT(counting->Module("modMain").asked, Contains(std::pair(c.line, c.count))) << c.row;
+  }
+}
+
+TEST_F(CodeView, EscGivesTheFocusToTheMainWindow) {
+  struct : environment::Observer {
+    int focused = 0;
+    void MainWindowFocused() override { ++focused; }
+  } observer;
+  OpenWindow(Shop());
+  environment->Observe(&observer);
+  form.txtCode.EscapeClicked();
+  EXPECT_EQ(observer.focused, 1);
+  environment->Observe(nullptr);
+}
+
+TEST_F(CodeView, AHitOfAProjectThatHasGoneIsShownFromTheActiveProject) {
+  OpenWindow(Shop());
+  form.lbxProc->AddItem("_Gone.modTools:    001   Public Sub First()" + explorer::TailOf(1));
+  form.lbxProc->SetItemData(form.lbxProc->NewIndex(), 5);
+  form.lbxProc->UserSelect(form.lbxProc->NewIndex());
+  EXPECT_EQ(form.lblSub.Caption(), "Public Sub First()");
+  EXPECT_EQ(form.txtCode.ListCount(), 5);
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 // The places of the explorer's controls: a golden, and nothing covered or cut off at any size.
+#include <cmath>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -37,6 +38,21 @@ TEST_F(ExplorerLayout, NothingIsCoveredOrCutOffAtAnySize) {
   }
 }
 
+TEST_F(ExplorerLayout, ALongTitleStandsOnOneLineUpToTheButtonBesideIt) {
+  const std::string title = "Private Sub MDIForm_QueryUnload(Cancel As Integer, UnloadMode As Integer, Optional Ask&)";
+  form.Show();
+  form.lblSub.SetCaption(title);
+  form.Label5.SetCaption("    If Store.Articles.Count > 0 And Not Store.IsDirty Then Save Store");
+  for (int width : {10530, 12300}) {
+    form.UserResize(width, 9000);
+    EXPECT_EQ(form.lblSub.Left() + form.lblSub.Width(), form.cmGo.Left() - 75);
+    EXPECT_THAT(forms::FindClipped(form), IsEmpty()) << width;
+    EXPECT_THAT(forms::FindOverlaps(form, {"pic"}), IsEmpty()) << width;
+  }
+  // A second line would stand below the label: what does not fit is not seen, in no part.
+  EXPECT_LT(form.lblSub.Height(), toolkit.Metrics().TextHeight(form.lblSub.Font()) + 30);
+}
+
 TEST_F(ExplorerLayout, TabGoesFromTheComponentsToTheCode) {
   std::vector<std::string> names;
   for (forms::Control* control : form.TabOrder()) names.push_back(control->Name());
@@ -52,6 +68,19 @@ TEST_F(ExplorerLayout, TheBoxAboutTheProgram) {
   EXPECT_TRUE(MatchesGolden(forms::LayoutText(about), "explorer/frmAbout.layout"));
   EXPECT_THAT(forms::FindOverlaps(about), IsEmpty());
   EXPECT_THAT(forms::FindClipped(about), IsEmpty());
+}
+
+TEST_F(ExplorerLayout, TheReadmeStandsAloneAndInWholeLines) {
+  explorer::frmAbout about{services, toolkit};
+  about.LoadForm();
+  about.cmdSysInfo.Click();
+  EXPECT_TRUE(about.txtRead.Visible());
+  EXPECT_THAT(forms::FindOverlaps(about), IsEmpty());
+  EXPECT_THAT(forms::FindClipped(about), IsEmpty());
+  for (const forms::Label* label : {&about.lblTitle, &about.lblDescription, &about.lblLicence})
+    EXPECT_FALSE(label->Visible()) << label->Name();
+  EXPECT_FALSE(about.imgIcon.Visible());
+  EXPECT_EQ(std::fmod(about.txtRead.Height() - 90, 195), 0);
 }
 
 }  // namespace

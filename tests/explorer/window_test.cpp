@@ -326,6 +326,8 @@ TEST_F(Window, KeysStandForTheButtonsThatTakeNoFocus) {
   }
   form.lbxProc->UserKeyDown(forms::vbKeyF1 + 10, 0);
   EXPECT_EQ(form.cmdMore.Caption(), "Min");
+  form.txtCode.pic.UserKeyDown(forms::vbKeyF1 + 10, 0);
+  EXPECT_EQ(form.cmdMore.Caption(), "Max");
   form.lbxProc->UserKeyDown(forms::vbKeyF1 + 10, forms::vbShiftMask);
   EXPECT_TRUE(form.txtCode.ColorOff);
   form.lbxComp->UserSelect(RowOf(Components(), "modMain"));
@@ -341,6 +343,27 @@ TEST_F(Window, RefreshListsTheProject) {
   Module("Class1").InsertLines(1, "Dim a\r\nDim b");
   form.tlbr.UserButtonClick(form.tlbr.PositionOf("Refresh"));
   EXPECT_THAT(Components(), Contains("Class1"));
+}
+
+TEST_F(Window, F5ListsTheProject) {
+  OpenWindow(kShop);
+  environment->ActiveVBProject()->VBComponents()->Add(host::ComponentType::ClassModule);
+  Module("Class1").InsertLines(1, "Dim a\r\nDim b");
+  form.lbxProc->UserKeyDown(forms::vbKeyF5, forms::vbShiftMask);
+  EXPECT_THAT(Components(), Not(Contains("Class1")));
+  form.lbxProc->UserKeyDown(forms::vbKeyF5, 0);
+  EXPECT_THAT(Components(), Contains("Class1"));
+}
+
+TEST_F(Window, AfterAnyButtonOfTheToolbarThePointerIsTheDefaultOne) {
+  OpenWindow(kShop);
+  toolkit.OnModal("frmAbout", [](forms::Form& about) { about.Unload(); });
+  for (int position = 1; position <= form.tlbr.Count(); ++position) {
+    if (form.tlbr.Button(position).Key == "pExit") continue;
+    services.screen.SetMousePointer(host::vbHourglass);
+    form.tlbr.ButtonClick(position);
+    EXPECT_EQ(services.screen.MousePointer(), host::vbDefault) << form.tlbr.Button(position).Key;
+  }
 }
 
 TEST_F(Window, RefreshLeavesTheCurrentCode) {
@@ -359,8 +382,8 @@ TEST_F(Window, ExitUnloadsIt) {
 }
 
 TEST_F(Window, ButtonsOfToolsThatAreNotThereAreDisabled) {
-  for (const char* key : {"History", "Favorites", "BookMarks", "CloseWnd", "Find", "Actions", "aCopy", "aPaste", "Pen",
-                          "Note", "Map", "Start", "pImmed"})
+  for (const char* key : {"Previous", "Next", "First", "Last", "History", "Favorites", "BookMarks", "CloseWnd", "Find",
+                          "Actions", "aCopy", "aPaste", "Pen", "Note", "Map", "Start", "pImmed"})
     EXPECT_FALSE(form.tlbr.Button(form.tlbr.PositionOf(key)).Enabled) << key;
 }
 
