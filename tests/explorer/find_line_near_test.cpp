@@ -21,6 +21,9 @@ class NearLine : public ::testing::Test {
     Code lines = {"Option Explicit", "", "Sub First()"};
     for (int i = 0; i < fillers; ++i) lines.push_back("    a = a + 1");
     for (const char* line : {"    b = 2", "End Sub", "", "Sub Second()", "    b = 2", "End Sub"}) lines.push_back(line);
+    return LoadLines(lines);
+  }
+  host::CodeModule& LoadLines(const Code& lines) {
     environment->OpenFromModules("Shop", {Bas("modMain", lines)});
     module = environment->ActiveVBProject()->VBComponents()->Item("modMain")->CodeModule();
     return *module;
@@ -79,6 +82,39 @@ TEST_F(NearLine, ALineThatIsWhereItWasCostsOneLook) {
   CountingModule counting(module);
   EXPECT_EQ(FindLineNear(counting, -3, "Sub First()", ""), 3);
   EXPECT_EQ(counting.calls["Lines"], 1);
+}
+
+// "Sub First()", 15 lines, its end, a function and a property on lines 20 to 25.
+TEST_F(NearLine, HeadersOfEveryKindAreLookedForBeyondTheProcedure) {
+  Code lines = {"Option Explicit", "", "Sub First()"};
+  lines.resize(18, "    a = a + 1");
+  for (const char* line :
+       {"End Sub", "Function Far()", "    b = 2", "End Function", "Property Get Way()", "    b = 3", "End Property"})
+    lines.push_back(line);
+  host::CodeModule& code = LoadLines(lines);
+  EXPECT_EQ(FindLineNear(code, 4, "Function Far()", ""), 20);
+  EXPECT_EQ(FindLineNear(code, 4, "Property Get Way()", ""), 23);
+  EXPECT_EQ(FindLineNear(code, 4, "b = 2", ""), 4);
+}
+
+TEST_F(NearLine, TheEndOfEveryKindOfProcedureBoundsTheSearch) {
+  const char* kKinds[] = {"Sub", "Function", "Property"};
+  for (const std::string kind : kKinds) {
+    std::string header = kind == "Property" ? "Property Get First()" : kind + " First()";
+    host::CodeModule& code =
+        LoadLines({"Option Explicit", "", header, "    a = 1", "end " + kind, "Sub Second()", "    b = 2", "End Sub"});
+    EXPECT_EQ(FindLineNear(code, 4, "b = 2", ""), 4) << kind;
+    EXPECT_EQ(FindLineNear(code, 4, "end " + kind, ""), 5) << kind;
+  }
+}
+
+TEST_F(NearLine, AProcedureWithANameOfOneLetterBoundsNothing) {
+  for (const std::string name : {"A", "Ab"}) {
+    Code lines = {"Option Explicit", "", "Sub " + name + "()"};
+    lines.resize(20, "    a = 1");
+    for (const char* line : {"End Sub", "Sub Second()", "    b = 2", "End Sub"}) lines.push_back(line);
+    EXPECT_EQ(FindLineNear(LoadLines(lines), 4, "b = 2", ""), name == "A" ? 23 : 4);
+  }
 }
 
 TEST_F(NearLine, AnEndInACommentDoesNotBoundTheSearch) {

@@ -101,5 +101,70 @@ TEST_F(GoTo, ThePlaceThatWasLeftBecomesThePreviousPoint) {
   EXPECT_EQ(form.previousPoint, "<Previous point>" + std::string(160, ' ') + "\\+\\modMain\t4");
 }
 
+// A block that begins with comments; all its lines may be alike, so that no text mends a wrong reckoning.
+class GoFromBlock : public GoTo {
+ protected:
+  void ShowBlock(const Code& lines, long line) {
+    OpenWindow({Bas("modMain", lines), Frm("frmMain", {"Dim x", ""})});
+    ChooseComponent("modMain");
+    form.AddProcedureRow(Module("modMain"), line);
+    form.lbxProc->UserSelect(form.lbxProc->NewIndex());
+    ASSERT_EQ(form.txtCode.ListIndex(), line);
+  }
+};
+
+TEST_F(GoFromBlock, TheLineCountsFromTheFirstRowThatIsNoCommentAndNotBlank) {
+  Code lines = {"' one", "", "   ", "Rem three", "REM"};
+  lines.resize(60, "Dim a");
+  ShowBlock(lines, 10);
+  GoFrom(20);
+  EXPECT_EQ(LineIn("modMain"), 10 + 20 - 6);
+}
+
+TEST_F(GoFromBlock, TheFirstRowWithCodeIsLookedForOnSixtyFiveRows) {
+  const struct {
+    size_t comments;
+    long first;
+  } kCases[] = {{64, 65}, {65, 1}};
+  for (const auto& c : kCases) {
+    form.Unload();
+    Code lines(c.comments, "' note");
+    lines.push_back("Dim a");
+    lines.resize(200, "' note");
+    ShowBlock(lines, 30);
+    GoFrom(70);
+    EXPECT_EQ(LineIn("modMain"), 30 + 70 - c.first) << c.comments;
+  }
+}
+
+TEST_F(GoFromBlock, ARowAboveTheFirstWithCodeIsNotAboveTheModule) {
+  Code lines(3, "' note");
+  lines.resize(20, "Dim a");
+  ShowBlock(lines, 1);
+  GoFrom(1);
+  EXPECT_EQ(LineIn("modMain"), 1);
+}
+
+TEST_F(GoTo, ARowWithoutALineGoesToTheFirst) {
+  OpenWindow(kShop);
+  ChooseComponent("modMain");
+  form.lbxProc->SetItemData(form.lbxProc->ListIndex(), 0);
+  form.goMode = form.toProcStart = true;
+  EXPECT_EQ(form.GoToCode(), 2);
+  EXPECT_EQ(LineIn("modMain"), 1);
+}
+
+TEST_F(GoTo, ATitleThatNamesNoStandardModuleGoesNowhere) {
+  OpenWindow(kShop);
+  for (const char* name : {"frmMain", "modGone"}) {
+    form.txtCode.SetText(explorer::TitleOfModule(name) + "\r\nPublic More As Long\r\n");
+    GoFrom(2);
+    EXPECT_EQ(environment->ActiveCodePane(), nullptr) << name;
+  }
+  form.txtCode.SetText(explorer::TitleOfModule("modMore") + "\r\nPublic More As Long\r\n");
+  GoFrom(2);
+  EXPECT_EQ(LineIn("modMore"), 1);
+}
+
 }  // namespace
 }  // namespace corvane::tests

@@ -1,4 +1,6 @@
 // The jumps to the designers.
+#include "environment/observer.h"
+#include "environment/project.h"
 #include "tests/explorer/explorer_fixture.h"
 
 namespace corvane::tests {
@@ -45,6 +47,51 @@ TEST_F(GoToDesigner, InTheGlobalsOfTheComponentThatTheRowNames) {
   form.lbxProc->UserSelect(form.lbxProc->NewIndex());
   form.cmGo.Click();
   EXPECT_TRUE(Component("frmMain")->HasOpenDesigner());
+}
+
+TEST_F(GoToDesigner, InAResultOfTheComponentThatTheRowNames) {
+  OpenWindow(kShop);
+  form.lbxComp->Clear();
+  form.lbxProc->Clear();
+  form.lbxComp->AddItem(explorer::kResult);
+  form.lbxComp->Click = {};  // a search chooses the row without listing anything
+  form.lbxComp->SetListIndex(0);
+  AddHit("frmMain", 1, 5, "Private Sub Form_Load()");
+  form.lbxProc->UserSelect(0);
+  form.cmGo.Click();
+  EXPECT_TRUE(Component("frmMain")->HasOpenDesigner());
+  EXPECT_THAT(Messages(), IsEmpty());
+}
+
+TEST_F(GoToDesigner, OnceFromTheRowWhereThatIsAskedFor) {
+  OpenWindow(kShop);
+  ChooseComponent("modMain");
+  AddHit("frmMain", 1, 5, "Private Sub Form_Load()");
+  form.lbxProc->UserSelect(form.lbxProc->NewIndex());
+  form.designerFromRow = true;
+  form.cmGo.Click();
+  EXPECT_TRUE(Component("frmMain")->HasOpenDesigner());
+  EXPECT_THAT(Messages(), IsEmpty());
+  form.cmGo.Click();
+  EXPECT_EQ(Messages().size(), 1u);
+}
+
+TEST_F(GoToDesigner, ItsWindowIsShownAndTakesTheFocus) {
+  struct : environment::Observer {
+    std::vector<std::string> log;
+    void DesignerShown(environment::Module& module, bool visible) override {
+      log.push_back((visible ? "shown " : "hidden ") + module.Name());
+    }
+    void DesignerFocused(environment::Module& module) override { log.push_back("focused " + module.Name()); }
+  } observer;
+  OpenWindow(kShop);
+  ChooseComponent("frmMain");
+  environment->Observe(&observer);
+  form.cmGo.Click();
+  EXPECT_THAT(observer.log, Contains("shown frmMain"));
+  ASSERT_FALSE(observer.log.empty());
+  EXPECT_EQ(observer.log.back(), "focused frmMain");
+  environment->Observe(nullptr);
 }
 
 }  // namespace
