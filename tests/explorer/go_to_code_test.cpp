@@ -145,6 +145,13 @@ TEST_F(GoFromBlock, ARowAboveTheFirstWithCodeIsNotAboveTheModule) {
   EXPECT_EQ(LineIn("modMain"), 1);
 }
 
+TEST_F(GoFromBlock, ARowWithoutALineCountsFromTheFirst) {
+  ShowBlock(Code(20, "Dim a"), 10);
+  form.lbxProc->SetItemData(form.lbxProc->ListIndex(), 0);
+  GoFrom(5);
+  EXPECT_EQ(LineIn("modMain"), 5);
+}
+
 TEST_F(GoTo, ARowWithoutALineGoesToTheFirst) {
   OpenWindow(kShop);
   ChooseComponent("modMain");
