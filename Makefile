@@ -32,8 +32,9 @@ bench: packages
 	cmake --build build/bench -j $(JOBS)
 	bench/run build/bench
 
+# Every window; DOCS=1 also puts the explorer's picture into the documents.
 screenshots: $(program)
-	scripts/screenshots $(program) build/screenshots
+	scripts/screenshots $(program) build/screenshots $(if $(DOCS),docs/images/explorer.png)
 
 # The whole suite under the address and undefined behaviour sanitizers.
 sanitize: packages

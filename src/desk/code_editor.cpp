@@ -2,6 +2,7 @@
 
 #include <QMimeData>
 #include <QPainter>
+#include <QScrollBar>
 #include <QTextBlock>
 
 #include "desk/ansi_text.h"
@@ -65,19 +66,30 @@ void CodeEditor::PaintGutter(QPaintEvent* event) {
   QTextBlock block = firstVisibleBlock();
   qreal top = blockBoundingGeometry(block).translated(contentOffset()).top();
   for (; block.isValid() && top <= event->rect().bottom(); block = block.next()) {
-    const qreal height = blockBoundingRect(block).height();
     const bool is_current = block.blockNumber() == current;
     painter.setPen(palette().color(is_current ? QPalette::Text : QPalette::PlaceholderText));
-    painter.drawText(QRectF(0, top, gutter_->width() - kGutterMargin, height), Qt::AlignRight | Qt::AlignVCenter,
-                     QString::number(block.blockNumber() + 1));
-    top += height;
+    painter.drawText(QRectF(0, top, gutter_->width() - kGutterMargin, fontMetrics().height()),
+                     Qt::AlignRight | Qt::AlignTop, QString::number(block.blockNumber() + 1));
+    top += blockBoundingRect(block).height();  // of the last one with the margin below the text
   }
 }
 
-void CodeEditor::ShowCursor() {
-  const QRect cursor = cursorRect();
-  if (cursor.top() < 0 || cursor.bottom() > viewport()->height()) centerCursor();
-  ensureCursorVisible();
+// Looks first: setting the cursor alone scrolls it to the edge.
+void CodeEditor::ShowCursor(const QTextCursor& cursor) {
+  const bool in_sight = was_painted_ && IsInSight(cursor.blockNumber());
+  setTextCursor(cursor);
+  if (!in_sight) centerCursor();
+}
+
+// Lines do not wrap: the bar counts them.
+bool CodeEditor::IsInSight(int line) const {
+  const QScrollBar* bar = verticalScrollBar();
+  return line >= bar->value() && line < bar->value() + bar->pageStep();
+}
+
+void CodeEditor::paintEvent(QPaintEvent* event) {
+  was_painted_ = true;
+  QPlainTextEdit::paintEvent(event);
 }
 
 bool CodeEditor::Takes(const QString& typed) {
@@ -108,6 +120,7 @@ void CodeEditor::focusInEvent(QFocusEvent* event) {
 void CodeEditor::resizeEvent(QResizeEvent* event) {
   QPlainTextEdit::resizeEvent(event);
   PlaceGutter();
+  if (!was_painted_) centerCursor();
 }
 
 void CodeEditor::PlaceGutter() {

@@ -16,8 +16,9 @@ class CodeEditor : public QPlainTextEdit {
   explicit CodeEditor(QWidget* parent = nullptr);
   int GutterWidth() const;
   void PaintGutter(QPaintEvent* event);
-  // Scrolls only when the cursor is out of sight; then it stands in the middle.
-  void ShowCursor();
+  // Sets the cursor. Scrolls only when it is out of sight there; then it stands in the middle, and stays there while
+  // the window finds its size.
+  void ShowCursor(const QTextCursor& cursor);
 
  signals:
   void Refused(const QString& text);  // typed or pasted, but not in the code page
@@ -29,12 +30,15 @@ class CodeEditor : public QPlainTextEdit {
   void insertFromMimeData(const QMimeData* source) override;
   void focusInEvent(QFocusEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   bool Takes(const QString& typed);
+  bool IsInSight(int line) const;
   void MarkCurrentLine();
   void PlaceGutter();
   QWidget* gutter_;
+  bool was_painted_ = false;
 };
 
 }  // namespace corvane::desk

@@ -207,8 +207,7 @@ void CodePane::SelectionSet() {
   QTextCursor cursor(editor_->document());
   cursor.setPosition(position(selection.start_line, selection.start_column));
   cursor.setPosition(position(selection.end_line, selection.end_column), QTextCursor::KeepAnchor);
-  editor_->setTextCursor(cursor);
-  editor_->ShowCursor();
+  editor_->ShowCursor(cursor);
   ShowPlace();
   emit Moved();
 }
@@ -238,8 +237,7 @@ void CodePane::GoToObject(const std::string& object) {
 void CodePane::GoTo(long line) {
   const QTextBlock block = editor_->document()->findBlockByNumber(static_cast<int>(line - 1));
   if (!block.isValid()) return;
-  editor_->setTextCursor(QTextCursor(block));
-  editor_->ShowCursor();
+  editor_->ShowCursor(QTextCursor(block));
   editor_->setFocus();
 }
 

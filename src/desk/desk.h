@@ -41,6 +41,7 @@ class Desk : public QObject {
   MainWindow& Window() { return *window_; }
   environment::Environment& EnvironmentOf() { return *environment_; }
   toolkit_qt::QtToolkit& Toolkit() { return toolkit_; }
+  host::Services& ServicesOf() { return services_; }
 
   bool IsConnected() const { return connect_ != nullptr; }
   addin::Connect* AddIn() { return connect_.get(); }
@@ -70,7 +71,7 @@ class Desk : public QObject {
   std::unique_ptr<MainWindow> window_;
   std::unique_ptr<addin::Connect> connect_;
   std::vector<std::unique_ptr<addin::Connect>> disconnected_;  // during an act of theirs, which goes on
-  QString path_;  // of what was opened last
+  QString path_;                                               // of what was opened last
 };
 
 }  // namespace corvane::desk

@@ -26,6 +26,33 @@ namespace corvane::desk {
 
 namespace {
 
+// By kind of component what Visual Basic calls it in the property list.
+QString ClassOf(host::ComponentType type) {
+  using host::ComponentType;
+  switch (type) {
+    case ComponentType::StdModule:
+      return "Module";
+    case ComponentType::ClassModule:
+      return "ClassModule";
+    case ComponentType::VBForm:
+      return "Form";
+    case ComponentType::VBMDIForm:
+      return "MDIForm";
+    case ComponentType::PropPage:
+      return "PropertyPage";
+    case ComponentType::UserControl:
+      return "UserControl";
+    case ComponentType::DocObject:
+      return "UserDocument";
+    default:
+      return {};
+  }
+}
+
+QString HeadingOf(environment::Module& module) {
+  return (ToLabel(module.Name()) + "  " + ClassOf(module.Type())).trimmed();
+}
+
 constexpr QSize kFirstSize(1240, 800);
 constexpr int kSideWidth = 280, kBottomHeight = 120, kTreeHeight = 400, kListHeight = 300;
 constexpr double kTwips = 15;
@@ -172,7 +199,7 @@ void MainWindow::ShowProperties() {
   if (auto* designer = qobject_cast<DesignerWindow*>(inside)) {
     const DesignerCanvas& canvas = designer->Canvas();
     if (canvas.Selected().empty())
-      return properties_->Show(ToLabel(designer->ModuleOf()->Name()), canvas.LayoutOf().properties);
+      return properties_->Show(HeadingOf(*designer->ModuleOf()), canvas.LayoutOf().properties);
     const PlacedControl& control = canvas.LayoutOf().controls[canvas.Selected().front()];
     const QString index = control.index < 0 ? QString() : QString("(%1)").arg(control.index);
     return properties_->Show(ToLabel(control.name) + index + "  " + ToLabel(control.class_name), control.properties);
@@ -181,7 +208,7 @@ void MainWindow::ShowProperties() {
   if (!module) module = tree_->Current();
   host::Ref<host::Properties> own;
   if (module) host::PassOverErrors([&] { own = module->Properties(); });
-  properties_->Show(module ? ToLabel(module->Name()) : QString(), own);
+  properties_->Show(module ? HeadingOf(*module) : QString(), own);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -35,7 +35,7 @@ struct MainWindow::CommandRow {
 
 const MainWindow::CommandRow MainWindow::kCommands[] = {
     {"&File", "open", "&Open Project...", "open", "Ctrl+O", &MainWindow::OpenProject, "Open Project"},
-    {"&File", "add-project", "A&dd Project...", "project", "", &MainWindow::AddProjectWanted, "Add Project"},
+    {"&File", "add-project", "A&dd Project...", "add-project", "", &MainWindow::AddProjectWanted, "Add Project"},
     {"&File", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr},
     {"&File", "save", "&Save", "save", "Ctrl+S", &MainWindow::SaveActive, nullptr},
     {"&File", "save-all", "Save &All", "save-all", "Ctrl+Shift+S", &MainWindow::SaveEverything, "Save Project"},

@@ -4,7 +4,6 @@
 #include <QMdiSubWindow>
 #include <QPlainTextEdit>
 #include <QStatusBar>
-#include <QTimer>
 
 #include "desk/ansi_text.h"
 #include "desk/code_pane.h"
@@ -90,8 +89,6 @@ CodePane* MainWindow::OpenCode(const std::shared_ptr<Module>& module) {
       connect(&pane->Editor(), available, this, &MainWindow::UpdateCommands);
     Show(*pane, ToLabel(module->Name()) + tr(" (Code)"), IconNameOf(module->Type()));
     pane->SelectionSet();
-    // A pane knows how much it shows only after its first layout.
-    QTimer::singleShot(0, &pane->Editor(), &QPlainTextEdit::centerCursor);
   }
   module->UserActivatePane();
   ShowSelectedComponent(module);

@@ -78,6 +78,10 @@ void PropertyList::Show(const QString& title, host::Ref<host::Properties> proper
   Fill();
 }
 
+QString PropertyList::Title() const {
+  return title_->text();
+}
+
 void PropertyList::ReadAgain() {
   Fill();
 }

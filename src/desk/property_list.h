@@ -17,6 +17,7 @@ class PropertyList : public QWidget {
   explicit PropertyList(QWidget* parent = nullptr);
   // Nothing empties the list. [title] is "cmdSave  CommandButton".
   void Show(const QString& title, host::Ref<host::Properties> properties);
+  QString Title() const;
   // The values anew, when a property was changed elsewhere.
   void ReadAgain();
   QTableWidget& Table() { return *table_; }

@@ -25,34 +25,20 @@ void DropPlatformNotes(QtMsgType type, const QMessageLogContext&, const QString&
   if (type != QtDebugMsg && !note) std::cerr << text.toStdString() << '\n';
 }
 
-// Message boxes of a desk that nobody sees end up here, answered by their default button.
-class ToldPrompts : public host::Prompts {
- public:
-  explicit ToldPrompts(host::Prompts& plain) : plain_(plain) {}
-  long MsgBox(const std::string& prompt, long style, const std::string& title) override {
-    ++told;
-    return plain_.MsgBox(prompt, style, title);
-  }
-  std::string InputBox(const std::string&, const std::string&, const std::string&) override { return {}; }
-  long told = 0;
-
- private:
-  host::Prompts& plain_;
-};
-
 int DrawPictures(const RunOptions& options, std::ostream& out) {
   QtServices services;
   PlainServices plain;
-  ToldPrompts prompts(static_cast<host::Services>(plain).Prompts);
+  TourPrompts prompts(static_cast<host::Services>(plain).Prompts, services.Prompts());
   const host::Services shared = services;
   Desk desk({shared.Clipboard, prompts, shared.Settings, shared.App, shared.Screen, shared.Loop, shared.Files,
              shared.Pictures},
             {options.code_page, static_cast<int>(addin::ConnectMode::Startup), true});
   if (!options.project.empty() && !desk.Open(QString::fromStdString(options.project))) return 1;
-  const QString folder = QString::fromStdString(options.tour.empty() ? options.screenshots : options.tour);
-  const bool drawn = options.tour.empty() ? TakeScreenshots(desk, folder, QString::fromStdString(options.suffix), out)
-                                          : RunTour(desk, folder, out);
-  return drawn && prompts.told == 0 ? 0 : 1;
+  if (!options.tour.empty())
+    return RunTour(desk, QString::fromStdString(options.tour), out) && prompts.told == 0 ? 0 : 1;
+  const QString folder = QString::fromStdString(options.screenshots), suffix = QString::fromStdString(options.suffix);
+  const bool drawn = TakeScreenshots(desk, folder, suffix, out);
+  return TakeBoxPictures(desk, prompts, folder, suffix, out) && drawn && prompts.told == 0 ? 0 : 1;
 }
 
 int ShowWindows(const RunOptions& options) {

@@ -1,16 +1,20 @@
 #include "desk/tour.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QPixmap>
-#include <functional>
+#include <QTimer>
+#include <utility>
 
 #include "desk/ansi_text.h"
 #include "desk/code_pane.h"
 #include "desk/designer_window.h"
 #include "desk/find_dialog.h"
 #include "desk/project_tree.h"
+#include "explorer/frm_about.h"
 #include "explorer/frm_add_in.h"
+#include "explorer/rows.h"
 
 namespace corvane::desk {
 
@@ -73,6 +77,16 @@ bool ChooseProcedure(frmAddIn& form) {
   return best >= 0;
 }
 
+bool KeepAbout(Desk& desk, const QString& folder, const QString& suffix, std::ostream& out) {
+  explorer::frmAbout about(desk.ServicesOf(), desk.Toolkit());
+  about.Show();
+  bool kept = Keep(desk.Toolkit().WindowOf(about), folder, "about" + suffix, out);
+  about.cmdSysInfo.UserClick();
+  kept &= Keep(desk.Toolkit().WindowOf(about), folder, "about-read-me" + suffix, out);
+  about.Unload();
+  return kept;
+}
+
 frmAddIn* OpenExplorer(Desk& desk, std::ostream& out) {
   if (!desk.ClickButton()) {
     out << "The add-in has no button on the standard toolbar.\n";
@@ -99,6 +113,35 @@ bool RunTour(Desk& desk, const QString& folder, std::ostream& out) {
   return Keep(&desk.Window(), folder, "desk", out) && Keep(desk.ExplorerWindow(), folder, "explorer", out);
 }
 
+long TourPrompts::MsgBox(const std::string& prompt, long style, const std::string& title) {
+  if (OnBox) {
+    QTimer::singleShot(0, std::exchange(OnBox, nullptr));
+    return shown_.MsgBox(prompt, style, title);
+  }
+  ++told;
+  return plain_.MsgBox(prompt, style, title);
+}
+
+bool TakeBoxPictures(Desk& desk, TourPrompts& prompts, const QString& folder, const QString& suffix,
+                     std::ostream& out) {
+  int kept = 0;
+  const auto keep_next = [&](const char* name) {
+    prompts.OnBox = [&, name] {
+      auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+      kept += Keep(box, folder, name + suffix, out);
+      if (box) box->reject();
+    };
+  };
+  keep_next("message-box");
+  desk.Open("Missing.vbp");
+  const auto module = ModuleToShow(desk.EnvironmentOf(), false);
+  if (!module) return false;
+  module->CodeModule()->InsertLines(1, "'");
+  keep_next("save-question");
+  desk.Window().MayLeave();
+  return kept == 2;
+}
+
 bool TakeScreenshots(Desk& desk, const QString& folder, const QString& suffix, std::ostream& out) {
   if (!QDir().mkpath(folder)) return out << "cannot make the folder " << folder.toStdString() << '\n', false;
   bool all = true;
@@ -115,11 +158,16 @@ bool TakeScreenshots(Desk& desk, const QString& folder, const QString& suffix, s
     keep(&window, "desk-code");
   }
   if (frmAddIn* form = OpenExplorer(desk, out)) {
+    if (!form->optProj.Value()) form->optProj.UserClick();  // an open pane made it the current code
     if (ChooseComponent(*form)) ChooseProcedure(*form);
     keep(desk.ExplorerWindow(), "explorer");
     form->cmdMore.UserClick();
     keep(desk.ExplorerWindow(), "explorer-code");
     form->cmdMore.UserClick();
+    for (long row = 0; row < form->lbxComp->ListCount(); ++row)
+      if (form->lbxComp->List(row) == explorer::kProjectGlobals) form->lbxComp->UserSelect(row);
+    keep(desk.ExplorerWindow(), "explorer-globals");
+    all &= KeepAbout(desk, folder, suffix, out);
   } else {
     all = false;
   }

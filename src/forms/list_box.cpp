@@ -76,6 +76,14 @@ long ListBox::SelCount() const {
   return count;
 }
 
+void ListBox::UserSelect(long row) {
+  if (multi_select_ == 2 && AcceptsInput() && row >= 0 && row < ListCount()) {
+    for (long each = 0; each < ListCount(); ++each) rows_.At(each).selected = each == row;
+    Changed(Property::Selected);
+  }
+  ListControl::UserSelect(row);
+}
+
 void ListBox::UserToggle(long row) {
   if (!AcceptsInput() || row < 0 || row >= ListCount()) return;
   if (!MarksRows()) return UserSelect(row);

@@ -68,6 +68,7 @@ class ListBox : public ListControl {
   bool Selected(long row) const;
   void SetSelected(long row, bool value);  // with check boxes: the box; raises ItemCheck, then Click
   long SelCount() const;
+  void UserSelect(long row) override;  // of extended selection: that row is marked and no other
   Event<long> ItemCheck;
   void UserToggle(long row);  // check box or Ctrl+click
   Variant Get(Property property) const override;

@@ -153,10 +153,24 @@ void QtCanvas::Circle(forms::Twips x, forms::Twips y, forms::Twips radius, forms
   Touch(QRectF(Device(x) - reach, Device(y) - reach, 2 * reach, 2 * reach).toAlignedRect().adjusted(-2, -2, 2, 2));
 }
 
+// Bold is the same text printed twice, half a pixel apart. At some scales both would fall on one device pixel here and
+// not there: the second print then stands beside the first.
+int QtCanvas::TextEdge(forms::Twips x, forms::Twips y, std::string_view text) {
+  int edge = Edge(x);
+  const forms::Twips step = x - printed_.x;
+  const bool again = y == printed_.y && std::abs(step) < forms::kTwipsPerPixel && text == printed_.text;
+  if (again && step != 0 && edge == printed_.edge) edge += step > 0 ? 1 : -1;
+  printed_.x = x;
+  printed_.y = y;
+  printed_.edge = edge;
+  printed_.text.assign(text);
+  return edge;
+}
+
 void QtCanvas::Text(forms::Twips x, forms::Twips y, std::string_view text, const forms::Font& font,
                     forms::Color color) {
   if (image_.isNull() || text.empty()) return;
-  const QPointF place(Device(x), Device(y));
+  const QPoint place(TextEdge(x, y, text), Edge(y));
   if (place.x() >= image_.width() || place.y() >= image_.height()) return;
   GlyphFont& glyphs = GlyphFontOf(font, scale_);
   glyphs.Draw(Painter(), place, text, ShownColor(color));

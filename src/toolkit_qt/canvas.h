@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QWidget>
 #include <memory>
+#include <string>
 
 #include "forms/canvas.h"
 
@@ -51,6 +52,7 @@ class QtCanvas : public forms::Canvas {
   void Close();
   double Device(forms::Twips value) const { return value / forms::kTwipsPerPixel * scale_; }
   int Edge(forms::Twips value) const;
+  int TextEdge(forms::Twips x, forms::Twips y, std::string_view text);
   QRect DeviceBox(const forms::Rect& box) const;
   void Touch(const QRect& changed);  // device pixels
 
@@ -59,6 +61,11 @@ class QtCanvas : public forms::Canvas {
   QPainter painter_;
   double scale_ = 1;
   std::shared_ptr<int> life_ = std::make_shared<int>();  // what is posted looks whether it is still there
+  struct Print {
+    forms::Twips x = 0, y = 0;
+    int edge = 0;  // device pixels
+    std::string text;
+  } printed_;  // the last one
   QRect touched_;
   forms::PictureRef background_;
 };

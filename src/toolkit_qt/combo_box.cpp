@@ -111,7 +111,10 @@ class DropDownPeer : public ControlPeer {
     ControlPeer::ShowFont();
     ShowPlace();
   }
-  void ShowColors() override {}
+  // The rows and the button keep the system's colours; what can be typed in has the control's.
+  void ShowColors() override {
+    if (QLineEdit* edit = shown_->lineEdit()) edit->setPalette(FieldPalette(combo_.BackColor(), combo_.ForeColor()));
+  }
   void ShowOwn(forms::Property property) override {
     using forms::Property;
     shown_->Locked = combo_.Locked();

@@ -1,5 +1,8 @@
 #include "toolkit_qt/painted.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include "toolkit_qt/colors.h"
 #include "toolkit_qt/pictures.h"
 
@@ -11,12 +14,18 @@ void PaintedWidget::paintEvent(QPaintEvent*) {
   OnPaint(painter);
 }
 
+// In whole pixels of the display, inside [place]: at other scales the edges of widgets fall between them.
 void PaintSunkenFrame(QPainter& painter, const QRect& place) {
-  const QColor line = ShownColor(forms::kButtonShadow);
-  painter.fillRect(QRect(place.left(), place.top(), place.width(), 1), line);
-  painter.fillRect(QRect(place.left(), place.bottom(), place.width(), 1), line);
-  painter.fillRect(QRect(place.left(), place.top(), 1, place.height()), line);
-  painter.fillRect(QRect(place.right(), place.top(), 1, place.height()), line);
+  const QTransform to_device = painter.deviceTransform();
+  const QRectF shown = to_device.mapRect(QRectF(place));
+  const double line = std::max(1.0, std::round(to_device.m11()));
+  const double left = std::ceil(shown.left()), top = std::ceil(shown.top());
+  const double width = std::floor(shown.right()) - left, height = std::floor(shown.bottom()) - top;
+  const QTransform back = to_device.inverted();
+  const QColor color = ShownColor(forms::kButtonShadow);
+  for (const QRectF& side : {QRectF(left, top, width, line), QRectF(left, top + height - line, width, line),
+                             QRectF(left, top, line, height), QRectF(left + width - line, top, line, height)})
+    painter.fillRect(back.mapRect(side), color);
 }
 
 void PaintShownPicture(QPainter& painter, const forms::PictureRef& picture, const QRect& place) {

@@ -8,6 +8,7 @@
 #include <QTextDocument>
 
 #include "toolkit_qt/colors.h"
+#include "toolkit_qt/painted.h"
 #include "toolkit_qt/peer.h"
 #include "toolkit_qt/peers.h"
 #include "toolkit_qt/texts.h"
@@ -102,14 +103,42 @@ class LinePeer : public ControlPeer {
   QLineEdit* edit_;
 };
 
+// A text of many lines with a frame of its own: the style's is hidden in part by the text where pixels of the window
+// are not whole ones of the display.
+class LinesEdit : public QPlainTextEdit {
+ public:
+  explicit LinesEdit(QWidget* parent) : QPlainTextEdit(parent) {
+    setFrameShape(QFrame::NoFrame);
+    document()->setDocumentMargin(1);
+  }
+  void SetFramed(bool framed) {
+    if (framed_ == framed) return;
+    framed_ = framed;
+    const int margin = framed ? kFrame : 0;
+    setViewportMargins(margin, margin, margin, margin);
+  }
+
+ protected:
+  bool event(QEvent* event) override {
+    if (event->type() != QEvent::Paint || !framed_) return QPlainTextEdit::event(event);
+    QPainter painter(this);
+    painter.fillRect(rect(), palette().color(QPalette::Base));
+    PaintSunkenFrame(painter, rect());
+    return true;
+  }
+
+ private:
+  static constexpr int kFrame = 2;  // logical pixels, line and room
+  bool framed_ = false;
+};
+
 class LinesPeer : public ControlPeer {
  public:
   LinesPeer(QtToolkit& toolkit, forms::TextBox& box)
-      : ControlPeer(toolkit, box), box_(box), edit_(new QPlainTextEdit(InsideOf(box.ContainerOf()))) {
+      : ControlPeer(toolkit, box), box_(box), edit_(new LinesEdit(InsideOf(box.ContainerOf()))) {
     SetWidget(edit_, Input::Mouse::Untold);
     input_->Watch(*edit_->viewport(), *edit_, Input::Mouse::ActsLast);
     edit_->setTabChangesFocus(false);
-    edit_->document()->setDocumentMargin(2);
     QObject::connect(edit_, &QPlainTextEdit::textChanged, input_.get(),
                      [this] { ReportThenShow(forms::Property::Text, [this] { Tell(); }); });
     const auto selected = [this] { Report([this] { TellSelection(); }); };
@@ -125,7 +154,7 @@ class LinesPeer : public ControlPeer {
     constexpr auto kReads = Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard;
     edit_->setTextInteractionFlags(box_.Locked() ? Qt::TextInteractionFlags(kReads)
                                                  : Qt::TextInteractionFlags(Qt::TextEditorInteraction));
-    edit_->setFrameShape(box_.BorderStyle() != 0 ? QFrame::StyledPanel : QFrame::NoFrame);
+    edit_->SetFramed(box_.BorderStyle() != 0);
     ShowScrollBars();
     if (const QString text = ShownLines(box_.Text()); text != edit_->toPlainText()) edit_->setPlainText(text);
     if (property == Property::All || property == Property::Text || property == Property::SelStart ||
@@ -172,7 +201,7 @@ class LinesPeer : public ControlPeer {
     box_.UserSelect(start, length);
   }
   forms::TextBox& box_;
-  QPlainTextEdit* edit_;
+  LinesEdit* edit_;
 };
 
 }  // namespace

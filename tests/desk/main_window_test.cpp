@@ -4,9 +4,13 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QToolBar>
 
 #include "desk/code_pane.h"
+#include "desk/designer_window.h"
 #include "desk/project_tree.h"
+#include "desk/property_list.h"
 #include "tests/desk/desk_fixture.h"
 
 namespace corvane::desk {
@@ -45,18 +49,83 @@ TEST_F(MainWindowTest, WhatTheAddInShowsComesToTheFront) {
   EXPECT_EQ(environment_->ActiveCodePane()->CodeModule()->Name(), "modStock");
 }
 
-TEST_F(MainWindowTest, ALineFarDownStandsInTheMiddleOfItsPane) {
-  const auto code = Module("modStock")->CodeModule();
-  std::string lines = "' line";
-  for (int line = 1; line < 300; ++line) lines += "\r\n' line";
-  code->InsertLines(1, lines);
-  code->CodePane()->SetSelection({200, 1, 200, 1});
-  code->CodePane()->Show();
+class JumpTest : public DeskTest {
+ protected:
+  void SetUp() override {
+    DeskTest::SetUp();
+    code_ = Module("modStock")->CodeModule();
+    std::string lines = "' line";
+    for (int line = 1; line < 300; ++line) lines += "\r\n' line";
+    code_->InsertLines(1, lines);
+  }
+  // As the explorer does it.
+  void Jump(long line) {
+    code_->CodePane()->SetSelection({line, 1, line, 1});
+    code_->CodePane()->Show();
+    Settle();
+  }
+  CodeEditor& Editor() { return window_->PaneOf(*Module("modStock"))->Editor(); }
+  // Of the lines shown in the pane, from its middle.
+  double LinesFromTheMiddle() {
+    const QRect cursor = Editor().cursorRect();
+    return std::abs(cursor.center().y() - Editor().viewport()->height() / 2.0) / cursor.height();
+  }
+  host::Ref<host::CodeModule> code_;
+};
+
+TEST_F(JumpTest, ALineFarDownStandsInTheMiddleOfANewPane) {
+  Jump(200);
+  EXPECT_EQ(Editor().textCursor().blockNumber(), 199);
+  EXPECT_LE(LinesFromTheMiddle(), 1.5);
+}
+
+TEST_F(JumpTest, ALineOutOfSightStandsInTheMiddleOfAnOpenPane) {
+  window_->OpenCode(Module("modStock"));
   Settle();
-  CodeEditor& editor = window_->PaneOf(*Module("modStock"))->Editor();
-  const int height = editor.viewport()->height();
-  EXPECT_GT(editor.cursorRect().center().y(), height / 4);
-  EXPECT_LT(editor.cursorRect().center().y(), height * 3 / 4);
+  for (long line : {200, 60, 260}) {
+    Jump(line);
+    EXPECT_LE(LinesFromTheMiddle(), 1.5) << line;
+  }
+}
+
+TEST_F(JumpTest, ALineInSightStaysWhereItIs) {
+  Jump(200);
+  const int top = Editor().verticalScrollBar()->value();
+  Jump(203);
+  EXPECT_EQ(Editor().verticalScrollBar()->value(), top);
+}
+
+TEST_F(JumpTest, TheLineStaysInTheMiddleWhileTheNewPaneFindsItsSize) {
+  auto* pane = new CodePane(Module("modStock"));
+  pane->resize(300, 120);
+  Module("modStock")->UserSelection({200, 1, 200, 1});
+  pane->SelectionSet();
+  pane->resize(500, 700);
+  pane->show();
+  Settle();
+  const QRect cursor = pane->Editor().cursorRect();
+  EXPECT_LE(std::abs(cursor.center().y() - pane->Editor().viewport()->height() / 2.0) / cursor.height(), 1.5);
+  delete pane;
+}
+
+TEST_F(MainWindowTest, ThePropertyListNamesTheComponentAndItsClass) {
+  window_->OpenCode(Module("modStock"));
+  EXPECT_EQ(window_->Properties().Title(), "modStock  Module");
+  window_->OpenDesigner(Module("frmStock"));
+  window_->DesignerOf(*Module("frmStock"))->Canvas().Select({});
+  Settle();
+  EXPECT_EQ(window_->Properties().Title(), "frmStock  Form");
+}
+
+TEST_F(MainWindowTest, NoTwoButtonsOfTheToolbarHaveOnePicture) {
+  std::vector<QImage> seen;
+  for (const QAction* action : window_->findChild<QToolBar*>("Standard")->actions()) {
+    if (action->isSeparator()) continue;
+    const QImage picture = action->icon().pixmap(16, 16).toImage();
+    EXPECT_EQ(std::find(seen.begin(), seen.end(), picture), seen.end()) << action->text().toStdString();
+    seen.push_back(picture);
+  }
+  EXPECT_GT(seen.size(), 5u);
 }
 
 TEST_F(MainWindowTest, ClosingAPaneTakesItFromTheEnvironment) {

@@ -198,6 +198,31 @@ TEST_F(Lists, MultiSelectionMarksRowsAndListIndexIsTheFocusedOne) {
   EXPECT_EQ(NumberOf([&] { lst.Selected(3); }), 381);
 }
 
+TEST_F(Lists, AClickInAnExtendedSelectionMarksThatRowAlone) {
+  lst.SetMultiSelect(2);
+  Fill({"a", "b", "c"});
+  lst.SetSelected(0, true);
+  lst.SetSelected(2, true);
+  Show();
+  lst.UserSelect(1);
+  EXPECT_EQ(lst.SelCount(), 1);
+  EXPECT_TRUE(lst.Selected(1));
+  EXPECT_EQ(lst.ListIndex(), 1);
+  EXPECT_EQ(window.Taken().back(), "lst_Click");
+  lst.UserToggle(2);
+  EXPECT_EQ(lst.SelCount(), 2);
+}
+
+TEST_F(Lists, AClickInASimpleSelectionLeavesTheMarks) {
+  lst.SetMultiSelect(1);
+  Fill({"a", "b"});
+  lst.SetSelected(0, true);
+  Show();
+  lst.UserSelect(1);
+  EXPECT_TRUE(lst.Selected(0));
+  EXPECT_FALSE(lst.Selected(1));
+}
+
 TEST_F(Lists, OneSelectionIsTheListIndex) {
   Fill({"a", "b"});
   lst.SetSelected(1, true);

@@ -78,6 +78,21 @@ TEST_P(AtScales, InkStaysInsideTheMeasuredBox) {
   EXPECT_LE(ink.bottom(), (150 + canvas.TextHeight(CodeFont())) / 15 * scale + 1);
 }
 
+TEST_P(AtScales, BoldIsWiderThanPlainWhereverItStands) {
+  constexpr forms::Twips kBoldShift = 8;
+  for (int pixel = 20; pixel < 40; ++pixel) {
+    const forms::Twips x = static_cast<forms::Twips>(pixel * 15);
+    canvas.Clear(kWhite);
+    canvas.Text(x, 150, "I", CodeFont(), kBlack);
+    const QRect plain = Ink();
+    canvas.Clear(kWhite);
+    canvas.Text(x - kBoldShift, 150, "I", CodeFont(), kBlack);
+    canvas.Text(x, 150, "I", CodeFont(), kBlack);
+    EXPECT_GE(Ink().width(), plain.width() + 1) << pixel;
+    EXPECT_LE(Ink().width(), plain.width() + std::ceil(GetParam())) << pixel;
+  }
+}
+
 TEST_P(AtScales, BoxesThatTouchLeaveNoGapAndDoNotOverlap) {
   for (int i = 0; i < 7; ++i) {
     canvas.FillBox({static_cast<forms::Twips>(i * 200), 0, 200, 1500}, i % 2 ? kRed : kBlack);

@@ -1,5 +1,6 @@
 // A window with one control of each kind, drawn into a picture: each leaves its mark where it stands.
 #include <QFile>
+#include <cmath>
 #include <fstream>
 #include <set>
 
@@ -235,6 +236,42 @@ TEST_P(Picture, ShowsSurfacesPixelForPixel) {
     EXPECT_TRUE(pixel == QColor(Qt::red) || pixel == QColor(Qt::blue)) << y << " is blurred";
   }
   form.Unload();
+}
+
+// Each side of the box, in the middle of the side, has the colour of the frame.
+TEST_P(Picture, ATextOfManyLinesHasItsFrameOnAllFourSides) {
+  const double scale = GetParam();
+  forms::TextBox lines(form, "txt");
+  lines.SetMultiLine(true);
+  Show();
+  for (int width = 1500; width < 1560; width += 15) {
+    lines.Move(315, 315, static_cast<forms::Twips>(width), 1515);
+    const QImage image = PictureOfWindow(toolkit, form, scale);
+    const QRectF shown(21 * scale, 21 * scale, width / 15 * scale, 101 * scale);
+    const QPoint middle = shown.center().toPoint();
+    const int right = static_cast<int>(shown.right()), bottom = static_cast<int>(shown.bottom());
+    const auto has = [&](QPoint place) { return image.pixel(place) == ShownColor(forms::kButtonShadow).rgb(); };
+    EXPECT_TRUE(has({static_cast<int>(std::ceil(shown.left())), middle.y()})) << width;
+    EXPECT_TRUE(has({middle.x(), static_cast<int>(std::ceil(shown.top()))})) << width;
+    EXPECT_TRUE(has({right - 1, middle.y()})) << width;
+    EXPECT_TRUE(has({middle.x(), bottom - 1})) << width;
+  }
+}
+
+TEST_P(Picture, AComboBoxToTypeInHasTheColourOfItsField) {
+  const auto yellow = forms::RGB(255, 255, 128);
+  forms::ComboBox drop_down(form, "cmb"), simple(form, "cmbSimple");
+  simple.SetStyle(1);
+  drop_down.Move(300, 300, 1500, 300);
+  simple.Move(300, 900, 1500, 1500);
+  Show();
+  for (forms::Color color : {forms::Color(forms::kWindowBackground), yellow}) {
+    drop_down.SetBackColor(color);
+    simple.SetBackColor(color);
+    const QImage image = PictureOfWindow(toolkit, form, GetParam());
+    for (const QPointF inside : {QPointF(60, 31), QPointF(60, 71)})
+      EXPECT_EQ(image.pixel((inside * GetParam()).toPoint()), ShownColor(color).rgb()) << inside.y();
+  }
 }
 
 TEST_F(WindowTest, NoPictureOfAWindowThatIsNotLoaded) {
