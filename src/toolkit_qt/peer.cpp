@@ -104,7 +104,10 @@ void ControlPeer::ShowColors() {
 
 void ControlPeer::TakeFocus() {
   const QtToolkit::ByCode by_code(toolkit_);
-  if (QWidget* target = FocusTarget()) target->setFocus(Qt::OtherFocusReason);
+  QWidget* target = FocusTarget();
+  if (!target) return;
+  target->window()->setAttribute(Qt::WA_KeyboardFocusChange);  // what has the focus shows it
+  target->setFocus(Qt::OtherFocusReason);
 }
 
 void ControlPeer::BringToFront(bool front) {

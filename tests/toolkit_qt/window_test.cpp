@@ -39,6 +39,26 @@ TEST_F(Window, MenuBarTakesItsHeightFromTheForm) {
   EXPECT_EQ(toolkit.WindowOf(form)->height(), Pixels(form.ScaleHeight()) + MenuBar::kHeight);
 }
 
+TEST_F(Window, WhatHasTheFocusShowsIt) {
+  forms::TextBox text(form, "txt");
+  forms::OptionButton option(form, "opt");
+  forms::CheckBox check(form, "chk");
+  forms::CommandButton button(form, "cmd");
+  option.SetCaption("o");
+  check.SetCaption("c");
+  button.SetCaption("b");
+  option.Move(0, 600, 1500, 300);
+  check.Move(0, 1200, 1500, 300);
+  button.Move(0, 1800, 1500, 450);
+  Show();
+  for (forms::Control* control : std::initializer_list<forms::Control*>{&option, &check, &button}) {
+    const QImage before = WidgetOf(*control).grab().toImage();
+    Press(Qt::Key_Tab);
+    ASSERT_TRUE(WidgetOf(*control).hasFocus()) << control->Name();
+    EXPECT_NE(WidgetOf(*control).grab().toImage(), before) << control->Name();
+  }
+}
+
 TEST_F(Window, ResizingByTheUserReachesTheFormOnce) {
   Show();
   int resized = 0;
