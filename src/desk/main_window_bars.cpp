@@ -8,6 +8,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QToolBar>
 
@@ -97,6 +98,8 @@ void MainWindow::BuildCommands() {
     connect(action, &QAction::triggered, this, row.run);
     commands_.insert(row.name, action);
   }
+  connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this,
+          [this] { menuBar()->setActiveAction(menuBar()->actions().front()); });
   standard_ = addToolBar(tr("Standard"));
   standard_->setObjectName("Standard");
   standard_->setIconSize({kIconSize, kIconSize});

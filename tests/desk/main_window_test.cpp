@@ -3,8 +3,10 @@
 #include <QDockWidget>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QToolBar>
 
 #include "desk/code_pane.h"
@@ -115,6 +117,14 @@ TEST_F(MainWindowTest, ThePropertyListNamesTheComponentAndItsClass) {
   window_->DesignerOf(*Module("frmStock"))->Canvas().Select({});
   Settle();
   EXPECT_EQ(window_->Properties().Title(), "frmStock  Form");
+}
+
+TEST_F(MainWindowTest, F10OpensTheFirstMenu) {
+  for (QShortcut* shortcut : window_->findChildren<QShortcut*>())
+    if (shortcut->key() == QKeySequence(Qt::Key_F10)) emit shortcut->activated();
+  QMenu* first = window_->menuBar()->actions().front()->menu();
+  EXPECT_TRUE(first->isVisible());
+  first->close();
 }
 
 TEST_F(MainWindowTest, NoTwoButtonsOfTheToolbarHaveOnePicture) {
