@@ -110,6 +110,23 @@ TEST_F(JumpTest, TheLineStaysInTheMiddleWhileTheNewPaneFindsItsSize) {
   delete pane;
 }
 
+TEST_F(MainWindowTest, TheNumberOfTheLastLineStandsAsThatOfAnyOther) {
+  CodeEditor editor;
+  editor.resize(300, 200);
+  // Where the ink of the second number begins.
+  const auto top_of_second = [&](const char* text) {
+    editor.setPlainText(text);
+    const QImage gutter = editor.grab(QRect(0, 0, editor.GutterWidth(), 100)).toImage();
+    for (int y = editor.cursorRect().bottom() + 1; y < gutter.height(); ++y)
+      for (int x = 0; x < gutter.width(); ++x)
+        if (gutter.pixel(x, y) != gutter.pixel(0, 0)) return y;
+    return -1;
+  };
+  const int between = top_of_second("a\nb\n");
+  EXPECT_GT(between, 0);
+  EXPECT_EQ(top_of_second("a\nb"), between);
+}
+
 TEST_F(MainWindowTest, ThePropertyListNamesTheComponentAndItsClass) {
   window_->OpenCode(Module("modStock"));
   EXPECT_EQ(window_->Properties().Title(), "modStock  Module");
