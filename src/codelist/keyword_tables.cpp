@@ -96,7 +96,11 @@ constexpr KeywordRow kSqlKeywords[] = {
 
 }  // namespace
 
-std::span<const KeywordRow> VbKeywords() { return kVbKeywords; }
-std::span<const KeywordRow> SqlKeywords() { return kSqlKeywords; }
+std::span<const KeywordRow> VbKeywords() {
+  return kVbKeywords;
+}
+std::span<const KeywordRow> SqlKeywords() {
+  return kSqlKeywords;
+}
 
 }  // namespace corvane::codelist

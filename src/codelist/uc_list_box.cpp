@@ -55,7 +55,9 @@ void ucListBox::BindEvents() {
   pic.KeyPress = [this](int& key) { pic_KeyPress(key); };
   pic.GotFocus = [this] { FocusChanged(true); };
   pic.LostFocus = [this] { FocusChanged(false); };
-  pic.Paint = [this] { store.Count() > 0 ? Repaint() : ClearPane(); };
+  pic.Paint = [this] {
+    if (!placing) store.Count() > 0 ? Repaint() : ClearPane();
+  };
   hs.Change = [this] { Repaint(); };
   vs.Change = [this] { MovedByBar(false); };
   vs.Scroll = [this] { MovedByBar(true); };
@@ -75,7 +77,8 @@ void ucListBox::OnResize() {
   runtime::PassOverErrors([this] { Layout(); });
 }
 
-// Rows fill the control exactly: it takes the height of the whole rows that fit best.
+// Rows fill the control exactly: it takes the height of the whole rows that fit best. Painted is only when all is in
+// its place: rows that are lost must not move the current line.
 void ucListBox::Layout() {
   Raised guard(placing);
   widths.Forget();
@@ -91,7 +94,10 @@ void ucListBox::Layout() {
   vs.Move(paneWidth, 0, kWidthOfVs, bar_top);
   ffh.Move(paneWidth, bar_top, kWidthOfVs, rowHeight);
   if (lbx.ListCount() > 0) PlaceQuickList();
-  if (store.Count() > 1) SetStrPos(currentLine);
+  if (store.Count() > 0)
+    SetStrPos(currentLine);
+  else
+    ClearPane();
 }
 
 void ucListBox::FocusChanged(bool gained) {

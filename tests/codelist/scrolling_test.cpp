@@ -244,6 +244,31 @@ TEST_F(Scrolling, AResizeKeepsTheCurrentLine) {
   EXPECT_EQ(Where(), (Place{18, 20, 3}));
 }
 
+TEST_F(Scrolling, AResizeKeepsTheCurrentLineOfARowThatIsLost) {
+  Load(30);
+  for (int step = 1; step <= 7; ++step) Key(vbKeyDown);
+  ASSERT_EQ(Where(), (Place{1, 8, 8}));
+  list.Move(0, 0, 4000, 1170);
+  EXPECT_EQ(Where(), (Place{6, 8, 3}));
+  EXPECT_THAT(DrawnTexts().back(), testing::HasSubstr(" 468 \" 8\""));
+}
+
+TEST_F(Scrolling, AListThatHadNoHeightHasItsCurrentRowAgain) {
+  for (long count : {1, 30}) {
+    list.Move(0, 0, 4000, 2340);
+    Load(count);
+    list.SetHeight(0);
+    list.SetHeight(2340);
+    EXPECT_EQ(Where(), (Place{1, 1, 1})) << count;
+    EXPECT_THAT(Drawn("fill"), testing::Contains("fill 0 0 3745 234 #a0ffdc")) << count;
+  }
+}
+
+TEST_F(Scrolling, AnEmptyListIsClearOnAllOfItsNewSize) {
+  list.Move(0, 0, 4000, 4680);
+  EXPECT_THAT(Drawn("fill"), ElementsAre("fill 0 0 392 4680 system:22"));
+}
+
 TEST_F(Scrolling, AControlOfNoHeightIsHarmless) {
   Load(30);
   list.SetHeight(0);
