@@ -14,9 +14,11 @@ void ucListBox::EditCodeline() {
   runtime::PassOverErrors([this] { txtEdit.SetFocus(); });
 }
 
-// The container writes the line and calls ReplaceItem.
+// The container writes the line and calls ReplaceItem. What it is told stays, even when it takes the focus and thereby
+// closes the box.
 void ucListBox::RaiseUpdate() {
-  if (txtEdit.Text() != List(currentLine)) UpdateString(currentLine, txtEdit.Text());
+  const std::string text = txtEdit.Text();
+  if (text != List(currentLine)) UpdateString(currentLine, text);
 }
 
 void ucListBox::CloseEdit() {

@@ -56,6 +56,25 @@ TEST_F(EditBox, AnArrowTellsTheChangeAndGoesOn) {
   EXPECT_TRUE(list.txtEdit.Visible());
 }
 
+TEST_F(EditBox, AHandlerThatMovesTheFocusKeepsTheTextThatItIsTold) {
+  std::string told;
+  list.UpdateString = [&](long, const std::string& text) {
+    window.other.SetFocus();
+    told = text;
+  };
+  for (bool by_enter : {true, false}) {
+    list.SetStrPos(2);
+    list.EditCodeline();
+    Type("x");
+    if (by_enter)
+      list.txtEdit.UserKeyPress(vbKeyReturn);
+    else
+      list.txtEdit.UserKeyDown(vbKeyDown, 0);
+    EXPECT_EQ(std::exchange(told, {}), "x") << by_enter;
+    EXPECT_FALSE(list.txtEdit.Visible());
+  }
+}
+
 TEST_F(EditBox, EscapeDropsTheEdit) {
   list.EditCodeline();
   Type("x");
