@@ -27,6 +27,7 @@ void ucListBox::CloseEdit() {
 }
 
 void ucListBox::txtEdit_KeyDown(int& key) {
+  if (loading) return;
   const bool up = key == forms::vbKeyUp;
   if (!up && key != forms::vbKeyDown) return;
   key = 0;
@@ -42,6 +43,7 @@ void ucListBox::txtEdit_KeyDown(int& key) {
 void ucListBox::txtEdit_KeyPress(int& key) {
   if (key == forms::vbKeyReturn) {
     key = 0;
+    if (loading) return;
     RaiseUpdate();
     runtime::PassOverErrors([this] { pic.SetFocus(); });
   } else if (key == forms::vbKeyEscape) {

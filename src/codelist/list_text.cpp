@@ -32,7 +32,10 @@ void ucListBox::sGrid(const std::string& value) {
   }
 }
 
+// Neither a drag nor an edit goes on in other lines.
 void ucListBox::Clear() {
+  EndDrag();
+  if (txtEdit.Visible()) CloseEdit();
   ++clears;
   analysis = {};
   firstColumn = 0;

@@ -140,7 +140,7 @@ void ucListBox::EndDrag() {
 
 void ucListBox::pic_Click() {
   UcClick();
-  if (LineOnRow(RowAt(mouseY)) == 0) return;
+  if (loading || LineOnRow(RowAt(mouseY)) == 0) return;
   if (!treeMode) return FireClick();
   const long indent = (store.LineLevel(currentLine) - BaseLevel) * kColumnsOfLevel;
   if (indent < 5 || firstColumn != 0 || currentLine == store.Count()) return;

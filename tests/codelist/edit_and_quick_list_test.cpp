@@ -75,6 +75,15 @@ TEST_F(EditBox, AHandlerThatMovesTheFocusKeepsTheTextThatItIsTold) {
   }
 }
 
+TEST_F(EditBox, ANewTextDropsTheEdit) {
+  list.EditCodeline();
+  Type("x");
+  list.SetText("d\r\ne\r\n");
+  EXPECT_FALSE(list.txtEdit.Visible());
+  list.txtEdit.UserKeyPress(vbKeyReturn);
+  EXPECT_THAT(events, testing::Not(testing::Contains(testing::HasSubstr("UpdateString"))));
+}
+
 TEST_F(EditBox, EscapeDropsTheEdit) {
   list.EditCodeline();
   Type("x");

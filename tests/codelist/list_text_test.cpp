@@ -81,6 +81,53 @@ TEST_F(ListText, TheUserCannotDisturbALoad) {
   for (long line = 1; line <= 41; ++line) ASSERT_EQ(list.LineLevel(line), 32 + line);
 }
 
+TEST_F(ListText, ADragFromBeforeALoadDoesNotGoOnInIt) {
+  Load(9);
+  Press(2);
+  services.loop.ticks += 300;
+  services.loop.on_do_events = [this] {
+    list.pic.UserMouseMove(forms::vbLeftButton, 0, 1000, YOf(5));
+    list.pic.UserMouseMove(forms::vbLeftButton, 0, 1000, 5000);
+    EXPECT_FALSE(list.tmr.Enabled());
+  };
+  Load(41);
+  EXPECT_EQ(services.loop.yields, 2);
+  EXPECT_EQ(list.ListIndex(), 1);
+  EXPECT_THAT(SelectedLines(), IsEmpty());
+}
+
+TEST_F(ListText, AnEditBoxNeitherMovesALoadNorTellsAChangeInIt) {
+  list.sGrid("TEXT");
+  list.CodeLostFocus = {};
+  services.loop.on_do_events = [this] {
+    list.EditCodeline();
+    list.txtEdit.UserEdit("x", 0, 0);
+    list.txtEdit.UserKeyDown(forms::vbKeyDown, 0);
+    list.txtEdit.UserKeyPress(forms::vbKeyReturn);
+  };
+  list.SetText(runtime::Replace(std::string(41, 'x'), "x", "a\r\n"));
+  EXPECT_EQ(services.loop.yields, 2);
+  EXPECT_EQ(list.ListIndex(), 1);
+  EXPECT_EQ(list.CurrentRow(), 1);
+  EXPECT_THAT(events, ElementsAre("TextDone"));
+}
+
+TEST_F(ListText, AClickDuringALoadIsTheControlsClickOnly) {
+  list.sGrid("TEXT");
+  services.loop.on_do_events = [this] { ClickOn(1); };
+  list.SetText(runtime::Replace(std::string(25, 'x'), "x", "a\r\n"));
+  EXPECT_THAT(events, ElementsAre("UcClick", "TextDone"));
+}
+
+TEST_F(ListText, ABranchIsNotToggledDuringALoad) {
+  list.sGrid("TREE");
+  // The box of level 34 stands behind the gutter and seven blanks.
+  services.loop.on_do_events = [this] { ClickOn(1, 392 + 7 * 98 + 77); };
+  list.SetText(runtime::Replace(std::string(15, 'x'), "x", "+a\r\n++b\r\n"));
+  EXPECT_EQ(services.loop.yields, 1);
+  for (long line = 2; line <= 30; line += 2) EXPECT_FALSE(list.IsLineVisible(line)) << line;
+}
+
 TEST_F(ListText, TheEventLoopRunsAfterEveryTwentyLines) {
   list.sGrid("TEXT");
   list.SetText(runtime::Replace(std::string(59, 'x'), "x", "a\r\n"));
