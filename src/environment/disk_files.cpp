@@ -8,8 +8,10 @@
 #include <sys/stat.h>
 #include <unistd.h>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
+#include "environment/paths.h"
 #include "environment/wildcard.h"
 #include "runtime/code_page.h"
 #include "runtime/error.h"
@@ -38,18 +40,13 @@ Names Split(const std::string& windows) {
     result.has_place = false;
   }
   result.absolute = at < windows.size() && (windows[at] == '\\' || windows[at] == '/');
-  const runtime::CodePage& page = runtime::AnsiCodePage();
   std::string name;
-  for (; at < windows.size(); ++at) {
-    // The second byte of a character may look like a "\".
-    if (page.IsLead(static_cast<unsigned char>(windows[at])) && at + 1 < windows.size()) {
-      name += windows[at++];
-      name += windows[at];
-    } else if (windows[at] == '\\' || windows[at] == '/') {
-      if (!name.empty()) result.names.push_back(std::move(name));
-      name.clear();
-    } else {
-      name += windows[at];
+  for (size_t next = at; at < windows.size(); at = next) {
+    next = BehindCharacter(windows, at);
+    if (windows[at] != '\\' && windows[at] != '/') {
+      name += windows.substr(at, next - at);
+    } else if (!name.empty()) {
+      result.names.push_back(std::exchange(name, {}));
     }
   }
   if (!name.empty()) result.names.push_back(std::move(name));
@@ -165,13 +162,15 @@ class DiskFiles : public host::Files {
       got += static_cast<size_t>(part);
     }
     bytes.resize(got);
+    places_[path] = native;
     return bytes;
   }
 
   // The new file stands whole and flushed beside the old one before it takes its name. A link is followed to its file.
   void Write(const std::string& path, std::string_view bytes) override {
-    std::string native = Resolve(path);
-    if (native.empty()) throw runtime::Error(runtime::kPathNotFound, "No such drive or share on this machine");
+    const std::string place = PlaceOf(path);
+    if (place.empty()) throw runtime::Error(runtime::kPathNotFound, "No such drive or share on this machine");
+    std::string native = place;
     if (char* real = ::realpath(native.c_str(), nullptr)) {
       native = real;
       std::free(real);
@@ -193,11 +192,12 @@ class DiskFiles : public host::Files {
       ::unlink(temporary.c_str());
       Fail(error, false);
     }
+    places_[path] = place;
     FlushFolder(native);
   }
 
   uint32_t Attributes(const std::string& path) override {
-    std::string native = Resolve(path);
+    std::string native = PlaceOf(path);
     struct stat info;
     if (native.empty() || ::stat(native.c_str(), &info) != 0) return host::kNoSuchFile;
     if (S_ISDIR(info.st_mode)) return host::kDirectory;
@@ -205,7 +205,7 @@ class DiskFiles : public host::Files {
   }
 
   host::FileStamp Stamp(const std::string& path) override {
-    std::string native = Resolve(path);
+    std::string native = PlaceOf(path);
     struct stat info;
     if (native.empty() || ::stat(native.c_str(), &info) != 0) return {};
     return {info.st_size, int64_t{info.st_mtim.tv_sec} * 1000000000 + info.st_mtim.tv_nsec};
@@ -227,6 +227,15 @@ class DiskFiles : public host::Files {
   std::string Resolve(const std::string& windows) {
     Names split = Split(windows);
     return split.has_place ? finder_.Find(split, windows) : std::string();
+  }
+
+  // Where a file was read from is where it is written, though another code page would find its name elsewhere by now.
+  // One that was renamed since in its case alone is found again.
+  std::string PlaceOf(const std::string& windows) {
+    auto known = places_.find(windows);
+    if (known != places_.end() && Exists(known->second)) return known->second;
+    std::string found = Resolve(windows);
+    return known == places_.end() || Exists(found) ? found : known->second;
   }
 
   static void RequireRegular(const struct stat& info) {
@@ -262,6 +271,7 @@ class DiskFiles : public host::Files {
   }
 
   NameFinder finder_;
+  std::unordered_map<std::string, std::string> places_;  // of files read and written: native by Windows paths
 };
 
 }  // namespace

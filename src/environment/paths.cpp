@@ -11,16 +11,42 @@ namespace corvane::environment {
 
 namespace {
 
-// The last "\" or "/"; npos where there is none. In a double-byte code page a second byte may look like "\".
-size_t LastSlash(std::string_view path) {
-  const runtime::CodePage& page = runtime::AnsiCodePage();
-  size_t last = std::string_view::npos;
-  for (size_t i = 0; i < path.size(); ++i) {
-    if (page.IsLead(static_cast<unsigned char>(path[i])))
-      ++i;
-    else if (path[i] == '\\' || path[i] == '/')
-      last = i;
+constexpr size_t kLongestName = 255;  // bytes
+
+unsigned char ByteAt(std::string_view text, size_t at) {
+  return at < text.size() ? static_cast<unsigned char>(text[at]) : 0;
+}
+
+// Bytes of the UTF-8 character beyond ASCII at [at]; 0 where there is none.
+size_t Utf8Length(std::string_view text, size_t at) {
+  unsigned char first = ByteAt(text, at), second = ByteAt(text, at + 1);
+  size_t length = first >= 0xC2 && first <= 0xDF   ? 2
+                  : (first & 0xF0) == 0xE0         ? 3
+                  : first >= 0xF0 && first <= 0xF4 ? 4
+                                                   : 0;
+  for (size_t i = 1; i < length; ++i)
+    if ((ByteAt(text, at + i) & 0xC0) != 0x80) return 0;
+  bool overlong = (first == 0xE0 && second < 0xA0) || (first == 0xF0 && second < 0x90);
+  bool no_character = (first == 0xED && second > 0x9F) || (first == 0xF4 && second > 0x8F);
+  return overlong || no_character ? 0 : length;
+}
+
+// The end of the characters beyond ASCII from [at] on; [at] itself where they are no UTF-8.
+size_t EndOfUtf8(std::string_view text, size_t at) {
+  size_t end = at;
+  while (ByteAt(text, end) >= 0x80) {
+    size_t length = Utf8Length(text, end);
+    if (length == 0 || end - at > kLongestName) return at;
+    end += length;
   }
+  return end;
+}
+
+// The last "\" or "/"; npos where there is none.
+size_t LastSlash(std::string_view path) {
+  size_t last = std::string_view::npos;
+  for (size_t i = 0; i < path.size(); i = BehindCharacter(path, i))
+    if (path[i] == '\\' || path[i] == '/') last = i;
   return last;
 }
 
@@ -36,14 +62,9 @@ size_t RootLength(std::string_view path) {
 }
 
 std::string WithBackslashes(std::string_view path) {
-  const runtime::CodePage& page = runtime::AnsiCodePage();
   std::string result(path);
-  for (size_t i = 0; i < result.size(); ++i) {
-    if (page.IsLead(static_cast<unsigned char>(result[i])))
-      ++i;
-    else if (result[i] == '/')
-      result[i] = '\\';
-  }
+  for (size_t i = 0; i < result.size(); i = BehindCharacter(result, i))
+    if (result[i] == '/') result[i] = '\\';
   return result;
 }
 
@@ -68,6 +89,11 @@ std::string Joined(std::string root, const std::vector<std::string>& names) {
 }
 
 }  // namespace
+
+size_t BehindCharacter(std::string_view path, size_t at) {
+  if (size_t end = EndOfUtf8(path, at); end > at) return end;
+  return at + (runtime::AnsiCodePage().IsLead(ByteAt(path, at)) ? 2 : 1);
+}
 
 std::string FolderOf(std::string_view path) {
   size_t slash = LastSlash(path);

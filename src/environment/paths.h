@@ -1,10 +1,16 @@
-// Windows paths as texts: "C:\a\b", "\\server\share\a", relative ones.
+// Windows paths as texts: "C:\a\b", "\\server\share\a", relative ones. Their names are bytes of the code page, or,
+// where they come from this machine, of UTF-8: both may stand in one path.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace corvane::environment {
+
+// Behind the character at [at] (from 0), whatever its bytes: the second of two may look like "\". Bytes beyond ASCII
+// that are UTF-8 up to the next ASCII character are taken for that, and stepped over at once.
+size_t BehindCharacter(std::string_view path, size_t at);
 
 std::string FolderOf(std::string_view path);     // with its ending "\"; empty where there is none
 std::string FileNameOf(std::string_view path);   // behind the last "\"

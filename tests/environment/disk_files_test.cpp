@@ -12,6 +12,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "environment/paths.h"
 #include "runtime/code_page.h"
 #include "tests/environment/opened.h"
 
@@ -94,6 +95,82 @@ TEST_F(DiskFilesTest, ASecondByteThatLooksLikeABackslashIsNone) {
   runtime::SetAnsiCodePage(932);
   Put("\xE8\xA1\xA8.frm", "x");  // 95 5C in code page 932
   EXPECT_EQ(files_->Read(Path("\x95\x5C.frm")), "x");
+  runtime::SetAnsiCodePage(1252);
+}
+
+// A folder of this machine whose last byte of UTF-8 is a lead byte of a double-byte code page, and a font that asks for
+// this page.
+struct FolderCase {
+  int charset, page;
+  const char* folder;
+};
+
+constexpr FolderCase kFolders[] = {{128, 932, "\xE3\x83\x86\xE3\x82\xB9\xE3\x83\x88"},
+                                   {128, 932, "Spa\xC3\x9F"},
+                                   {134, 936, "\xE6\x96\xB0"},
+                                   {134, 936, "\xE5\x8C\x97\xE4\xBA\xAC a \xE6\x96\xB0"}};
+
+TEST_F(DiskFilesTest, AProjectInAFolderOfThisMachineIsReadAndSavedUnderADoubleBytePage) {
+  for (const FolderCase& each : kFolders) {
+    std::string folder = each.folder;
+    Put(folder + "/Form1.frm", "VERSION 5.00\r\nBegin VB.Form Form1 \r\n   BeginProperty Font \r\n      Charset = " +
+                                   std::to_string(each.charset) +
+                                   "\r\n   EndProperty\r\nEnd\r\nAttribute VB_Name = \"Form1\"\r\nSub A()\r\n");
+    Put(folder + "/P.vbp", "Type=Exe\r\nForm=Form1.frm\r\nModule=Main; Main.bas\r\nName=\"P\"\r\n");
+    Put(folder + "/Main.bas", "Attribute VB_Name = \"Main\"\r\nSub Main()\r\n");
+    std::string form = Disk(folder + "/Form1.frm");
+    runtime::SetAnsiCodePage(1252);
+    auto files = NewDiskFiles();
+    auto environment = Environment::Create(*files);
+    environment->Open(Path(folder + "\\P.vbp"));
+    ASSERT_EQ(environment->CodePage(), each.page);
+    for (const CheckedFile& file : CheckFiles(*environment, *files)) EXPECT_TRUE(file.identical) << file.path;
+    EXPECT_EQ(CheckFiles(*environment, *files).size(), 3u) << folder;
+    EXPECT_TRUE(environment->Problems().empty()) << environment->Problems()[0].reason;
+    auto module = environment->Projects()[0]->Modules()[1];
+    EXPECT_FALSE(module->ChangedOnDisk());
+    module->CodeModule()->InsertLines(2, "' new");
+    environment->Projects()[0]->Modules()[0]->SetName("Renamed");
+    EXPECT_TRUE(environment->SaveAll().empty());
+    EXPECT_EQ(Disk(folder + "/Main.bas"), "Attribute VB_Name = \"Main\"\r\nSub Main()\r\n' new\r\n") << folder;
+    EXPECT_NE(Disk(folder + "/Form1.frm"), form);
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder_ / folder), {}), 3) << "files in the folder " << folder;
+    EXPECT_EQ(Entries(), 1u) << folder;
+    fs::remove_all(folder_ / folder);
+  }
+  runtime::SetAnsiCodePage(1252);
+}
+
+TEST_F(DiskFilesTest, AFileIsWrittenWhereItWasReadWhateverThePageByThen) {
+  Put("M\xC3\xB3"
+      "d.bas",
+      "old");
+  std::string path = Path(
+      "M\xF3"
+      "d.bas");
+  files_->Read(path);
+  runtime::SetAnsiCodePage(1251);
+  EXPECT_EQ(files_->Stamp(path).size, 3);
+  files_->Write(path, "new");
+  fs::remove(folder_ /
+             "M\xC3\xB3"
+             "d.bas");
+  EXPECT_EQ(files_->Stamp(path).size, -1);
+  files_->Write(path, "newer");
+  runtime::SetAnsiCodePage(1252);
+  EXPECT_EQ(Disk("M\xC3\xB3"
+                 "d.bas"),
+            "newer");
+  EXPECT_EQ(Entries(), 1u);
+}
+
+TEST(Paths, NamesOfThisMachineAndOfTheCodePageStandSideBySide) {
+  runtime::SetAnsiCodePage(936);
+  // Two characters of the page, of whose four bytes the first three look like UTF-8.
+  EXPECT_EQ(FolderOf("Z:\\\xE6\x96\xB0\\\xE1\xB0\xB1\xB1\\a.bas"), "Z:\\\xE6\x96\xB0\\\xE1\xB0\xB1\xB1\\");
+  runtime::SetAnsiCodePage(932);
+  EXPECT_EQ(FileNameOf("Z:\\\xE3\x83\x86\\\x95\x5C.bas"), "\x95\x5C.bas");
+  EXPECT_EQ(JoinPath("Z:/\xE3\x83\x86/", "..\\b.bas"), "Z:\\b.bas");
   runtime::SetAnsiCodePage(1252);
 }
 
