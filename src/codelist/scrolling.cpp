@@ -56,7 +56,7 @@ long ucListBox::SetStrPos(long index) {
     Raised without(noRefresh);
     Repaint();
   }
-  if (topLine > 1) SetBar(vs, topLine - 1);
+  if (topLine > 1) SetBar(vs, ValueOfTop());
   pic.Refresh();
   return index;
 }
@@ -123,7 +123,7 @@ void ucListBox::ScrollUpOne() {
   currentLine = std::max(1L, PrevVisible(currentLine));
   PaintRows();
   RepaintCurrent(highlightColor);
-  SetBar(vs, topLine - 1);
+  SetBar(vs, ValueOfTop());
   pic.Refresh();
   FireClick();
 }
@@ -136,7 +136,7 @@ void ucListBox::ScrollDownOne() {
   PaintRows();
   PaintRowsBehindLast();
   RepaintCurrent(highlightColor);
-  SetBar(vs, topLine - 1);
+  SetBar(vs, ValueOfTop());
   pic.Refresh();
 }
 

@@ -85,7 +85,7 @@ TEST_F(Scrolling, DownMovesTheCurrentLineAndScrollsInFrontOfTheBar) {
   EXPECT_EQ(Where(), (Place{1, 9, 9}));
   Key(vbKeyDown);
   EXPECT_EQ(Where(), (Place{2, 10, 9})) << "row ten lies behind the bar";
-  EXPECT_EQ(list.vs.Value(), 1);
+  EXPECT_EQ(list.vs.Value(), 2);
   EXPECT_EQ(events, std::vector<std::string>(9, "Click"));
 }
 
@@ -360,6 +360,23 @@ TEST_F(Scrolling, StepsOfTheBarFromTheTopGoLineByLine) {
     list.vs.UserScroll(list.vs.Value() - 1, false);
     EXPECT_EQ(list.TopLine(), top);
   }
+}
+
+TEST_F(Scrolling, AStepOfTheBarUpFromTheSecondLineShowsTheFirst) {
+  Load(30);
+  const auto step_up = [this] {
+    ASSERT_EQ(list.TopLine(), 2);
+    list.vs.UserScroll(list.vs.Value() - 1, false);
+    EXPECT_EQ(list.TopLine(), 1);
+  };
+  list.SetStrPos(4);
+  step_up();
+  list.SetStrPos(5);
+  for (int step = 1; step <= 3; ++step) Key(vbKeyUp);
+  step_up();
+  list.SetStrPos(1);
+  for (int step = 1; step <= 9; ++step) Key(vbKeyDown);
+  step_up();
 }
 
 TEST_F(Scrolling, AStepOfTheBarFromTheTopAndBackKeepsTheHighlightOnItsLine) {
