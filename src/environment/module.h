@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "host/project.h"
 
@@ -35,6 +36,8 @@ class Module : public host::VBComponent {
   virtual void UserSelectControls(const std::vector<long>& positions) = 0;  // in VBControls, from 1
   // Takes over the new stamp after a save, tells whether somebody else changed the file since it was read.
   virtual bool ChangedOnDisk() const = 0;
+  // Full paths of the binary files that Save would write and that somebody else changed since they were read.
+  virtual std::vector<std::string> ChangedSiblings() const = 0;
 };
 
 }  // namespace corvane::environment

@@ -175,12 +175,19 @@ void OpenModule::WriteSiblings(const std::string& path) {
   }
 }
 
-void OpenModule::RequireUnchangedSiblings() const {
-  if (!designer_) return;
+std::vector<std::string> OpenModule::ChangedSiblings() const {
+  std::vector<std::string> changed;
+  if (!designer_ || path_.empty()) return changed;
   for (const DesignerSibling& sibling : designer_->Siblings()) {
-    if (sibling.changed && IsForeignSibling(JoinPath(FolderOf(path_), sibling.name)))
-      throw host::Error(runtime::kPermissionDenied, sibling.name + ": changed on disk since it was read");
+    std::string whole = JoinPath(FolderOf(path_), sibling.name);
+    if (sibling.changed && IsForeignSibling(whole)) changed.push_back(whole);
   }
+  return changed;
+}
+
+void OpenModule::RequireUnchangedSiblings() const {
+  for (const std::string& path : ChangedSiblings())
+    throw host::Error(runtime::kPermissionDenied, FileNameOf(path) + ": changed on disk since it was read");
 }
 
 // What SaveAs to [path] calls the binary file: a new one beside the new file; that of a file which keeps its folder and

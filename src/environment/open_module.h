@@ -74,6 +74,7 @@ class OpenModule : public Module,
   void UserOpenDesigner(bool open) override;
   void UserSelectControls(const std::vector<long>& positions) override;
   bool ChangedOnDisk() const override;
+  std::vector<std::string> ChangedSiblings() const override;
 
   // PaneOwner
   host::Ref<host::CodeModule> PaneModule() override { return CodeModule(); }

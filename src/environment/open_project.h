@@ -33,6 +33,7 @@ class OpenProject : public Project, public std::enable_shared_from_this<OpenProj
   bool IsDirty() const override { return dirty_; }
   std::string WriteToText() const override { return file_.Write(); }
   void Save(Module& module, OnDiskChange rule) override;
+  bool ChangedOnDisk() const override;
   void SaveProjectFile(OnDiskChange rule) override;
 
   // A file in the folder of [path]: from the texts that the project was opened with, else from disk.

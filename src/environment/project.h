@@ -19,6 +19,8 @@ class Project : public host::VBProject {
   virtual std::string WriteToText() const = 0;  // the .vbp as it would be written now
   // Writes [module]'s file (and its .frx when that changed). Throws host::Error; the file on disk is then untouched.
   virtual void Save(Module& module, OnDiskChange rule = OnDiskChange::Refuse) = 0;
+  // Whether somebody else changed the .vbp since it was read or saved.
+  virtual bool ChangedOnDisk() const = 0;
   virtual void SaveProjectFile(OnDiskChange rule = OnDiskChange::Refuse) = 0;
 };
 

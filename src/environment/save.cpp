@@ -102,11 +102,16 @@ void OpenProject::ListInFile(OpenModule& module) {
   SetDirty();
 }
 
+bool OpenProject::ChangedOnDisk() const {
+  // A file that is gone may be written again, as a module's.
+  host::FileStamp now = path_.empty() ? stamp_ : Environment().FilesInUse().Stamp(path_);
+  return now.size != -1 && now != stamp_;
+}
+
 void OpenProject::SaveProjectFile(OnDiskChange rule) {
   RequirePath(path_);
   host::Files& files = Environment().FilesInUse();
-  host::FileStamp now = files.Stamp(path_);
-  RequireUnchanged(rule == OnDiskChange::Refuse && now.size != -1 && now != stamp_);
+  RequireUnchanged(rule == OnDiskChange::Refuse && ChangedOnDisk());
   files.Write(path_, file_.Write());
   stamp_ = files.Stamp(path_);
   dirty_ = false;

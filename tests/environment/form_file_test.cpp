@@ -100,6 +100,11 @@ TEST_F(FormFile, ABinaryFileThatSomebodyElseChangedIsRefused) {
   EXPECT_EQ(ErrorOf([&] { opened_.Project()->Save(*form_); }), 70);
   EXPECT_EQ(ReasonOfFailure([&] { opened_.Project()->Save(*form_); }), "Form1.frx: changed on disk since it was read");
   EXPECT_EQ(opened_.Disk("Form1.frx"), kFrx + "theirs");
+  EXPECT_FALSE(form_->ChangedOnDisk());
+  EXPECT_EQ(form_->ChangedSiblings(), std::vector<std::string>{"C:\\P\\Form1.frx"});
+  opened_.Project()->Save(*form_, OnDiskChange::Overwrite);
+  EXPECT_EQ(form_->ChangedSiblings(), std::vector<std::string>{});
+  EXPECT_NE(opened_.Disk("Form1.frx").find("longer"), std::string::npos);
 }
 
 TEST_F(FormFile, ABinaryFileThatIsNotItsOwnIsNeverReplaced) {

@@ -74,11 +74,14 @@ TEST_F(Saving, ACarriageReturnInsideALineStaysInIt) {
 
 TEST_F(Saving, AProjectFileThatSomebodyElseChangedIsRefusedUntilAsked) {
   opened_.At(0)->SetName("Start");
+  EXPECT_FALSE(opened_.Project()->ChangedOnDisk());
   opened_.PutProject("Type=OleDll|");
+  EXPECT_TRUE(opened_.Project()->ChangedOnDisk());
   EXPECT_EQ(ErrorOf([&] { opened_.Project()->SaveProjectFile(); }), 70);
   EXPECT_EQ(opened_.Disk("P.vbp"), Text("Type=OleDll|"));
   opened_.Project()->SaveProjectFile(OnDiskChange::Overwrite);
   EXPECT_NE(opened_.Disk("P.vbp").find("Module=Start; Main.bas"), std::string::npos);
+  EXPECT_FALSE(opened_.Project()->ChangedOnDisk());
 }
 
 TEST_F(Saving, AFileThatIsGoneIsWrittenAgain) {
