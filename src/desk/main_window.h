@@ -104,6 +104,10 @@ class MainWindow : public QMainWindow, public environment::Observer {
   QMdiSubWindow* Show(QWidget& inside, const QString& title, const QString& icon);
   std::shared_ptr<environment::Module> Shared(environment::Module& module) const;
   bool AskForFile(environment::Module& module);
+  // Asks about a file that somebody else changed.
+  bool MayReplace(const std::string& file);
+  bool SaveProjectFile(environment::Project& project);
+  bool NotSaved(const std::string& file, const host::Error& error);  // tells it; false
   std::vector<std::string> UnsavedFiles() const;
   std::string Reason(const host::Error& error) const;
 
@@ -150,8 +154,8 @@ class MainWindow : public QMainWindow, public environment::Observer {
   std::set<long> own_controls_;
   QHash<const environment::Module*, CodePane*> panes_;
   QHash<const environment::Module*, DesignerWindow*> designers_;
-  std::set<const environment::Module*> told_changed_;
-  bool asking_ = false;  // a question is open: no other one
+  std::set<std::string> told_changed_;  // files
+  bool asking_ = false;                 // a question is open: no other one
 };
 
 }  // namespace corvane::desk

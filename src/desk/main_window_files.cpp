@@ -33,6 +33,13 @@ std::string Shown(const std::string& path) {
   return FromLabel(ShownPath(path));
 }
 
+// What saving [module] would replace although somebody else changed it.
+std::vector<std::string> ForeignFilesOf(const Module& module) {
+  std::vector<std::string> files = module.ChangedSiblings();
+  if (module.ChangedOnDisk()) files.insert(files.begin(), module.Path());
+  return files;
+}
+
 // A related document is only named by its project.
 bool IsReadHere(Module& module) {
   return module.Type() != host::ComponentType::RelatedDocument && !module.Path().empty();
@@ -82,27 +89,44 @@ bool MainWindow::AskForFile(Module& module) {
   return true;
 }
 
+bool MainWindow::MayReplace(const std::string& file) {
+  const std::string question = Shown(file) + kCrLf + "was changed on disk by another program since it was read here." +
+                               kCrLf + kCrLf + "Replace that file by what is on this desk?";
+  return prompts_.MsgBox(question, host::vbYesNo | host::vbExclamation | host::vbDefaultButton2) == host::vbYes;
+}
+
 bool MainWindow::SaveModule(const std::shared_ptr<Module>& module) {
   if (!module || asking_) return false;
   const QScopedValueRollback<bool> asking(asking_, true);
   try {
     if (module->Path().empty()) return AskForFile(*module);
-    OnDiskChange rule = OnDiskChange::Refuse;
-    if (module->ChangedOnDisk()) {
-      const std::string question = Shown(module->Path()) + kCrLf +
-                                   "was changed on disk by another program since it was read here." + kCrLf + kCrLf +
-                                   "Replace that file by what is on this desk?";
-      if (prompts_.MsgBox(question, host::vbYesNo | host::vbExclamation | host::vbDefaultButton2) != host::vbYes)
-        return false;
-      rule = OnDiskChange::Overwrite;
-    }
-    module->ProjectOf()->Save(*module, rule);
+    const std::vector<std::string> foreign = ForeignFilesOf(*module);
+    for (const std::string& file : foreign)
+      if (!MayReplace(file)) return false;
+    module->ProjectOf()->Save(*module, foreign.empty() ? OnDiskChange::Refuse : OnDiskChange::Overwrite);
     statusBar()->showMessage(tr("%1 is saved.").arg(ShownPath(module->Path())));
     return true;
   } catch (const host::Error& error) {
-    prompts_.MsgBox(Shown(module->Path()) + kCrLf + "was not saved: " + error.Description(), host::vbExclamation);
-    return false;
+    return NotSaved(module->Path(), error);
   }
+}
+
+bool MainWindow::SaveProjectFile(Project& project) {
+  if (asking_) return false;
+  const QScopedValueRollback<bool> asking(asking_, true);
+  try {
+    const bool foreign = project.ChangedOnDisk();
+    if (foreign && !MayReplace(project.FileName())) return false;
+    project.SaveProjectFile(foreign ? OnDiskChange::Overwrite : OnDiskChange::Refuse);
+    return true;
+  } catch (const host::Error& error) {
+    return NotSaved(project.FileName(), error);
+  }
+}
+
+bool MainWindow::NotSaved(const std::string& file, const host::Error& error) {
+  prompts_.MsgBox(Shown(file) + kCrLf + "was not saved: " + error.Description(), host::vbExclamation);
+  return false;
 }
 
 void MainWindow::SaveActive() {
@@ -111,10 +135,12 @@ void MainWindow::SaveActive() {
 
 // What needs a question is saved one by one; the environment saves the rest, project files last.
 bool MainWindow::SaveAll() {
-  for (const auto& project : environment_->Projects())
+  for (const auto& project : environment_->Projects()) {
     for (const auto& module : project->Modules())
-      if (module->IsDirty() && (module->Path().empty() || module->ChangedOnDisk()))
+      if (module->IsDirty() && (module->Path().empty() || !ForeignFilesOf(*module).empty()))
         if (!SaveModule(module)) return false;
+    if (project->IsDirty() && project->ChangedOnDisk() && !SaveProjectFile(*project)) return false;
+  }
   const std::vector<environment::Problem> problems = environment_->SaveAll();
   if (problems.empty()) {
     statusBar()->showMessage(tr("Everything is saved."));
@@ -141,12 +167,15 @@ bool MainWindow::MayLeave() {
 void MainWindow::CheckDisk() {
   if (asking_) return;
   std::vector<std::string> changed;
-  for (const auto& project : environment_->Projects())
+  const auto add = [&](const std::string& file) {
+    if (told_changed_.insert(file).second) changed.push_back(Shown(file));
+  };
+  for (const auto& project : environment_->Projects()) {
+    if (project->ChangedOnDisk()) add(project->FileName());
     for (const auto& module : project->Modules())
-      if (!told_changed_.contains(module.get()) && IsReadHere(*module) && module->ChangedOnDisk()) {
-        told_changed_.insert(module.get());
-        changed.push_back(Shown(module->Path()));
-      }
+      if (IsReadHere(*module))
+        for (const std::string& file : ForeignFilesOf(*module)) add(file);
+  }
   if (changed.empty()) return;
   long answer = host::vbNo;
   {

@@ -304,6 +304,90 @@ TEST_F(SavingTest, AFileThatSomebodyElseChangedIsReplacedOnlyWhenAsked) {
   EXPECT_TRUE(IsWritten());
 }
 
+// A component was added here while the .vbp changed outside.
+class SavingAProjectTest : public SavingTest {
+ protected:
+  void SetUp() override {
+    SavingTest::SetUp();
+    environment_->ActiveVBProject()->VBComponents()->Add(host::ComponentType::ClassModule)->SaveAs("C:\\Work\\c.cls");
+    files_.Put(kPath, kTheirs);
+  }
+  static constexpr char kPath[] = "C:\\Work\\Stock.vbp", kTheirs[] = "Type=Exe\r\nName=\"Theirs\"\r\n";
+};
+
+TEST_F(SavingAProjectTest, NoKeepsTheFileOnDiskAndTheEdit) {
+  prompts_.answers = {host::vbNo};
+  EXPECT_FALSE(window_->SaveAll());
+  ASSERT_EQ(prompts_.messages.size(), 1u);
+  EXPECT_NE(prompts_.messages[0].prompt.find("C:\\Work\\Stock.vbp\r\nwas changed on disk"), std::string::npos);
+  EXPECT_EQ(prompts_.messages[0].style & host::vbDefaultButton2, host::vbDefaultButton2) << "No is the default";
+  EXPECT_EQ(files_.Read(kPath), kTheirs);
+  EXPECT_TRUE(environment_->Projects()[0]->IsDirty());
+}
+
+TEST_F(SavingAProjectTest, YesReplacesTheFileOnDisk) {
+  prompts_.answers = {host::vbYes};
+  EXPECT_TRUE(window_->SaveAll());
+  EXPECT_EQ(prompts_.messages.size(), 1u);
+  EXPECT_NE(files_.Read(kPath).find("; c.cls\r\n"), std::string::npos);
+  EXPECT_NE(files_.Read(kPath).find("Name=\"Stock\""), std::string::npos);
+  EXPECT_FALSE(environment_->IsDirty());
+}
+
+TEST_F(SavingAProjectTest, AFailureToReplaceItIsTold) {
+  files_.FailWrites(kPath, 61);
+  prompts_.answers = {host::vbYes, host::vbOK};
+  EXPECT_FALSE(window_->SaveAll());
+  EXPECT_NE(prompts_.messages.back().prompt.find("Stock.vbp\r\nwas not saved: "), std::string::npos);
+  EXPECT_EQ(files_.Read(kPath), kTheirs);
+}
+
+TEST_F(SavingAProjectTest, TheChangeIsToldOnceWhenTheWindowComesToTheFront) {
+  prompts_.answers = {host::vbNo};
+  window_->CheckDisk();
+  window_->CheckDisk();
+  ASSERT_EQ(prompts_.messages.size(), 1u);
+  EXPECT_NE(prompts_.messages[0].prompt.find("Stock.vbp"), std::string::npos);
+}
+
+// The list of a control was edited here while the .frx alone changed outside.
+class SavingABinaryFileTest : public DeskTest {
+ protected:
+  void SetUp() override {
+    files_.Put("C:\\Work\\List.frm",
+               "VERSION 5.00\r\nBegin VB.Form frmList \r\n   Begin VB.ListBox lst \r\n"
+               "      List            =   \"List.frx\":0000\r\n      TabIndex        =   0\r\n   End\r\nEnd\r\n"
+               "Attribute VB_Name = \"frmList\"\r\n");
+    files_.Put(kPath, std::string("\x01\0\x03\0\x02\0ab", 8));
+    DeskTest::SetUp();
+    environment_->ActiveVBProject()->VBComponents()->AddFile("C:\\Work\\List.frm");
+    environment_->SaveAll();
+    form_ = Module("frmList");
+    form_->Designer()->VBControls()->Item("lst")->Properties()->Item("List")->SetIndexedValue(0, std::string("mine"));
+    files_.Put(kPath, "theirs");
+  }
+  static constexpr char kPath[] = "C:\\Work\\List.frx";
+  std::shared_ptr<environment::Module> form_;
+};
+
+TEST_F(SavingABinaryFileTest, NoKeepsTheFileOnDiskAndTheEdit) {
+  prompts_.answers = {host::vbNo, host::vbNo};
+  EXPECT_FALSE(window_->SaveModule(form_));
+  EXPECT_FALSE(window_->SaveAll());
+  ASSERT_EQ(prompts_.messages.size(), 2u);
+  for (const auto& asked : prompts_.messages)
+    EXPECT_NE(asked.prompt.find("C:\\Work\\List.frx\r\nwas changed on disk"), std::string::npos);
+  EXPECT_EQ(files_.Read(kPath), "theirs");
+  EXPECT_TRUE(form_->IsDirty());
+}
+
+TEST_F(SavingABinaryFileTest, YesReplacesTheFileOnDisk) {
+  prompts_.answers = {host::vbYes};
+  EXPECT_TRUE(window_->SaveModule(form_));
+  EXPECT_NE(files_.Read(kPath).find("mine"), std::string::npos);
+  EXPECT_FALSE(form_->IsDirty());
+}
+
 TEST_F(SavingTest, AChangeOnDiskIsToldOnceAndTheProjectIsReadAgainOnYes) {
   window_->CheckDisk();
   EXPECT_TRUE(prompts_.messages.empty());
