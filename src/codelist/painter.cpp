@@ -27,6 +27,11 @@ bool IsHidden(int32_t state) {
   return state >= kHiddenFrom && state < kBoundary;
 }
 
+bool HasWidth(char character) {
+  const auto code = static_cast<unsigned char>(character);
+  return code >= 32 && code != 127;
+}
+
 }  // namespace
 
 Twips ucListBox::RowTop(long row) const {
@@ -136,11 +141,11 @@ Twips ucListBox::PaintSegment(Twips x, Twips y, std::string_view text, bool meas
   using std::string_view;
   if (text.substr(1, kCaption.size()) == kCaption && text[0] == ' ') {
     const std::string heading = Space(40) + runtime::Trim(text.substr(3)) + Space(125);
-    return PrintEmphasized(x, y, heading, kHeading);
+    return PrintEmphasized(x, y, heading, kHeading, measured);
   }
   if (text.size() > 7 && text[1] == '<' && runtime::UCase(text.substr(1, 6)) == "<HREF=")
     if (size_t close = text.find('>'); close != string_view::npos)
-      return PrintEmphasized(x, y, text.substr(close + 1), kLink);
+      return PrintEmphasized(x, y, text.substr(close + 1), kLink, measured);
   if (size_t bold = text.find(kBold); bold != string_view::npos)
     return PaintSplit(x, y, text.substr(0, bold), text.substr(bold + 1), true, measured);
   if (size_t comment = CommentStart(listMode, text); comment != string_view::npos)
@@ -165,14 +170,24 @@ Twips ucListBox::PaintSplit(Twips x, Twips y, std::string_view front, std::strin
   return pen - x + Print(pen, y, behind, measured);
 }
 
-Twips ucListBox::PrintEmphasized(Twips x, Twips y, std::string_view text, Color colour) {
+Twips ucListBox::PrintEmphasized(Twips x, Twips y, std::string_view text, Color colour, bool measured) {
   pic.SetForeColor(colour);
   pic.SetFontBold(true);
   pic.SetFontUnderline(true);
-  pic.PrintAt(x, y, text);
+  if (const std::string_view seen = InFrontOfEdge(x, text); !seen.empty()) pic.PrintAt(x, y, seen);
   pic.SetFontBold(false);
   pic.SetFontUnderline(false);
-  return WidthOf(text);
+  return measured ? WidthOf(text) : 0;
+}
+
+// What of [text] can be seen from [x] on, at the most: a character with a width is not narrower than a pixel.
+std::string_view ucListBox::InFrontOfEdge(Twips x, std::string_view text) const {
+  if (x >= paneWidth) return {};
+  auto room = static_cast<long>((paneWidth - x) / forms::kTwipsPerPixel) + 1;
+  size_t end = 0;
+  for (; end < text.size() && room > 0; ++end)
+    if (HasWidth(text[end])) --room;
+  return text.substr(0, end);
 }
 
 // The mark of a block comment shows as a blank.
@@ -182,10 +197,8 @@ Twips ucListBox::Print(Twips x, Twips y, std::string_view text, bool measured) {
     std::replace(blank.begin(), blank.end(), kBlockComment, ' ');
     return Print(x, y, blank, measured);
   }
-  // No character is narrower than a pixel: what lies behind the right edge need not reach the surface.
-  const Twips room = std::max<Twips>(0, paneWidth - x);
-  const std::string_view seen = text.substr(0, static_cast<size_t>(room / forms::kTwipsPerPixel) + 1);
-  if (seen.find_first_not_of(' ') != std::string_view::npos && x < paneWidth) pic.PrintAt(x, y, seen);
+  const std::string_view seen = InFrontOfEdge(x, text);
+  if (seen.find_first_not_of(' ') != std::string_view::npos) pic.PrintAt(x, y, seen);
   return measured ? WidthOf(text) : 0;
 }
 

@@ -158,7 +158,8 @@ class ucListBox : public forms::UserControl {
   void PaintText(Twips x, Twips y, long index);
   Twips PaintSegment(Twips x, Twips y, std::string_view text, bool measured);
   Twips PaintSplit(Twips x, Twips y, std::string_view front, std::string_view behind, bool bold, bool measured);
-  Twips PrintEmphasized(Twips x, Twips y, std::string_view text, Color colour);
+  Twips PrintEmphasized(Twips x, Twips y, std::string_view text, Color colour, bool measured);
+  std::string_view InFrontOfEdge(Twips x, std::string_view text) const;
   Twips Print(Twips x, Twips y, std::string_view text, bool measured);
   void PaintGroupPicture(Twips x, Twips y, std::string_view text);
   forms::PictureRef PictureNamed(std::string_view name) const;

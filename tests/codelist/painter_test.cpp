@@ -88,6 +88,11 @@ TEST_F(Painter, DrawsOnlyTheCaptionOfAHotLink) {
   EXPECT_EQ(list.List(2), "<href=target>here");
 }
 
+TEST_F(Painter, TheRunBehindAHotLinkStandsBehindItsCaption) {
+  EXPECT_THAT(TextsOf("<href=target>here/+\\b"),
+              ElementsAre(HasSubstr("392 234 \"here\""), HasSubstr("784 234 \"b\"")));
+}
+
 TEST_F(Painter, TheFontIsPlainAgainBehindACaption) {
   list.sGrid("TEXT");
   list.SetText("::a\r\nb\r\n");
@@ -113,6 +118,18 @@ TEST_F(Painter, WhatLiesBehindTheRightEdgeIsNotDrawn) {
   const auto texts = TextsOnRow(2);
   ASSERT_EQ(texts.size(), 1u);
   EXPECT_LT(texts[0].size(), 500u);
+  for (const char* front : {"::", "<href=a>"}) {
+    const auto emphasized = TextsOf(front + std::string(1'000'000, 'y'));
+    ASSERT_EQ(emphasized.size(), 1u) << front;
+    EXPECT_LT(emphasized[0].size(), 500u) << front;
+    EXPECT_THAT(emphasized[0], HasSubstr("yyy")) << front;
+  }
+}
+
+TEST_F(Painter, CharactersWithoutWidthDoNotCountAtTheRightEdge) {
+  const std::string flat = std::string(500, '\t') + std::string(500, '\x7F');
+  EXPECT_THAT(TextsOf("a" + flat + "b"), ElementsAre(HasSubstr("b\" Arial")));
+  EXPECT_THAT(TextsOf("::a" + flat + "b"), ElementsAre(HasSubstr("b ")));
 }
 
 TEST_F(Painter, TheCurrentLineHasItsColourAndItsPicture) {
