@@ -213,7 +213,9 @@ void ucListBox::PaintGroupPicture(Twips x, Twips y, std::string_view text) {
 }
 
 forms::PictureRef ucListBox::PictureNamed(std::string_view name) const {
-  return name == "*" ? img2 : imgList.Item(static_cast<int>(runtime::Val(name)));
+  if (name == "*") return img2;
+  const double position = runtime::Val(name);  // of any size
+  return position >= 1 && position < imgList.Count() + 1 ? imgList.Item(static_cast<int>(position)) : nullptr;
 }
 
 // Bold unless it begins with character 3; behind that a tag in brackets is not shown, and gives a box when it ends in

@@ -195,6 +195,13 @@ TEST_F(Painter, APictureThatIsNotThereLeavesItsPlace) {
                       "9\x04"
                       "x"),
               ElementsAre("632 234 \" x\" Arial 9.75 #000000"));
+  services.files.Write("C:\\a.bmp", "BMxx");
+  list.AddIcon("C:\\a.bmp");
+  for (const char* name : {"0", "0.9", "2", "-1", "2147483649", "4294967297", "1E300", "-1E300"}) {
+    TextsOf("\x04" + std::string(name) + "\x04x");
+    Redraw();
+    EXPECT_THAT(Drawn("picture"), Not(Contains(HasSubstr("452 244")))) << name;
+  }
 }
 
 TEST_F(Painter, AnEmptyPictureNameIsText) {
