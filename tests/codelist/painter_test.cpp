@@ -155,6 +155,15 @@ TEST_F(Painter, SelectedLinesAreGreyAndTheCurrentOneDarker) {
   EXPECT_THAT(Drawn("fill"), Contains("fill 0 468 3745 234 #c0c0c0")) << "the bits survive";
 }
 
+TEST_F(Painter, WithoutFocusASelectedCurrentLineLooksLikeAnyCurrentLine) {
+  Load(3);
+  list.SelectAll();
+  Canvas().Forget();
+  window.other.SetFocus();
+  EXPECT_THAT(Drawn("fill"),
+              ElementsAre("fill 0 0 3745 234 #808080", kGutterOfRow1, "fill 0 0 3745 234 #d2ffe6", kGutterOfRow1));
+}
+
 TEST_F(Painter, NothingIsDrawnDuringALoad) {
   list.sGrid("TEXT");
   services.loop.on_do_events = [this] { EXPECT_THAT(DrawnTexts(), IsEmpty()); };
@@ -260,6 +269,13 @@ TEST_F(Painter, APlainTreeEntryHasNoBox) {
   Redraw();
   EXPECT_THAT(Drawn("frame"), IsEmpty());
   EXPECT_THAT(TextsOnRow(2), ElementsAre("392 234 \"" + runtime::Space(13) + "b\" Arial 9.75 #0000ff"));
+}
+
+TEST_F(Painter, APlainTreeEntryIsGreyBehindAnApostrophe) {
+  list.AddTreeItem("x", 33, false);
+  list.AddTreeItem("\x03q'b", 33, false);
+  Redraw();
+  EXPECT_THAT(TextsOnRow(2), ElementsAre("392 234 \" q\" Arial 9.75 #000000", "588 234 \"'b\" Arial 9.75 #c0c0c0"));
 }
 
 struct Tag {

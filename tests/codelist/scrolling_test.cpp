@@ -40,6 +40,13 @@ TEST_F(Scrolling, TheControlTakesTheHeightOfItsRows) {
   EXPECT_EQ(list.hs.Top(), 7 * 234);
 }
 
+TEST_F(Scrolling, HalfARowGoesToTheEvenCountOfRows) {
+  for (const auto& [height, rows] : {std::pair{1989, 8}, {2223, 10}}) {
+    list.Move(0, 0, 4000, height);
+    EXPECT_EQ(list.VisibleRows(), rows);
+  }
+}
+
 TEST_F(Scrolling, ALoadStartsAtTheFirstLine) {
   Load(30);
   EXPECT_EQ(Where(), (Place{1, 1, 1}));

@@ -307,6 +307,33 @@ TEST_F(TreeClick, OnTheLastOrAnOuterEntryOpensNothing) {
   EXPECT_THAT(Visible(), ElementsAre(1, 2, 6));
 }
 
+TEST_F(TreeClick, AnArrowKeyIsTheListsClick) {
+  Key(vbKeyDown);
+  EXPECT_EQ(list.ListIndex(), 2);
+  EXPECT_THAT(events, ElementsAre("Click"));
+}
+
+TEST_F(TreeClick, AClosingBranchLeavesTheCurrentRow) {
+  ClickOn(2, kInBox);
+  ClickOn(3, kInBox + 12 * 98);
+  ClickOn(2, kInBox);
+  EXPECT_EQ(list.TopLine(), 1);
+  EXPECT_EQ(list.CurrentRow(), 2);
+  EXPECT_EQ(list.ListIndex(), 2);
+}
+
+// What closes a branch is a click on the entry above it, which then is the current one and, scrolled there, the top.
+TEST_F(TreeClick, AClosingBranchAtTheTopLeavesTheTop) {
+  ClickOn(2, kInBox);
+  list.vs.UserScroll(2, false);
+  ASSERT_EQ(list.TopLine(), 2);
+  ClickOn(1, kInBox);
+  EXPECT_THAT(Visible(), ElementsAre(1, 2, 6));
+  EXPECT_EQ(list.TopLine(), 2);
+  EXPECT_EQ(list.CurrentRow(), 1);
+  EXPECT_EQ(list.ListIndex(), 2);
+}
+
 TEST_F(TreeClick, ScrolledToTheRightOpensNothing) {
   list.hs.SetValue(1);
   ClickOn(2, kInBox);
