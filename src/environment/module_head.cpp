@@ -68,6 +68,13 @@ std::string_view QuotedValue(std::string_view line) {
   return line.substr(open + 1, close == std::string_view::npos ? close : close - open - 1);
 }
 
+// What stands there for the name, with quotes or without; no view into the line where it has no place for one.
+std::string_view WrittenName(std::string_view line) {
+  if (line.find('"') != std::string_view::npos) return QuotedValue(line);
+  size_t equals = line.find('=');
+  return equals == std::string_view::npos ? std::string_view() : Trimmed(line.substr(equals + 1));
+}
+
 bool IsNameAttribute(std::string_view line) {
   return IsAttributeLine(line) && StartsWithWord(WithoutIndent(line.substr(9)), "vb_name");
 }
@@ -204,8 +211,8 @@ std::string HeadWithName(std::string_view head, const std::string& name) {
     std::string line(head.substr(lines.Start(), lines.End() - lines.Start()));
     std::string_view text = lines.Line();
     if (IsNameAttribute(text)) {
-      std::string_view old = QuotedValue(text);
-      line.replace(static_cast<size_t>(old.data() - text.data()), old.size(), name);
+      std::string_view old = WrittenName(text);
+      if (old.data() != nullptr) line.replace(static_cast<size_t>(old.data() - text.data()), old.size(), name);
     } else if (!root_done && text.substr(0, 6) == "Begin ") {
       root_done = true;
       std::string_view rest = Trimmed(text.substr(6)), old = Trimmed(rest.substr(FirstWord(rest).size()));

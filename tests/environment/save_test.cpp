@@ -162,6 +162,26 @@ TEST_F(Saving, ARenamedComponentKeepsItsFileAndItsOtherBytes) {
   EXPECT_NE(opened_.Disk("P.vbp").find("Class=Item; Thing.cls\r\n"), std::string::npos);
 }
 
+TEST(Renaming, ANameWithoutItsQuotesIsReplacedAsItStands) {
+  const struct {
+    const char *before, *after;
+  } kCases[] = {{"Attribute VB_Name = Main|", "Attribute VB_Name = Start|"},
+                {"Attribute VB_Name=Main  |", "Attribute VB_Name=Start  |"},
+                {"Attribute VB_Name = \"Main|", "Attribute VB_Name = \"Start|"},
+                {"Attribute VB_Name = \"\"|", "Attribute VB_Name = \"Start\"|"},
+                {"Attribute VB_Name =|", "Attribute VB_Name =Start|"},
+                {"Attribute VB_Name|", "Attribute VB_Name|"}};
+  for (const auto& each : kCases) {
+    Opened opened;
+    opened.PutProject("Module=Main; Main.bas|");
+    opened.Put("Main.bas", std::string(each.before) + "Sub A()|");
+    opened.environment->Open("C:\\P\\P.vbp");
+    opened.At()->SetName("Start");
+    EXPECT_EQ(opened.At()->WriteToText(), Text(std::string(each.after) + "Sub A()|"));
+    EXPECT_EQ(opened.Project()->WriteToText(), Text("Module=Start; Main.bas|"));
+  }
+}
+
 TEST_F(Saving, NewComponentsAreReadBackAsTheyWereMade) {
   for (auto type : {host::ComponentType::StdModule, host::ComponentType::ClassModule}) {
     auto added = Components()->Add(type);

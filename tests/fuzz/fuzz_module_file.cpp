@@ -27,6 +27,16 @@ void RequireCover(const ModuleText& text) {
   Require(lines == text.Count());
 }
 
+// A name that is read can be changed, and is read back.
+void RequireNewName(const std::string& bytes, const ModuleHead& head) {
+  std::string attributes = bytes.substr(head.designer_end, head.code_start - head.designer_end);
+  std::string renamed = HeadWithName(attributes, "Renamed");
+  Require(HeadWithName(renamed, "Renamed") == renamed);
+  if (head.name.empty()) return;
+  std::string anew = bytes.substr(0, head.designer_end) + renamed + bytes.substr(head.code_start);
+  Require(ReadModuleHead(anew).name == "Renamed");
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
@@ -37,6 +47,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   Require(text.Write() == bytes);
   Require(DesignerPart(bytes.substr(0, head.designer_end)).Write() == bytes.substr(0, head.designer_end));
   RequireCover(text);
+  RequireNewName(bytes, head);
 
   // An edit and its contrary: what remains is what was there, but for attributes that may have gone.
   if (text.Count() == 0) return 0;
