@@ -43,7 +43,7 @@ class Environment : public host::VBE, public std::enable_shared_from_this<Enviro
                                              Options options = {});
 
   // Opens a .vbp or a .vbg and makes its (startup) project active. What cannot be understood is left out and listed in
-  // Problems(); throws host::Error only when [path] itself cannot be read or is no project.
+  // Problems(); throws host::Error only when [path] itself cannot be read, is no project, or is open here already.
   virtual void Open(const std::string& path) = 0;
   // Adds a project from the text of its .vbp; modules are looked for in [sources] first. Its FileName is [path], or
   // empty.

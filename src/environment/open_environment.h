@@ -74,6 +74,7 @@ class OpenEnvironment : public Environment {
   void Report(Problem problem) { problems_.push_back(std::move(problem)); }
 
  private:
+  void OpenFile(const std::string& path);
   void OpenGroup(const std::string& path, const std::string& bytes);
   std::shared_ptr<OpenProject> OpenInGroup(const std::string& group, const GroupFile::ProjectLine& line);
   std::shared_ptr<OpenProject> AddProject(const std::string& path, const std::string& bytes,

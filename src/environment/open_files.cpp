@@ -1,4 +1,6 @@
 // OpenEnvironment: opening project files and groups from disk.
+#include <algorithm>
+
 #include "environment/group_file.h"
 #include "environment/lookup.h"
 #include "environment/open_environment.h"
@@ -25,6 +27,21 @@ std::string ReasonOf(const runtime::Error& error) {
 }
 
 void OpenEnvironment::Open(const std::string& path) {
+  int page_before = runtime::AnsiCodePage().Number();
+  try {
+    OpenFile(path);
+  } catch (const host::Error&) {
+    // Another environment may live on that page.
+    runtime::SetAnsiCodePage(page_before);
+    throw;
+  }
+}
+
+void OpenEnvironment::OpenFile(const std::string& path) {
+  auto is_open = [&](const auto& project) { return SamePath(project->FileName(), path); };
+  bool same_group = !projects_.empty() && SamePath(group_path_, path);
+  if (same_group || std::any_of(projects_.begin(), projects_.end(), is_open))
+    throw host::Error(runtime::kFileAlreadyExists, "it is open already");
   // What an earlier environment guessed for its projects says nothing about these.
   if (options_.code_page == 0 && projects_.empty()) runtime::SetAnsiCodePage(kUsualCodePage);
   std::string bytes = files_.Read(path);

@@ -79,6 +79,8 @@ void ProjectFile::CheckBytes(std::string_view bytes) {
     refusal_ = "an empty file is no project";
   else if (bytes.find('\0') != std::string_view::npos)
     refusal_ = "not a text: it holds NUL bytes";
+  else if (bytes.substr(0, 3) == "\xEF\xBB\xBF")
+    problems_.push_back({{}, 1, "a UTF-8 byte order mark: what this line says is not understood"});
 }
 
 void ProjectFile::CheckLines() {

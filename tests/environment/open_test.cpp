@@ -49,6 +49,45 @@ TEST(Opening, TheNameInTheFileCountsThenTheRootsThenTheProjectsThenTheFiles) {
                                       "C:\\P\\P.vbp:3: c.bas: no line in it says its name: called c"}));
 }
 
+TEST(Opening, AFailureLeavesTheCodePageToWhatIsOpen) {
+  runtime::SetAnsiCodePage(1251);
+  Opened opened;
+  opened.Put("bad.vbp", "no project");
+  for (const char* path : {"C:\\P\\none.vbp", "C:\\P\\bad.vbp"}) {
+    EXPECT_NE(ErrorOf([&] { opened.environment->Open(path); }), 0) << path;
+    EXPECT_EQ(runtime::AnsiCodePage().Number(), 1251) << path;
+  }
+  runtime::SetAnsiCodePage(1252);
+}
+
+TEST(Opening, WhatIsOpenAlreadyIsRefused) {
+  Opened opened;
+  opened.PutProject("Module=Main; Main.bas|");
+  opened.Put("Main.bas", kMain);
+  opened.environment->Open("C:\\P\\P.vbp");
+  EXPECT_EQ(ErrorOf([&] { opened.environment->Open("c:\\p\\p.VBP"); }), 58);
+  EXPECT_EQ(ReasonOfFailure([&] { opened.environment->Open("C:\\P\\P.vbp"); }), "it is open already");
+  EXPECT_EQ(opened.environment->Projects().size(), 1u);
+  Opened group;
+  group.PutProject("Type=Exe|");
+  group.Put("G.vbg", "VBGROUP 5.0|Project=P.vbp|");
+  group.environment->Open("C:\\P\\G.vbg");
+  for (const char* path : {"C:\\P\\G.vbg", "C:\\P\\P.vbp"})
+    EXPECT_EQ(ReasonOfFailure([&] { group.environment->Open(path); }), "it is open already") << path;
+  EXPECT_EQ(group.environment->Projects().size(), 1u);
+  EXPECT_EQ(group.Problems(), Lines{});
+}
+
+TEST(Opening, AByteOrderMarkInFrontOfAProjectIsReportedAndKept) {
+  Opened opened;
+  opened.PutProject("\xEF\xBB\xBFModule=Main; Main.bas|Name=\"Proj\"|");
+  opened.Put("Main.bas", kMain);
+  opened.environment->Open("C:\\P\\P.vbp");
+  EXPECT_EQ(opened.Problems(), Lines{"C:\\P\\P.vbp:1: a UTF-8 byte order mark: what this line says is not understood"});
+  EXPECT_EQ(opened.Project()->Name(), "Proj");
+  EXPECT_EQ(opened.Project()->WriteToText(), opened.Disk("P.vbp"));
+}
+
 TEST(Opening, TheRootTellsAnMdiForm) {
   Opened opened;
   opened.PutProject("Form=m.frm|");
