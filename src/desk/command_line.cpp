@@ -14,6 +14,7 @@
 #include "environment/disk_files.h"
 #include "environment/environment.h"
 #include "runtime/code_page.h"
+#include "runtime/error.h"
 
 namespace corvane::desk {
 
@@ -33,6 +34,10 @@ struct Command {
   }
 };
 
+void TellProblems(const Command& command, const environment::Environment& environment) {
+  for (const environment::Problem& problem : environment.Problems()) Tell(command.errors, problem);
+}
+
 // Opens the project and runs [work] on it. What was not understood is told, and is a problem of the input.
 template <class Work>
 int WithProject(const Command& command, const std::string& path, Work work) {
@@ -41,11 +46,14 @@ int WithProject(const Command& command, const std::string& path, Work work) {
   try {
     environment->Open(environment::WindowsPath(path));
     runtime::SetAnsiCodePage(environment->CodePage());
+    if (environment->Projects().empty())
+      throw host::Error(runtime::kInvalidFileFormat, "no project in the group could be opened");
     work(*environment);
   } catch (const host::Error& error) {
+    TellProblems(command, *environment);
     return command.Fail(path, error);
   }
-  for (const environment::Problem& problem : environment->Problems()) Tell(command.errors, problem);
+  TellProblems(command, *environment);
   return environment->Problems().empty() ? kDone : kInputProblem;
 }
 

@@ -198,6 +198,26 @@ TEST(CommandLine, AMissingModuleIsToldAndTheRestIsListed) {
   EXPECT_TRUE(result.errors.contains("gone.bas")) << result.errors.toStdString();
 }
 
+TEST(CommandLine, AGroupOfWhichNoProjectOpensSaysSo) {
+  QTemporaryDir folder;
+  const QString group = folder.filePath("g.vbg"), none = group + ": no project in the group could be opened";
+  const struct {
+    QByteArray bytes;
+    QStringList errors;
+  } kCases[] = {{"VBGROUP 5.0\r\n", {none}},
+                {"VBGROUP 5.0\r\nProject=gone.vbp\r\n", {group + ":2: gone.vbp: file not found", none}}};
+  for (const auto& each : kCases) {
+    QFile file(group);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(each.bytes);
+    file.close();
+    const Result result = RunProgram({"list", group});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.ErrorLines(), each.errors) << result.errors.toStdString();
+    EXPECT_TRUE(result.out.isEmpty());
+  }
+}
+
 TEST(CommandLine, AWordThatIsNotOfferedIsRefusedWithThoseThatAre) {
   const QString project = Sample("stockroom/Stockroom.vbp");
   for (const QString& word : {QString("odd"), QString("2"), QString("Subs")}) {
