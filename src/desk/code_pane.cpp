@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "desk/ansi_text.h"
+#include "desk/user_act.h"
 #include "desk/vb_highlighter.h"
 #include "runtime/code_page.h"
 #include "runtime/strings.h"
@@ -66,21 +67,21 @@ CodePane::CodePane(std::shared_ptr<environment::Module> module, QWidget* parent)
 
   new VbHighlighter(editor_->document());
   Load();
-  connect(editor_->document(), &QTextDocument::contentsChange, this,
-          [this](int at, int, int added) { TakeEdit(at, added); });
-  connect(editor_, &QPlainTextEdit::cursorPositionChanged, this, &CodePane::TakeSelection);
-  connect(editor_, &QPlainTextEdit::selectionChanged, this, &CodePane::TakeSelection);
+  ConnectAct(editor_->document(), &QTextDocument::contentsChange, this,
+             [this](int at, int, int added) { TakeEdit(at, added); });
+  ConnectAct(editor_, &QPlainTextEdit::cursorPositionChanged, this, &CodePane::TakeSelection);
+  ConnectAct(editor_, &QPlainTextEdit::selectionChanged, this, &CodePane::TakeSelection);
   connect(editor_, &CodeEditor::Focused, this, &CodePane::Activated);
   connect(editor_, &CodeEditor::Refused, this, [this](const QString& text) {
     emit Told(tr("Not entered: \"%1\" has a character that code page %2 does not hold.")
                   .arg(text.left(40))
                   .arg(runtime::AnsiCodePage().Number()));
   });
-  connect(objects_, &QComboBox::activated, this, [this] { FillProcedures(); });
-  connect(procedures_, &QComboBox::activated, this, [this](int) { GoTo(procedures_->currentData().toInt()); });
+  ConnectAct(objects_, &QComboBox::activated, this, &CodePane::FillProcedures);
+  ConnectAct(procedures_, &QComboBox::activated, this, [this](int) { GoTo(procedures_->currentData().toInt()); });
   list_timer_.setSingleShot(true);
   list_timer_.setInterval(kListDelay);
-  connect(&list_timer_, &QTimer::timeout, this, &CodePane::RefreshLists);
+  ConnectAct(&list_timer_, &QTimer::timeout, this, &CodePane::RefreshLists);
   RefreshLists();
 }
 
@@ -97,7 +98,7 @@ void CodePane::Load() {
 }
 
 void CodePane::LoadAgainLater() {
-  QTimer::singleShot(0, this, [this] {
+  ActLater(this, [this] {
     const int line = editor_->textCursor().blockNumber() + 1;
     Load();
     GoTo(line);
@@ -133,13 +134,14 @@ void CodePane::ReplaceInModule(long first, long removed, const std::vector<std::
   if (begin == end && removed == 0) return;
 
   const QScopedValueRollback<bool> leading(leading_, true);
-  const bool taken = host::PassOverErrors([&] {
-    if (begin == end)
-      code_->DeleteLines(first, removed);
-    else
-      module_->ReplaceLines(first, removed, Joined({lines.begin() + begin, lines.begin() + end}));
-  });
-  if (!taken) emit Told(tr("The module did not take this change."));
+  const bool taken = UserAct(
+      [&] {
+        if (begin == end)
+          code_->DeleteLines(first, removed);
+        else
+          module_->ReplaceLines(first, removed, Joined({lines.begin() + begin, lines.begin() + end}));
+      },
+      [&](const QString& why) { emit Told(tr("The module did not take this change: %1").arg(why)); });
   if (!taken || std::max(1L, code_->CountOfLines()) != blocks_) LoadAgainLater();
   TakeSelection();
   list_timer_.start();

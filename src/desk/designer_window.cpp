@@ -11,6 +11,7 @@
 #include "desk/ansi_text.h"
 #include "desk/control_painter.h"
 #include "desk/control_values.h"
+#include "desk/user_act.h"
 #include "forms/types.h"
 
 namespace corvane::desk {
@@ -234,6 +235,12 @@ void DesignerCanvas::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 bool DesignerCanvas::event(QEvent* event) {
+  bool taken = true;
+  UserAct([&] { taken = TakeEvent(event); }, [&](const QString& why) { emit Told(why); });
+  return taken;
+}
+
+bool DesignerCanvas::TakeEvent(QEvent* event) {
   // Tab is a key of the designer, not of the windows around it.
   if (event->type() == QEvent::KeyPress) {
     auto* key = static_cast<QKeyEvent*>(event);
@@ -324,7 +331,7 @@ void DesignerCanvas::FillMenu(QMenu& shown, int menu) {
       QAction* action = shown.addAction(ToLabel(item.caption));
       action->setCheckable(values.Flag("Checked"));
       action->setChecked(values.Flag("Checked"));
-      connect(action, &QAction::triggered, this, [this, at] {
+      ConnectAct(action, &QAction::triggered, this, [this, at] {
         Select({at});
         emit CodeWanted(ToLabel(layout_.controls[at].name));
       });

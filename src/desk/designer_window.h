@@ -42,6 +42,7 @@ class DesignerCanvas : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  bool TakeEvent(QEvent* event);
   QPointF Origin() const;  // of the client area
   QRectF TitleBar() const;
   QRectF MenuBar() const;

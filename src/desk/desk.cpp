@@ -2,10 +2,10 @@
 
 #include <QCoreApplication>
 #include <QFileDialog>
-#include <QStatusBar>
 
 #include "desk/ansi_text.h"
 #include "desk/shown_path.h"
+#include "desk/user_act.h"
 #include "environment/command_bar_model.h"
 #include "environment/disk_files.h"
 #include "runtime/code_page.h"
@@ -25,9 +25,7 @@ QString AskForProject(QWidget* parent, const QString& title) {
 }  // namespace
 
 Desk::Desk(host::Services services, DeskOptions options) : services_(services), options_(options) {
-  toolkit_.OnFault = [this](const std::string& what) {
-    if (window_) window_->statusBar()->showMessage(ToLabel(what));
-  };
+  toolkit_.OnFault = [this](const std::string& what) { Told(ToLabel(what)); };
   Begin(NewEnvironment());
   if (connect_) connect_->AddinInstance_OnStartupComplete();
 }
@@ -45,12 +43,12 @@ void Desk::Begin(std::shared_ptr<environment::Environment> environment) {
   if (environment_->CodePage()) runtime::SetAnsiCodePage(environment_->CodePage());
   window_ = std::make_unique<MainWindow>(environment_, services_.Prompts);
   toolkit_.SetParentWindow(window_.get());
-  connect(window_.get(), &MainWindow::OpenWanted, this, &Desk::Open, Qt::QueuedConnection);
-  connect(window_.get(), &MainWindow::AddProjectWanted, this, [this] { AddProject({}); });
-  connect(
+  ConnectAct(window_.get(), &MainWindow::OpenWanted, this, &Desk::Open, Qt::QueuedConnection);
+  ConnectAct(window_.get(), &MainWindow::AddProjectWanted, this, [this] { AddProject({}); });
+  ConnectAct(
       window_.get(), &MainWindow::ReadAgainWanted, this, [this] { Replace(path_); }, Qt::QueuedConnection);
-  connect(window_.get(), &MainWindow::AddInManagerWanted, this, &Desk::ManageAddIns);
-  connect(window_.get(), &MainWindow::Left, this, [this] { Disconnect(addin::DisconnectMode::HostShutdown); });
+  ConnectAct(window_.get(), &MainWindow::AddInManagerWanted, this, &Desk::ManageAddIns);
+  ConnectAct(window_.get(), &MainWindow::Left, this, [this] { Disconnect(addin::DisconnectMode::HostShutdown); });
   if (options_.show_window) window_->show();
   if (options_.connect_mode >= 0)
     Connect(static_cast<addin::ConnectMode>(options_.connect_mode));
@@ -63,6 +61,10 @@ void Desk::End() {
   toolkit_.SetParentWindow(nullptr);
   window_.reset();
   environment_.reset();
+}
+
+void Desk::Told(const QString& message) {
+  if (window_) window_->Told(message);
 }
 
 bool Desk::TryOpen(environment::Environment& environment, const QString& path) {

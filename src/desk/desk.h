@@ -54,6 +54,8 @@ class Desk : public QObject {
   bool ClickButton();
   // The explorer's window; null before it was opened.
   QWidget* ExplorerWindow() const;
+  // For the status bar.
+  void Told(const QString& message);
 
  private:
   void Begin(std::shared_ptr<environment::Environment> environment);

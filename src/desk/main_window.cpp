@@ -20,6 +20,7 @@
 #include "desk/project_tree.h"
 #include "desk/property_list.h"
 #include "desk/shown_path.h"
+#include "desk/user_act.h"
 #include "runtime/code_page.h"
 
 namespace corvane::desk {
@@ -83,7 +84,7 @@ MainWindow::MainWindow(std::shared_ptr<environment::Environment> environment, ho
   resizeDocks({project_dock_, property_dock_}, {kSideWidth, kSideWidth}, Qt::Horizontal);
   resizeDocks({project_dock_, property_dock_}, {kTreeHeight, kListHeight}, Qt::Vertical);
   resizeDocks({immediate_dock_, problem_dock_}, {kBottomHeight, kBottomHeight}, Qt::Vertical);
-  connect(area_, &QMdiArea::subWindowActivated, this, [this] {
+  ConnectAct(area_, &QMdiArea::subWindowActivated, this, [this] {
     UpdateCommands();
     ShowStatus();
     ShowProperties();
@@ -120,14 +121,15 @@ void MainWindow::BuildDocks() {
   tabifyDockWidget(immediate_dock_, problem_dock_);
   immediate_dock_->raise();
 
-  connect(tree_, &ProjectTree::CodeWanted, this, [this](const auto& module) { OpenCode(module); });
-  connect(tree_, &ProjectTree::DesignerWanted, this, [this](const auto& module) { OpenDesigner(module); });
-  connect(tree_, &ProjectTree::SaveWanted, this, [this](const auto& module) { SaveModule(module); });
-  connect(tree_, &ProjectTree::Selected, this, [this](const auto& module) {
+  ConnectAct(tree_, &ProjectTree::CodeWanted, this, [this](const auto& module) { OpenCode(module); });
+  ConnectAct(tree_, &ProjectTree::DesignerWanted, this, [this](const auto& module) { OpenDesigner(module); });
+  ConnectAct(tree_, &ProjectTree::SaveWanted, this, [this](const auto& module) { SaveModule(module); });
+  ConnectAct(tree_, &ProjectTree::Selected, this, [this](const auto& module) {
     environment_->SelectComponent(module);
     ShowProperties();
   });
-  connect(properties_, &PropertyList::Told, this, [this](const QString& text) { statusBar()->showMessage(text); });
+  connect(tree_, &ProjectTree::Told, this, &MainWindow::Told);
+  connect(properties_, &PropertyList::Told, this, &MainWindow::Told);
 }
 
 QDockWidget* MainWindow::AddDock(const QString& title, const char* name, QWidget* inside, Qt::DockWidgetArea area) {
@@ -174,6 +176,10 @@ void MainWindow::ShowTitle() {
   setWindowModified(environment_->IsDirty());
 }
 
+void MainWindow::Told(const QString& message) {
+  statusBar()->showMessage(message);
+}
+
 // Where the cursor stands, or what the selected control measures.
 void MainWindow::ShowStatus() {
   QWidget* inside = area_->activeSubWindow() ? area_->activeSubWindow()->widget() : nullptr;
@@ -212,15 +218,17 @@ void MainWindow::ShowProperties() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-  if (!MayLeave()) return event->ignore();
+  event->ignore();
+  if (!MayLeave()) return;
   event->accept();
   emit Left();
 }
 
 bool MainWindow::event(QEvent* event) {
-  if (event->type() == QEvent::WindowActivate)
-    QMetaObject::invokeMethod(this, &MainWindow::CheckDisk, Qt::QueuedConnection);
-  return QMainWindow::event(event);
+  if (event->type() == QEvent::WindowActivate) ActLater(this, &MainWindow::CheckDisk);
+  bool taken = true;
+  UserAct([&] { taken = QMainWindow::event(event); }, [this](const QString& why) { Told(why); });
+  return taken;
 }
 
 }  // namespace corvane::desk

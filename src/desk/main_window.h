@@ -50,6 +50,8 @@ class MainWindow : public QMainWindow, public environment::Observer {
   PropertyList& Properties() { return *properties_; }
   QTreeWidget& ProblemList() { return *problems_; }
 
+  // For the status bar.
+  void Told(const QString& message);
   // The project was opened: fills everything, and shows the problems when there are any.
   void ShowProject();
   // Each asks what must be asked. False when something was not saved.
@@ -107,9 +109,8 @@ class MainWindow : public QMainWindow, public environment::Observer {
   // Asks about a file that somebody else changed.
   bool MayReplace(const std::string& file);
   bool SaveProjectFile(environment::Project& project);
-  bool NotSaved(const std::string& file, const host::Error& error);  // tells it; false
+  bool NotSaved(const std::string& file, const std::exception& error);  // tells it; false
   std::vector<std::string> UnsavedFiles() const;
-  std::string Reason(const host::Error& error) const;
 
   void OpenProject();
   void SaveActive();

@@ -20,6 +20,7 @@
 #include "desk/main_window.h"
 #include "desk/picture_image.h"
 #include "desk/project_tree.h"
+#include "desk/user_act.h"
 #include "host/command_bars.h"
 
 namespace corvane::desk {
@@ -95,7 +96,7 @@ void MainWindow::BuildCommands() {
     }
     QAction* action = menu->addAction(NamedIcon(row.icon), tr(row.text));
     action->setShortcut(QKeySequence(row.keys));
-    connect(action, &QAction::triggered, this, row.run);
+    ConnectAct(action, &QAction::triggered, this, row.run);
     commands_.insert(row.name, action);
   }
   connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this,
@@ -155,14 +156,14 @@ QAction* MainWindow::NewControlAction(const environment::BarControl& control, QO
   action->setEnabled(control.enabled);
   action->setCheckable(control.state != 0);
   action->setChecked(control.state != 0);
-  connect(action, &QAction::triggered, this, [this, id = control.id] { environment_->Bars().Click(id); });
+  ConnectAct(action, &QAction::triggered, this, [this, id = control.id] { environment_->Bars().Click(id); });
   controls_.insert(control.id, action);
   return action;
 }
 
 // A click may change the bars while the clicked action is still at work.
 void MainWindow::CommandBarsChanged() {
-  QMetaObject::invokeMethod(this, &MainWindow::FillBars, Qt::QueuedConnection);
+  ActLater(this, &MainWindow::FillBars);
 }
 
 void MainWindow::UpdateCommands() {
@@ -210,7 +211,7 @@ void MainWindow::SelectAll() {
 void MainWindow::Find() {
   if (!find_) {
     find_ = new FindDialog(this);
-    connect(find_, &FindDialog::FindWanted, this, &MainWindow::FindNext);
+    ConnectAct(find_, &FindDialog::FindWanted, this, &MainWindow::FindNext);
   }
   const auto* pane = qobject_cast<CodePane*>(area_->activeSubWindow() ? area_->activeSubWindow()->widget() : nullptr);
   find_->Ask(pane ? const_cast<CodePane*>(pane)->Editor().textCursor().selectedText() : QString());

@@ -106,7 +106,7 @@ bool MainWindow::SaveModule(const std::shared_ptr<Module>& module) {
     module->ProjectOf()->Save(*module, foreign.empty() ? OnDiskChange::Refuse : OnDiskChange::Overwrite);
     statusBar()->showMessage(tr("%1 is saved.").arg(ShownPath(module->Path())));
     return true;
-  } catch (const host::Error& error) {
+  } catch (const std::exception& error) {
     return NotSaved(module->Path(), error);
   }
 }
@@ -119,13 +119,13 @@ bool MainWindow::SaveProjectFile(Project& project) {
     if (foreign && !MayReplace(project.FileName())) return false;
     project.SaveProjectFile(foreign ? OnDiskChange::Overwrite : OnDiskChange::Refuse);
     return true;
-  } catch (const host::Error& error) {
+  } catch (const std::exception& error) {
     return NotSaved(project.FileName(), error);
   }
 }
 
-bool MainWindow::NotSaved(const std::string& file, const host::Error& error) {
-  prompts_.MsgBox(Shown(file) + kCrLf + "was not saved: " + error.Description(), host::vbExclamation);
+bool MainWindow::NotSaved(const std::string& file, const std::exception& error) {
+  prompts_.MsgBox(Shown(file) + kCrLf + "was not saved: " + error.what(), host::vbExclamation);
   return false;
 }
 

@@ -3,7 +3,6 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPlainTextEdit>
-#include <QStatusBar>
 
 #include "desk/ansi_text.h"
 #include "desk/code_pane.h"
@@ -12,6 +11,7 @@
 #include "desk/main_window.h"
 #include "desk/project_tree.h"
 #include "desk/property_list.h"
+#include "desk/user_act.h"
 
 namespace corvane::desk {
 
@@ -75,18 +75,18 @@ CodePane* MainWindow::OpenCode(const std::shared_ptr<Module>& module) {
   } else {
     pane = new CodePane(module);
     panes_.insert(module.get(), pane);
-    connect(pane, &CodePane::Told, this, [this](const QString& text) { statusBar()->showMessage(text); });
-    connect(pane, &CodePane::Moved, this, &MainWindow::ShowStatus);
-    connect(pane, &CodePane::Activated, this, [this, module] {
+    connect(pane, &CodePane::Told, this, &MainWindow::Told);
+    ConnectAct(pane, &CodePane::Moved, this, &MainWindow::ShowStatus);
+    ConnectAct(pane, &CodePane::Activated, this, [this, module] {
       module->UserActivatePane();
       ShowSelectedComponent(module);
     });
-    connect(pane, &CodePane::Closed, this, [this, module] {
+    ConnectAct(pane, &CodePane::Closed, this, [this, module] {
       panes_.remove(module.get());
       module->UserClosePane();
     });
     for (const auto& available : {&QPlainTextEdit::undoAvailable, &QPlainTextEdit::redoAvailable})
-      connect(&pane->Editor(), available, this, &MainWindow::UpdateCommands);
+      ConnectAct(&pane->Editor(), available, this, &MainWindow::UpdateCommands);
     Show(*pane, ToLabel(module->Name()) + tr(" (Code)"), IconNameOf(module->Type()));
     pane->SelectionSet();
   }
@@ -104,18 +104,18 @@ DesignerWindow* MainWindow::OpenDesigner(const std::shared_ptr<Module>& module) 
   } else {
     designer = new DesignerWindow(module);
     designers_.insert(module.get(), designer);
-    connect(designer, &DesignerWindow::Activated, this, [this, module] { ShowSelectedComponent(module); });
-    connect(designer, &DesignerWindow::Closed, this, [this, module] {
+    ConnectAct(designer, &DesignerWindow::Activated, this, [this, module] { ShowSelectedComponent(module); });
+    ConnectAct(designer, &DesignerWindow::Closed, this, [this, module] {
       designers_.remove(module.get());
       module->UserOpenDesigner(false);
     });
     DesignerCanvas& canvas = designer->Canvas();
-    connect(&canvas, &DesignerCanvas::Told, this, [this](const QString& text) { statusBar()->showMessage(text); });
-    connect(&canvas, &DesignerCanvas::SelectionChanged, this, [this] {
+    connect(&canvas, &DesignerCanvas::Told, this, &MainWindow::Told);
+    ConnectAct(&canvas, &DesignerCanvas::SelectionChanged, this, [this] {
       ShowProperties();
       ShowStatus();
     });
-    connect(&canvas, &DesignerCanvas::CodeWanted, this, [this, module](const QString& object) {
+    ConnectAct(&canvas, &DesignerCanvas::CodeWanted, this, [this, module](const QString& object) {
       if (CodePane* pane = OpenCode(module)) pane->GoToObject(FromLabel(object));
     });
     Show(*designer, ToLabel(module->Name()), IconNameOf(module->Type()));

@@ -6,6 +6,7 @@
 #include "desk/ansi_text.h"
 #include "desk/icons.h"
 #include "desk/shown_path.h"
+#include "desk/user_act.h"
 
 namespace corvane::desk {
 
@@ -89,10 +90,10 @@ ProjectTree::ProjectTree(environment::Environment& environment, QWidget* parent)
   setUniformRowHeights(true);
   setIndentation(16);
   setContextMenuPolicy(Qt::CustomContextMenu);
-  connect(this, &QTreeWidget::itemActivated, this, &ProjectTree::OpenItem);
-  connect(this, &QTreeWidget::currentItemChanged, this,
-          [this](QTreeWidgetItem* item) { emit Selected(ModuleOf(item)); });
-  connect(this, &QWidget::customContextMenuRequested, this, &ProjectTree::OpenMenu);
+  ConnectAct(this, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* item, int) { OpenItem(item); });
+  ConnectAct(this, &QTreeWidget::currentItemChanged, this,
+             [this](QTreeWidgetItem* item, QTreeWidgetItem*) { emit Selected(ModuleOf(item)); });
+  ConnectAct(this, &QWidget::customContextMenuRequested, this, &ProjectTree::OpenMenu);
   FillAgain();
 }
 
@@ -196,7 +197,7 @@ void ProjectTree::OpenMenu(const QPoint& at) {
     menu.addSeparator();
     menu.addAction(tr("&Save %1").arg(ToLabel(module->Name())), this, [this, module] { emit SaveWanted(module); });
   } else if (const auto project = ProjectOf(item)) {
-    menu.addAction(tr("&Work on This Project"), this, [this, project] {
+    ConnectAct(menu.addAction(tr("&Work on This Project")), &QAction::triggered, this, [this, project] {
       environment_.ActivateProject(project);
       ShowState();
     });

@@ -26,6 +26,7 @@ class ProjectTree : public QTreeWidget {
   void DesignerWanted(std::shared_ptr<environment::Module> module);
   void SaveWanted(std::shared_ptr<environment::Module> module);
   void Selected(std::shared_ptr<environment::Module> module);  // Nothing: a folder or a project
+  void Told(const QString& message);
 
  private:
   void AddProject(const std::shared_ptr<environment::Project>& project, QTreeWidgetItem* parent);

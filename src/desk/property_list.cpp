@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "desk/ansi_text.h"
+#include "desk/user_act.h"
 #include "runtime/strings.h"
 
 namespace corvane::desk {
@@ -69,7 +70,7 @@ PropertyList::PropertyList(QWidget* parent)
   layout->setSpacing(0);
   layout->addWidget(title_);
   layout->addWidget(table_, 1);
-  connect(table_, &QTableWidget::itemChanged, this, &PropertyList::TakeEdit);
+  ConnectAct(table_, &QTableWidget::itemChanged, this, &PropertyList::TakeEdit);
 }
 
 void PropertyList::Show(const QString& title, host::Ref<host::Properties> properties) {
@@ -108,12 +109,12 @@ void PropertyList::Fill() {
 void PropertyList::TakeEdit(QTableWidgetItem* item) {
   if (filling_ || item->column() != 1 || !properties_) return;
   const std::string name = FromLabel(table_->item(item->row(), 0)->text());
-  try {
-    const auto property = properties_->Item(name);
-    property->SetValue(Typed(name, item->text(), property->Value()));
-  } catch (const host::Error& error) {
-    emit Told(tr("%1 was not set: %2").arg(ToLabel(name), ToLabel(error.Description())));
-  }
+  UserAct(
+      [&] {
+        const auto property = properties_->Item(name);
+        property->SetValue(Typed(name, item->text(), property->Value()));
+      },
+      [&](const QString& why) { emit Told(tr("%1 was not set: %2").arg(ToLabel(name), why)); });
   Fill();
 }
 
