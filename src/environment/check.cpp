@@ -26,7 +26,7 @@ class Checker {
     if (const std::string& group = environment_.GroupPath(); !group.empty())
       Check(group, [&] { return GroupFile(files_.Read(group)).Write(); });
     for (const auto& project : environment_.OpenProjects()) {
-      if (!project->FileName().empty()) Check(project->FileName(), [&] { return project->WriteToText(); });
+      if (!project->PathAsRead().empty()) Check(project->PathAsRead(), [&] { return project->WriteToText(); });
       for (const auto& module : project->OpenModules())
         if (HasCode(module->Type()) && !module->Path().empty()) CheckModule(*module);
     }

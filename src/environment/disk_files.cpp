@@ -98,7 +98,7 @@ class NameFinder {
     return Find(folder, split.names.back());
   }
 
-  // The path of [name] in [folder] (ending in "/" or empty); the exact name where there is none yet.
+  // The path of [name] in [folder] (ending in "/" or empty); where there is none yet, the name in UTF-8.
   std::string Find(const std::string& folder, const std::string& name) {
     std::string exact = folder + name;
     if (Exists(exact)) return exact;
@@ -108,7 +108,7 @@ class NameFinder {
     if (!known.empty() && Exists(known)) return known;
     for (const std::string& other : NamesIn(folder))
       if (SameWithoutCase(other, name) || SameWithoutCase(NameFromDisk(other), name)) return known = folder + other;
-    return utf8;
+    return IsNameOfUtf8(name) ? exact : utf8;
   }
 
  private:

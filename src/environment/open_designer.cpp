@@ -131,7 +131,7 @@ bool OpenModule::IsForeignSibling(const std::string& path) const {
 }
 
 std::string OpenModule::NewSiblingName() {
-  return (path_.empty() ? name_ : StemOf(path_)) + std::string(kind_->sibling);
+  return (path_.empty() ? name_ : InCodePage(StemOf(path_))) + std::string(kind_->sibling);
 }
 
 // A light look at the head: `"Form1.frx":0000`. Each name once.
@@ -194,7 +194,7 @@ void OpenModule::RequireUnchangedSiblings() const {
 // name stays as it is named.
 std::string OpenModule::SiblingNameAt(const std::string& path) const {
   std::string old_name = SiblingName();
-  return old_name.empty() || SamePath(path, path_) ? old_name : StemOf(path) + std::string(kind_->sibling);
+  return old_name.empty() || SamePath(path, path_) ? old_name : InCodePage(StemOf(path)) + std::string(kind_->sibling);
 }
 
 void OpenModule::RequireOwnSibling(const std::string& path) const {

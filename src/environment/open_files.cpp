@@ -38,7 +38,7 @@ void OpenEnvironment::Open(const std::string& path) {
 }
 
 void OpenEnvironment::OpenFile(const std::string& path) {
-  auto is_open = [&](const auto& project) { return SamePath(project->FileName(), path); };
+  auto is_open = [&](const auto& project) { return SamePath(project->PathAsRead(), path); };
   bool same_group = !projects_.empty() && SamePath(group_path_, path);
   if (same_group || std::any_of(projects_.begin(), projects_.end(), is_open))
     throw host::Error(runtime::kFileAlreadyExists, "it is open already");
@@ -73,7 +73,7 @@ std::shared_ptr<OpenProject> OpenEnvironment::OpenInGroup(const std::string& gro
   std::string path = JoinPath(FolderOf(group), line.path);
   if (SamePath(path, group)) return refuse("the group names itself");
   for (const auto& project : projects_)
-    if (SamePath(project->FileName(), path)) return refuse("named twice in the group");
+    if (SamePath(project->PathAsRead(), path)) return refuse("named twice in the group");
   try {
     std::string bytes = files_.Read(path);
     if (GroupFile::IsGroup(bytes)) return refuse("a group inside a group");

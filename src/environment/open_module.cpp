@@ -115,7 +115,7 @@ long OpenModule::FileCount() {
 
 std::string OpenModule::FileNames(long index) {
   if (index < 1 || index > FileCount()) throw host::Error(runtime::kSubscriptOutOfRange);
-  return index == 1 || SiblingName().empty() ? Path() : JoinPath(FolderOf(path_), SiblingName());
+  return InCodePage(index == 1 || SiblingName().empty() ? Path() : JoinPath(FolderOf(path_), SiblingName()));
 }
 
 void OpenModule::SaveAs(const std::string& path) {

@@ -35,7 +35,12 @@ OpenEnvironment& OpenProject::Environment() const {
 // As VB names a project whose file gives no name: after the file.
 std::string OpenProject::Name() {
   std::string name = file_.Value("Name");
-  return name.empty() ? StemOf(path_) : name;
+  return name.empty() ? StemOf(FileName()) : name;
+}
+
+// Who asks shows it as text of the code page.
+std::string OpenProject::FileName() {
+  return InCodePage(path_);
 }
 
 std::vector<std::shared_ptr<Module>> OpenProject::Modules() const {

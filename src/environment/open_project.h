@@ -25,7 +25,7 @@ class OpenProject : public Project, public std::enable_shared_from_this<OpenProj
 
   // host::VBProject
   std::string Name() override;
-  std::string FileName() override { return path_; }
+  std::string FileName() override;
   host::Ref<host::VBComponents> VBComponents() override;
 
   // Project
@@ -36,6 +36,7 @@ class OpenProject : public Project, public std::enable_shared_from_this<OpenProj
   bool ChangedOnDisk() const override;
   void SaveProjectFile(OnDiskChange rule) override;
 
+  const std::string& PathAsRead() const { return path_; }  // names of this machine in UTF-8
   // A file in the folder of [path]: from the texts that the project was opened with, else from disk.
   std::string ReadBeside(const std::string& path, const std::string& name) const;
   std::shared_ptr<OpenEnvironment> EnvironmentOf() const { return environment_.lock(); }
@@ -84,7 +85,7 @@ class OpenProject : public Project, public std::enable_shared_from_this<OpenProj
   host::FileStamp stamp_;
   bool dirty_ = false;
   std::vector<std::shared_ptr<OpenModule>> modules_;
-  std::unordered_set<std::string> paths_in_use_;               // upper-cased, while modules are read
+  std::unordered_set<std::string> paths_in_use_;               // in the code page, upper-cased, while modules are read
   std::unordered_map<std::string, std::string> names_in_use_;  // upper-cased names and their files, likewise
   std::vector<SourceFile> loose_texts_;                        // those that no line names: binary files of designers
 };

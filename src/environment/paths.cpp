@@ -42,6 +42,23 @@ size_t EndOfUtf8(std::string_view text, size_t at) {
   return end;
 }
 
+// A name of UTF-8 in the code page, where it comes back as it was and nobody takes it for UTF-8 again.
+std::string NameInCodePage(std::string_view name) {
+  const runtime::CodePage& page = runtime::AnsiCodePage();
+  std::string bytes;
+  bool is_held = IsNameOfUtf8(name) && page.FromUtf8(name, bytes) && page.ToUtf8(bytes) == name;
+  return is_held && !IsNameOfUtf8(bytes) ? bytes : std::string(name);
+}
+
+// Whether the ends of two paths tell them apart, without a look at characters beyond ASCII.
+bool EndsDiffer(std::string_view a, std::string_view b) {
+  for (; !a.empty() && !b.empty(); a.remove_suffix(1), b.remove_suffix(1)) {
+    if (static_cast<unsigned char>(a.back()) >= 0x80 || static_cast<unsigned char>(b.back()) >= 0x80) return false;
+    if (!SameName(a.substr(a.size() - 1), b.substr(b.size() - 1))) return true;
+  }
+  return a.empty() != b.empty();
+}
+
 // The last "\" or "/"; npos where there is none.
 size_t LastSlash(std::string_view path) {
   size_t last = std::string_view::npos;
@@ -93,6 +110,29 @@ std::string Joined(std::string root, const std::vector<std::string>& names) {
 size_t BehindCharacter(std::string_view path, size_t at) {
   if (size_t end = EndOfUtf8(path, at); end > at) return end;
   return at + (runtime::AnsiCodePage().IsLead(ByteAt(path, at)) ? 2 : 1);
+}
+
+bool IsNameOfUtf8(std::string_view name) {
+  size_t longest = 1;
+  for (size_t at = 0, length; at < name.size(); at += length) {
+    length = ByteAt(name, at) < 0x80 ? 1 : Utf8Length(name, at);
+    if (length == 0) return false;
+    longest = std::max(longest, length);
+  }
+  return longest > (runtime::AnsiCodePage().IsDoubleByte() ? 2u : 1u);
+}
+
+std::string InCodePage(std::string_view path) {
+  std::string result;
+  for (size_t at = 0; at < path.size();) {
+    size_t end = at;
+    while (end < path.size() && path[end] != '\\' && path[end] != '/') end = BehindCharacter(path, end);
+    end = std::min(end, path.size());
+    result += NameInCodePage(path.substr(at, end - at));
+    if (end < path.size()) result += path[end];
+    at = end + 1;
+  }
+  return result;
 }
 
 std::string FolderOf(std::string_view path) {
@@ -153,7 +193,7 @@ std::string RelativePath(std::string_view folder, std::string_view path) {
 }
 
 bool SamePath(std::string_view a, std::string_view b) {
-  return SameName(a, b);
+  return SameName(a, b) || (!EndsDiffer(a, b) && SameName(InCodePage(a), InCodePage(b)));
 }
 
 }  // namespace corvane::environment

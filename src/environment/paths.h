@@ -12,6 +12,12 @@ namespace corvane::environment {
 // that are UTF-8 up to the next ASCII character are taken for that, and stepped over at once.
 size_t BehindCharacter(std::string_view path, size_t at);
 
+// Whether [name] is taken for a name of this machine: it holds UTF-8 beyond ASCII, and in a double-byte code page a
+// character of three bytes at least; two may be one character of the page.
+bool IsNameOfUtf8(std::string_view name);
+// [path] with those of its names in the code page that it holds.
+std::string InCodePage(std::string_view path);
+
 std::string FolderOf(std::string_view path);     // with its ending "\"; empty where there is none
 std::string FileNameOf(std::string_view path);   // behind the last "\"
 std::string StemOf(std::string_view path);       // the file name without its extension
@@ -22,6 +28,7 @@ bool IsAbsolutePath(std::string_view path);
 std::string JoinPath(std::string_view folder, std::string_view path);
 // [path] as a file in [folder] names it: relative where both are on one drive, else whole.
 std::string RelativePath(std::string_view folder, std::string_view path);
+// A name counts as the same in UTF-8 and in the code page.
 bool SamePath(std::string_view a, std::string_view b);
 
 }  // namespace corvane::environment

@@ -184,7 +184,7 @@ std::string OpenProject::Refusal(const OpenModule::Source& source) const {
   if (long line = LineOfNul(source.bytes)) return "no text: NUL byte in line " + std::to_string(line);
   if (HasDesigner(source.kind->type) && source.head.version.empty())
     return "no " + std::string(source.kind->key) + ": its first line is not VERSION";
-  if (paths_in_use_.count(runtime::UCase(source.path))) return "named twice in the project";
+  if (paths_in_use_.count(runtime::UCase(InCodePage(source.path)))) return "named twice in the project";
   auto other = HasCode(source.kind->type) ? names_in_use_.find(runtime::UCase(source.name)) : names_in_use_.end();
   if (other != names_in_use_.end()) return "its name " + source.name + " is that of " + other->second;
   return {};
@@ -199,7 +199,7 @@ void OpenProject::CollectNamesInUse() {
 
 void OpenProject::AddNamesInUse(OpenModule& module) {
   const std::string& path = module.PathAsRead();
-  if (!path.empty()) paths_in_use_.insert(runtime::UCase(path));
+  if (!path.empty()) paths_in_use_.insert(runtime::UCase(InCodePage(path)));
   if (HasCode(module.Type())) names_in_use_.emplace(runtime::UCase(module.Name()), FileNameOf(path));
 }
 

@@ -92,9 +92,10 @@ void OpenProject::SaveAs(OpenModule& module, const std::string& path) {
   NotifyComponents();
 }
 
-// The project file names the module by its path, from its own folder where it can.
+// The project file names the module by its path, from its own folder where it can, and in the code page, as all its
+// text stands.
 void OpenProject::ListInFile(OpenModule& module) {
-  std::string path = RelativePath(FolderOf(path_), module.Path());
+  std::string path = RelativePath(InCodePage(FolderOf(path_)), InCodePage(module.Path()));
   if (file_.LineNumberOf(module.ProjectLine()) == 0)
     module.SetProjectLine(file_.AddComponent(module.Kind(), module.Name(), path));
   else
@@ -139,7 +140,7 @@ std::vector<Problem> OpenEnvironment::SaveAll() {
       if (module->IsDirty())
         attempt(module->Path().empty() ? module->Name() : module->Path(),
                 [&] { project->Save(*module, OnDiskChange::Refuse); });
-    if (project->IsDirty()) attempt(project->FileName(), [&] { project->SaveProjectFile(OnDiskChange::Refuse); });
+    if (project->IsDirty()) attempt(project->PathAsRead(), [&] { project->SaveProjectFile(OnDiskChange::Refuse); });
   }
   return failed;
 }

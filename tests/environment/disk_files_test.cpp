@@ -164,6 +164,111 @@ TEST_F(DiskFilesTest, AFileIsWrittenWhereItWasReadWhateverThePageByThen) {
   EXPECT_EQ(Entries(), 1u);
 }
 
+// "Gr\xF6\xDFe.bas" as a dialog of this machine gives it.
+const char kSize[] =
+    "Gr\xC3\xB6\xC3\x9F"
+    "e.bas";
+
+TEST_F(DiskFilesTest, AModuleSavedUnderANameOfThisMachineIsListedInTheCodePage) {
+  Put("P.vbp", "Type=Exe\r\nModule=Main; Main.bas\r\n");
+  Put("Main.bas", "Attribute VB_Name = \"Main\"\r\n");
+  auto environment = Environment::Create(*files_);
+  environment->Open(Path("P.vbp"));
+  auto module = environment->Projects()[0]->Modules()[0];
+  module->SaveAs(Path(kSize));
+  EXPECT_EQ(Disk(kSize), Disk("Main.bas"));
+  EXPECT_EQ(Entries(), 3u);
+  EXPECT_TRUE(environment->SaveAll().empty());
+  EXPECT_EQ(Disk("P.vbp"),
+            "Type=Exe\r\nModule=Main; Gr\xF6\xDF"
+            "e.bas\r\n");
+  module->SetName("Other");
+  for (const std::string& name : {std::string(kSize), std::string("Gr\xF6\xDF"
+                                                                  "e.bas")})
+    EXPECT_EQ(ReasonOfFailure([&] { environment->Projects()[0]->VBComponents()->AddFile(Path(name)); }),
+              "named twice in the project");
+  auto again = Environment::Create(*files_);
+  again->Open(Path("P.vbp"));
+  EXPECT_TRUE(again->Problems().empty());
+  again->Projects()[0]->Modules()[0]->CodeModule()->InsertLines(1, "Dim a");
+  EXPECT_TRUE(again->SaveAll().empty());
+  EXPECT_EQ(Disk(kSize), "Attribute VB_Name = \"Main\"\r\nDim a\r\n");
+  EXPECT_EQ(Entries(), 3u);
+}
+
+TEST_F(DiskFilesTest, AFormSavedUnderANameOfThisMachineNamesItsBinaryFileInTheCodePage) {
+  const std::string folder = "j\xC3\xB6/", items("\x01\0\x03\0\x02\0ab", 8);
+  Put(folder + "P.vbp", "Type=Exe\r\nForm=F.frm\r\n");
+  Put(folder + "F.frm", Text("VERSION 5.00|Begin VB.Form F |   Begin VB.ListBox L |      List            =   "
+                             "\"F.frx\":0000|   End|End|Attribute VB_Name = \"F\"|"));
+  Put(folder + "F.frx", items);
+  auto environment = Environment::Create(*files_);
+  environment->Open(Path(folder + "P.vbp"));
+  auto project = environment->Projects()[0];
+  project->Modules()[0]->SaveAs(FolderOf(project->FileName()) + kSize);
+  EXPECT_EQ(project->WriteToText(),
+            "Type=Exe\r\nForm=Gr\xF6\xDF"
+            "e.bas\r\n");
+  EXPECT_NE(Disk(folder + kSize)
+                .find("\"Gr\xF6\xDF"
+                      "e.frx\":0000"),
+            std::string::npos)
+      << Disk(folder + kSize);
+  EXPECT_EQ(Disk(folder + std::string(kSize).replace(8, 3, "frx")), items);
+  EXPECT_EQ(Entries(), 1u);
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder_ / folder), {}), 5);
+  EXPECT_TRUE(environment->Problems().empty());
+}
+
+TEST_F(DiskFilesTest, AModuleSavedUnderANameThatThePageLacksIsFoundAgain) {
+  Put("P.vbp", "Type=Exe\r\nModule=Main; Main.bas\r\n");
+  Put("Main.bas", "Attribute VB_Name = \"Main\"\r\n");
+  auto environment = Environment::Create(*files_);
+  environment->Open(Path("P.vbp"));
+  environment->Projects()[0]->Modules()[0]->SaveAs(Path("\xD0\xA1.bas"));
+  EXPECT_TRUE(environment->SaveAll().empty());
+  EXPECT_EQ(Disk("\xD0\xA1.bas"), Disk("Main.bas"));
+  auto again = Environment::Create(*files_);
+  again->Open(Path("P.vbp"));
+  EXPECT_TRUE(again->Problems().empty());
+  EXPECT_EQ(again->Projects()[0]->Modules().size(), 1u);
+}
+
+TEST_F(DiskFilesTest, TheNameOfAProjectIsTextOfTheCodePageAndFindsItsFile) {
+  const struct {
+    int page;
+    const char *folder, *shown;
+  } kCases[] = {{1252,
+                 "j\xC3\xB6"
+                 "rg",
+                 "j\xF6"
+                 "rg"},
+                {1251, "\xD0\xA1", "\xD1"},
+                {932, "\xE8\xA1\xA8", "\x95\x5C"},
+                {936, "\xE6\x96\xB0", "\xD0\xC2"},
+                {1252, "\xE6\x96\xB0", "\xE6\x96\xB0"}};
+  for (const auto& each : kCases) {
+    Put(std::string(each.folder) + "/P.vbp", "Type=Exe\r\n");
+    auto environment = Environment::Create(*files_, nullptr, {each.page});
+    environment->Open(Path(std::string(each.folder) + "\\P.vbp"));
+    auto project = environment->Projects()[0];
+    EXPECT_EQ(project->FileName(), Path(std::string(each.shown) + "\\P.vbp"));
+    EXPECT_EQ(files_->Read(project->FileName()), "Type=Exe\r\n") << each.folder;
+    EXPECT_EQ(ReasonOfFailure([&] { environment->Open(project->FileName()); }), "it is open already") << each.folder;
+  }
+  runtime::SetAnsiCodePage(1252);
+}
+
+TEST(Paths, OneOfUtf8AndOneOfTheCodePageAreTheSame) {
+  EXPECT_TRUE(SamePath("Z:\\j\xC3\xB6\\A.bas", "z:\\J\xD6\\a.BAS"));
+  EXPECT_FALSE(SamePath("Z:\\j\xC3\xB6\\A.bas", "Z:\\j\xF6\\B.bas"));
+  EXPECT_FALSE(SamePath("Z:\\j\xC3\xB6\\A.bas", "Z:\\j\xE4\\A.bas"));
+  runtime::SetAnsiCodePage(936);
+  // One character of the page, though its two bytes would be one of UTF-8 too.
+  EXPECT_EQ(InCodePage("Z:\\\xD0\xA1\\\xE6\x96\xB0.bas"), "Z:\\\xD0\xA1\\\xD0\xC2.bas");
+  runtime::SetAnsiCodePage(1252);
+}
+
 TEST(Paths, NamesOfThisMachineAndOfTheCodePageStandSideBySide) {
   runtime::SetAnsiCodePage(936);
   // Two characters of the page, of whose four bytes the first three look like UTF-8.
