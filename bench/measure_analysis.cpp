@@ -88,7 +88,7 @@ class Scintilla {
 void MeasureAnalysis(const Setting& setting, Table& table) {
   OurList ours;
   Scintilla peer;
-  double first = 0, last = 0;  // seconds a byte
+  Growth growth;
   for (const auto& project : setting.projects) {
     const std::string code = CodeOf(project);
     const auto size = static_cast<double>(code.size());
@@ -96,10 +96,9 @@ void MeasureAnalysis(const Setting& setting, Table& table) {
         kRounds, [&] { return ours.Load(code); }, [&] { return peer.Colourise(code); });
     table.AtLeast("analysing " + Count(ours.Lines()) + " lines (peer: Scintilla's VB lexer)",
                   Megabytes(size / our_time), Megabytes(size / peer_time), peer_time / our_time, 1.5);
-    last = our_time / size;
-    if (first == 0) first = last;
+    growth.Add(our_time, size);
   }
-  table.AtMost("  its time a byte, the largest project to the smallest", "", "", last / first, 1.2);
+  table.AtMost("  its time a byte, the largest project to the smallest", "", "", growth.Ratio(), 1.2);
 }
 
 }  // namespace corvane::bench

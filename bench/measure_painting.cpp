@@ -1,9 +1,12 @@
 #include <QApplication>
 #include <QWidget>
 #include <algorithm>
+#include <cstdint>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
+#include <string>
+#include <utility>
 
 #include "bench/measurements.h"
 #include "codelist/uc_list_box.h"
@@ -43,6 +46,49 @@ double MedianOf(const std::function<double(int)>& run) {
   return Median(times);
 }
 
+// The code of [project], at most [most] bytes and the rest of a file.
+std::string CodeOf(const GeneratedProject& project, size_t most) {
+  std::string text;
+  for (const auto& file : project.files) {
+    if (!file.ends_with(".bas") && !file.ends_with(".cls")) continue;
+    std::ifstream in(file, std::ios::binary);
+    text.append(std::istreambuf_iterator<char>(in), {});
+    if (text.size() > most) break;
+  }
+  return text;
+}
+
+void MeasureRepaint(codelist::ucListBox& list, const std::string& rows, Table& table) {
+  const long lines = list.ListCount();
+  const double repaint = MedianOf([&](int round) {
+    const long line = 100 + (round * 997L) % (lines - 200);
+    return UntilDrawn([&] { list.SetStrPos(line); });
+  });
+  table.AtMost("a full repaint of " + std::to_string(list.VisibleRows()) + " rows, " + rows + " (ms)",
+               Milliseconds(repaint), "", repaint * 1e3, 2.0);
+}
+
+// The keys start in the middle of the text.
+void MeasureSteps(codelist::ucListBox& list, const std::string& rows, Table& table) {
+  const auto step = [&] {
+    return UntilDrawn([&] {
+      int key = forms::vbKeyDown;
+      list.pic.UserKeyDown(key, 0);
+    });
+  };
+  const long middle = list.ListCount() / 2;
+  const double within = MedianOf([&](int round) {
+    if (round % 40 == 0) list.SetStrPos(middle + round);
+    QApplication::processEvents();
+    return step();
+  });
+  table.AtMost("a step down within the rows, " + rows + " (ms)", Milliseconds(within), "", within * 1e3, 0.5);
+  list.SetStrPos(middle);
+  for (long row = 0; row < kRows; ++row) step();
+  const double scrolling = MedianOf([&](int) { return step(); });
+  table.AtMost("a step down which scrolls, " + rows + " (ms)", Milliseconds(scrolling), "", scrolling * 1e3, 0.5);
+}
+
 }  // namespace
 
 void MeasurePainting(const Setting& setting, Table& table) {
@@ -54,42 +100,16 @@ void MeasurePainting(const Setting& setting, Table& table) {
   auto& list = window.list;
   list.sGrid("VB");
   list.ListRole = codelist::kSourcePane;
-  std::string text;
-  for (const auto& file : setting.projects.front().files) {
-    if (!file.ends_with(".bas") && !file.ends_with(".cls")) continue;
-    std::ifstream in(file, std::ios::binary);
-    text.append(std::istreambuf_iterator<char>(in), {});
-    if (text.size() > 1'000'000) break;
-  }
-  list.SetText(text);
-  QApplication::processEvents();
-  const long lines = list.ListCount();
-  if (lines < 10 * kRows) throw std::runtime_error("too few lines to paint");
-
-  const double repaint = MedianOf([&](int round) {
-    const long line = 100 + (round * 997L) % (lines - 200);
-    return UntilDrawn([&] { list.SetStrPos(line); });
-  });
-  table.AtMost("a full repaint of " + std::to_string(list.VisibleRows()) + " rows on the Qt canvas (ms)",
-               Milliseconds(repaint), "", repaint * 1e3, 2.0);
-
-  const auto step = [&] {
-    return UntilDrawn([&] {
-      int key = forms::vbKeyDown;
-      list.pic.UserKeyDown(key, 0);
-    });
-  };
-  list.SetStrPos(100);
-  const double within = MedianOf([&](int round) {
-    if (round % 40 == 0) list.SetStrPos(100 + round);
+  const std::pair<const GeneratedProject*, size_t> texts[] = {{&setting.projects.front(), 1'000'000},
+                                                              {&setting.projects.back(), SIZE_MAX}};
+  for (const auto& [project, most] : texts) {
+    list.SetText(CodeOf(*project, most));
     QApplication::processEvents();
-    return step();
-  });
-  table.AtMost("a step down within the rows (ms)", Milliseconds(within), "", within * 1e3, 0.5);
-  list.SetStrPos(100);
-  for (long row = 0; row < kRows; ++row) step();
-  const double scrolling = MedianOf([&](int) { return step(); });
-  table.AtMost("a step down from the last row, which scrolls (ms)", Milliseconds(scrolling), "", scrolling * 1e3, 0.5);
+    if (list.ListCount() < 10 * kRows) throw std::runtime_error("too few lines to paint");
+    const std::string rows = "list of " + Count(list.ListCount());
+    MeasureRepaint(list, rows, table);
+    MeasureSteps(list, rows, table);
+  }
 }
 
 }  // namespace corvane::bench

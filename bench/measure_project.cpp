@@ -2,7 +2,9 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <memory>
+#include <sstream>
 #include <stdexcept>
 #include <unistd.h>
 
@@ -50,11 +52,28 @@ std::vector<Hit> Search(OpenProject& project, const std::string& word) {
   return hits;
 }
 
+// What a module keeps once it was asked about its procedures and searched is there then.
+void AskEveryModule(OpenProject& project) {
+  const auto components = project.environment->ActiveVBProject()->VBComponents();
+  for (long component = 1; component <= components->Count(); ++component) {
+    const auto module = components->Item(component)->CodeModule();
+    if (!module || module->CountOfLines() == 0) continue;
+    host::ProcKind kind = host::ProcKind::Proc;
+    module->ProcOfLine(module->CountOfLines(), kind);
+    long line = 1, column = 1, end_line = -1, end_column = -1;
+    module->Find(kWords[0], line, column, end_line, end_column, false, false, false);
+  }
+}
+
 long Resident() {
   std::ifstream in("/proc/self/statm");
   long total = 0, resident = 0;
   in >> total >> resident;
   return resident * sysconf(_SC_PAGESIZE);
+}
+
+std::string WholeMegabytes(double bytes) {
+  return std::to_string(static_cast<long>(bytes / 1e6)) + " MB";
 }
 
 std::string FolderOf(const GeneratedProject& project) {
@@ -72,7 +91,7 @@ std::string ListOfFiles(const Setting& setting, const GeneratedProject& project)
 }  // namespace
 
 void MeasureListing(const Setting& setting, Table& table) {
-  double first = 0, last = 0;  // seconds a line
+  Growth growth;
   for (const auto& project : setting.projects) {
     const std::string list = ListOfFiles(setting, project), folder = FolderOf(project);
     long rows = 0, tags = 0;
@@ -93,14 +112,13 @@ void MeasureListing(const Setting& setting, Table& table) {
     table.AtMost("listing procedures of " + Count(project.lines) + " lines (peer: ctags)", Milliseconds(our_time),
                  Milliseconds(peer_time), our_time / peer_time, 1.0);
     table.Note("  ours " + Count(rows) + " rows, properties with them; ctags " + Count(tags) + " tags, without them");
-    last = our_time / static_cast<double>(project.lines);
-    if (first == 0) first = last;
+    growth.Add(our_time, static_cast<double>(project.lines));
   }
-  table.AtMost("  its time a line, the largest project to the smallest", "", "", last / first, 1.2);
+  table.AtMost("  its time a line, the largest project to the smallest", "", "", growth.Ratio(), 1.2);
 }
 
 void MeasureSearch(const Setting& setting, Table& table) {
-  double first = 0, last = 0;  // seconds a line
+  std::map<std::string, Growth> growth;  // by word
   for (const auto& project : setting.projects) {
     OpenProject open(project.path);
     std::vector<std::string> grep = {"xargs", "-a", ListOfFiles(setting, project), "grep", "-F", "-i", "-n", "-H"};
@@ -122,30 +140,41 @@ void MeasureSearch(const Setting& setting, Table& table) {
                    Milliseconds(our_time), Milliseconds(peer_time), our_time / peer_time, 1.0);
       table.Note("  ours " + Count(static_cast<long>(hits)) + " lines of code; grep " + Count(lines) +
                  " lines, designer parts with them");
-      if (word != kWords[0]) continue;
-      last = our_time / static_cast<double>(project.lines);
-      if (first == 0) first = last;
+      growth[word].Add(our_time, static_cast<double>(project.lines));
     }
   }
-  table.AtMost("  its time a line, the largest project to the smallest", "", "", last / first, 1.2);
+  for (const char* word : kWords)
+    table.AtMost("  its time a line for \"" + std::string(word) + "\", largest to smallest", "", "",
+                 growth[word].Ratio(), 1.2);
 }
 
 int OpenAndTellMemory(const std::string& project) {
   const long before = Resident();
   OpenProject open(project);
-  std::printf("%ld\n", Resident() - before);
+  const long opened = Resident();
+  AskEveryModule(open);
+  std::printf("%ld %ld\n", opened - before, Resident() - before);
   return 0;
 }
 
 void MeasureMemory(const Setting& setting, Table& table) {
+  Growth opened_growth, searched_growth;
   for (const auto& project : setting.projects) {
     const auto run = Run({setting.self, "--memory-of", project.path}, setting.scratch, true);
-    if (run.status != 0) throw std::runtime_error("the project could not be opened");
-    const double resident = std::stod(run.output), bytes = static_cast<double>(project.bytes);
-    table.AtMost("resident memory, " + Count(project.lines) + " lines open (beside: bytes of sources)",
-                 std::to_string(static_cast<long>(resident / 1e6)) + " MB",
-                 std::to_string(static_cast<long>(bytes / 1e6)) + " MB", resident / bytes, 2.5);
+    std::istringstream output(run.output);
+    double opened = 0, searched = 0;
+    if (run.status != 0 || !(output >> opened >> searched)) throw std::runtime_error("the project could not be opened");
+    const double bytes = static_cast<double>(project.bytes);
+    const std::string lines = Count(project.lines) + " lines";
+    table.AtMost("resident memory, " + lines + " open (beside: bytes of sources)", WholeMegabytes(opened),
+                 WholeMegabytes(bytes), opened / bytes, 2.5);
+    table.AtMost("resident memory, searched, " + lines, WholeMegabytes(searched), WholeMegabytes(bytes),
+                 searched / bytes, 2.5);
+    opened_growth.Add(opened, bytes);
+    searched_growth.Add(searched, bytes);
   }
+  table.AtMost("  memory a byte, open, the largest to the smallest", "", "", opened_growth.Ratio(), 1.2);
+  table.AtMost("  memory a byte, searched, the largest to the smallest", "", "", searched_growth.Ratio(), 1.2);
 }
 
 }  // namespace corvane::bench

@@ -26,10 +26,10 @@ void MeasureListing(const Setting& setting, Table& table);
 // A word in any case in the open project, all hits listed, and grep over the same files.
 void MeasureSearch(const Setting& setting, Table& table);
 
-// Resident memory of the open project.
+// Resident memory of the open project, and once every module was asked for a procedure and searched.
 void MeasureMemory(const Setting& setting, Table& table);
-// What the process that is measured does: opens [project], prints the resident bytes that it took, ends. Returns its
-// exit status.
+// What the process that is measured does: opens [project], prints the resident bytes that it took, open and then
+// searched, ends. Returns its exit status.
 int OpenAndTellMemory(const std::string& project);
 
 // The code list on the Qt canvas, without a display.

@@ -19,6 +19,20 @@ struct Pair {
 };
 Pair InTurn(int rounds, const std::function<double()>& ours, const std::function<double()>& peer);
 
+// What a unit (a line, a byte) costs, from the smallest project to the largest.
+class Growth {
+ public:
+  void Add(double cost, double units) {
+    last_ = cost / units;
+    if (first_ == 0) first_ = last_;
+  }
+  // The largest to the smallest.
+  double Ratio() const { return last_ / first_; }
+
+ private:
+  double first_ = 0, last_ = 0;
+};
+
 class Table {
  public:
   // [ratio] is better the larger it is for AtLeast, and the smaller it is for AtMost.
