@@ -8,6 +8,7 @@
 #include "desk/project_tree.h"
 #include "desk/shown_path.h"
 #include "environment/disk_files.h"
+#include "environment/paths.h"
 #include "runtime/strings.h"
 
 namespace corvane::desk {
@@ -80,7 +81,7 @@ std::vector<std::string> MainWindow::UnsavedFiles() const {
 
 bool MainWindow::AskForFile(Module& module) {
   const auto project = module.ProjectOf();
-  const std::string folder = project->FileName().substr(0, project->FileName().rfind('\\') + 1);
+  const std::string folder = environment::FolderOf(project->FileName());
   const QString proposal =
       QString::fromStdString(environment::NativePath(folder)) + ToLabel(module.Name()) + ExtensionOf(module.Type());
   const QString chosen = QFileDialog::getSaveFileName(this, tr("Save %1 As").arg(ToLabel(module.Name())), proposal);

@@ -7,6 +7,7 @@
 #include "desk/icons.h"
 #include "desk/shown_path.h"
 #include "desk/user_act.h"
+#include "environment/paths.h"
 
 namespace corvane::desk {
 
@@ -37,14 +38,9 @@ const std::vector<Folder>& Folders() {
   return folders;
 }
 
-QString FileNameOf(const std::string& path) {
-  const size_t slash = path.rfind('\\');
-  return ShownName(slash == std::string::npos ? path : path.substr(slash + 1));
-}
-
 // "frmMain (frmMain.frm)", with a star when it was edited.
 QString Title(const std::string& name, const std::string& path, bool dirty) {
-  const QString file = FileNameOf(path);
+  const QString file = ShownName(environment::FileNameOf(path));
   QString title = name.empty() ? ShownPath(path) : ToLabel(name);
   if (!file.isEmpty() && file != title) title += " (" + file + ")";
   return dirty ? title + " *" : title;
