@@ -17,6 +17,7 @@
 #include "desk/designer_window.h"
 #include "desk/find_dialog.h"
 #include "desk/icons.h"
+#include "desk/kind_names.h"
 #include "desk/project_tree.h"
 #include "desk/property_list.h"
 #include "desk/shown_path.h"
@@ -27,27 +28,10 @@ namespace corvane::desk {
 
 namespace {
 
-// By kind of component what Visual Basic calls it in the property list.
+// What Visual Basic calls a kind of component in the property list.
 QString ClassOf(host::ComponentType type) {
-  using host::ComponentType;
-  switch (type) {
-    case ComponentType::StdModule:
-      return "Module";
-    case ComponentType::ClassModule:
-      return "ClassModule";
-    case ComponentType::VBForm:
-      return "Form";
-    case ComponentType::VBMDIForm:
-      return "MDIForm";
-    case ComponentType::PropPage:
-      return "PropertyPage";
-    case ComponentType::UserControl:
-      return "UserControl";
-    case ComponentType::DocObject:
-      return "UserDocument";
-    default:
-      return {};
-  }
+  const std::string_view name = NamesOf(type).class_name;
+  return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
 }
 
 QString HeadingOf(environment::Module& module) {

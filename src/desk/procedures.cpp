@@ -3,32 +3,12 @@
 #include <algorithm>
 #include <set>
 
+#include "desk/kind_names.h"
 #include "runtime/strings.h"
 
 namespace corvane::desk {
 
 namespace {
-
-using host::ComponentType;
-
-std::string OwnObjectOf(ComponentType type) {
-  switch (type) {
-    case ComponentType::VBForm:
-      return "Form";
-    case ComponentType::VBMDIForm:
-      return "MDIForm";
-    case ComponentType::PropPage:
-      return "PropertyPage";
-    case ComponentType::UserControl:
-      return "UserControl";
-    case ComponentType::DocObject:
-      return "UserDocument";
-    case ComponentType::ClassModule:
-      return "Class";
-    default:
-      return {};
-  }
-}
 
 const char* KindSuffix(host::ProcKind kind) {
   switch (kind) {
@@ -93,7 +73,7 @@ std::vector<std::string> ObjectsOf(host::VBComponent& component) {
   std::vector<std::string> objects(names.begin(), names.end());
   std::sort(objects.begin(), objects.end(),
             [](const auto& a, const auto& b) { return runtime::UCase(a) < runtime::UCase(b); });
-  if (const std::string own = OwnObjectOf(component.Type()); !own.empty()) objects.insert(objects.begin(), own);
+  if (const std::string own(NamesOf(component.Type()).own_object); !own.empty()) objects.insert(objects.begin(), own);
   return objects;
 }
 
