@@ -60,7 +60,6 @@ int RunDesk(const RunOptions& options, int argc, char** argv, std::ostream& out,
     return 1;
   }
   if (pictures) qInstallMessageHandler(DropPlatformNotes);
-  QApplication::setStyle("Fusion");
   QApplication application(argc, argv);
   QApplication::setApplicationName("Corvane");
   QApplication::setDesktopFileName("corvane");
