@@ -39,9 +39,9 @@ inline constexpr bool kUnclosedListFails = false;
 // FileCount of a form without an .frx.
 inline constexpr long kFileCountWithoutFrx = 1;
 
-// A control that is added stands behind the other controls of its container in the file (menus stay last). The file has
-// the topmost control first, so that a new one may well stand before all others.
-inline constexpr bool kNewControlStandsFirst = false;
+// A control that is added lies on top of the others of its container, and the file has the topmost one first: it stands
+// before all others. Menus have no depth: a new one comes last, and all of them behind the controls.
+inline constexpr bool kNewControlStandsFirst = true;
 
 // Texts up to this length without control bytes stand in the designer part itself, longer ones in the binary sibling.
 // The longest that was seen inline has 121 bytes, the shortest in a sibling 134.

@@ -121,10 +121,11 @@ TEST_F(DesignerTest, ADoubleClickGoesToTheControlsCode) {
   EXPECT_EQ(module_->PaneSelection().start_line, 3);
 }
 
-TEST_F(DesignerTest, AControlTheAddInAddsAppears) {
+TEST_F(DesignerTest, AControlTheAddInAddsAppearsOnTop) {
   const size_t before = canvas_->LayoutOf().controls.size();
-  module_->Designer()->VBControls()->Add("VB.Label", nullptr);
+  module_->Designer()->VBControls()->Add("VB.CheckBox", nullptr);
   EXPECT_EQ(canvas_->LayoutOf().controls.size(), before + 1);
+  EXPECT_EQ(canvas_->LayoutOf().FrontToBack(-1).front(), Find("Check1"));
 }
 
 TEST(PropertyValues, AreShownAndReadBackByTheirKind) {

@@ -116,16 +116,23 @@ TEST(VBControls, EveryKindIsAddedAndRemovedWithoutATrace) {
   }
 }
 
-TEST(VBControls, ANewControlStandsBehindTheOthersAndBeforeTheMenus) {
+TEST(VBControls, ANewControlLiesOnTopAndSoStandsFirstAndANewMenuLast) {
   OpenDesigner open(kStockForm);
   const auto added = open.Controls()->Add("VB.CheckBox", nullptr);
   EXPECT_EQ(NamesOf(*open.Controls()),
-            "fraKind optKind!1 optKind!0 lstItems sldSize txtNote Check1 mnuFile mnuFileOpen mnuFileBar ");
+            "Check1 fraKind optKind!1 optKind!0 lstItems sldSize txtNote mnuFile mnuFileOpen mnuFileBar ");
   EXPECT_EQ(added->Properties()->Item("TabIndex")->Value(), Variant(6L));
   open.Controls()->Add("VB.Menu", nullptr);
   open.Controls()->Add("Menu", open.Control("mnuFile"));
   EXPECT_EQ(NamesOf(*open.Controls()),
-            "fraKind optKind!1 optKind!0 lstItems sldSize txtNote Check1 mnuFile mnuFileOpen mnuFileBar Menu2 Menu1 ");
+            "Check1 fraKind optKind!1 optKind!0 lstItems sldSize txtNote mnuFile mnuFileOpen mnuFileBar Menu2 Menu1 ");
+}
+
+TEST(VBControls, ANewControlOfAFormWithMenusAloneStandsBeforeThem) {
+  OpenDesigner open("Begin VB.Form F \n   Begin VB.Menu mnuA \n   End\nEnd\n");
+  open.Controls()->Add("Label", nullptr);
+  open.Controls()->Add("VB.Menu", nullptr);
+  EXPECT_EQ(NamesOf(*open.Controls()), "Label1 mnuA Menu1 ");
 }
 
 TEST(VBControls, ANewControlGoesIntoItsContainer) {
@@ -133,7 +140,7 @@ TEST(VBControls, ANewControlGoesIntoItsContainer) {
   const auto added = open.Controls()->Add("OptionButton", open.Control("fraKind"));
   EXPECT_EQ(ToText(added->ControlObject()->Container()->Properties()->Item("Name")->Value()), "fraKind");
   EXPECT_EQ(NamesOf(*open.Controls()),
-            "fraKind optKind!1 optKind!0 Option1 lstItems sldSize txtNote mnuFile mnuFileOpen mnuFileBar ");
+            "fraKind Option1 optKind!1 optKind!0 lstItems sldSize txtNote mnuFile mnuFileOpen mnuFileBar ");
   EXPECT_NE(open.Text().find("      Begin VB.OptionButton Option1 \n         Caption         =   \"Option1\"\n"),
             std::string::npos);
   EXPECT_EQ(ErrorOf([&] { open.Controls()->Add("Label", open.Control("txtNote")); }), 5);
@@ -147,7 +154,7 @@ TEST(VBControls, AControlOfAnotherLibraryIsAddedWhereThereIsOneAlready) {
   open.Controls()->Add("MSComctlLib.Slider", nullptr);
   std::string expected = kStockForm;
   expected.insert(
-      expected.find("   Begin VB.Menu mnuFile "),
+      expected.find("   Begin VB.Frame fraKind "),
       "   Begin MSComctlLib.Slider Slider1 \n      Height          =   495\n      Left            =   1680\n"
       "      TabIndex        =   6\n      Top             =   1320\n      Width           =   1215\n   End\n");
   EXPECT_EQ(open.Text(), expected);
@@ -160,7 +167,7 @@ TEST(VBControls, NamesTakeTheFirstFreeNumber) {
   open.Controls()->Add("Label", nullptr);
   open.Controls()->Remove(open.Control("Label2"));
   open.Controls()->Add("Label", nullptr);
-  EXPECT_EQ(NamesOf(*open.Controls()), "Label1 Label3 Label2 ");
+  EXPECT_EQ(NamesOf(*open.Controls()), "Label2 Label3 Label1 ");
 }
 
 TEST(VBControls, AControlIsRemovedWithThoseInIt) {
