@@ -2,9 +2,10 @@
 // character of a list with ranges.
 #pragma once
 
-#include <array>
 #include <bitset>
+#include <cstdint>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "environment/text_search.h"
@@ -24,14 +25,38 @@ class LinePattern {
   Hit Find(std::string_view line, size_t from, bool whole_word) const;
 
  private:
-  using Set = std::bitset<256>;    // the bytes that one place of the pattern takes
-  using Piece = std::vector<Set>;  // what stands between two "*"
-  bool FitsAt(const Piece& piece, std::string_view line, size_t at) const;
+  using Set = std::bitset<256>;
+  // Characters of two bytes, by their code.
+  struct Pairs {
+    std::vector<std::pair<uint16_t, uint16_t>> ranges;
+    bool others = false;  // all but those of the ranges
+    bool Takes(uint16_t pair) const;
+  };
+  struct Place {
+    Set bytes;
+    Pairs pairs;
+  };
+  // What stands between two "*": what each of its places takes.
+  struct Piece {
+    std::vector<Set> bytes;
+    std::vector<Pairs> pairs;
+    size_t size() const { return bytes.size(); }
+  };
+  static constexpr size_t kNoFit = static_cast<size_t>(-1);
+  // The place behind [piece] where it stands at [at], else kNoFit.
+  size_t EndAt(const Piece& piece, std::string_view line, size_t at) const {
+    if (double_byte_) return EndByCharacters(piece, line, at);
+    if (at + piece.size() > line.size()) return kNoFit;
+    for (size_t i = 0; i < piece.size(); ++i)
+      if (!piece.bytes[i].test(static_cast<unsigned char>(line[at + i]))) return kNoFit;
+    return at + piece.size();
+  }
+  size_t EndByCharacters(const Piece& piece, std::string_view line, size_t at) const;
   bool FindRest(std::string_view line, size_t at, bool whole_word, size_t& end) const;
-  Set SetOf(unsigned char byte) const;
-  size_t ReadList(std::string_view pattern, size_t open, Set& set) const;
+  void Add(Place& place, uint16_t first, uint16_t last) const;
+  size_t ReadList(std::string_view pattern, size_t open, Place& place) const;
 
-  bool match_case_;
+  bool match_case_, double_byte_;
   std::vector<Piece> pieces_;
 };
 

@@ -250,22 +250,107 @@ TEST(LongLine, IsOneLineOfItsProcedure) {
   }
 }
 
+// A page of two bytes, a character of it whose second byte is "[" or "]" where it has one, and the next two by code.
+struct DoubleBytePage {
+  int page;
+  const char *first, *second, *third;
+};
+
+class PatternsOfTwoBytes : public testing::TestWithParam<DoubleBytePage> {
+ protected:
+  PatternsOfTwoBytes() : in_force_(GetParam().page) {}
+  // "1", "2", "3" stand for the three characters.
+  std::string Spelt(std::string_view text) const {
+    std::string spelt;
+    for (char c : text)
+      if (c >= '1' && c <= '3')
+        spelt += c == '1' ? GetParam().first : c == '2' ? GetParam().second : GetParam().third;
+      else
+        spelt += c;
+    return spelt;
+  }
+  std::string FoundIn(std::string_view line, std::string_view pattern, bool whole = false) const {
+    return Found(ModuleText(Spelt(line) + "\r\n", 0), Pattern(Spelt(pattern).c_str(), whole));
+  }
+
+ private:
+  CodePageInForce in_force_;
+};
+
+TEST_P(PatternsOfTwoBytes, EachPlaceTakesOneCharacter) {
+  EXPECT_EQ(FoundIn("a1c", "a?c"), "1:1+4");
+  EXPECT_EQ(FoundIn("a11c a2c", "a?c"), "1:8+4");
+  EXPECT_EQ(FoundIn("ac abc", "a?c"), "1:4+3");
+  EXPECT_EQ(FoundIn("1", "??"), "");
+  EXPECT_EQ(FoundIn("12", "??"), "1:1+4");
+  EXPECT_EQ(FoundIn("1a", "?a"), "1:1+3");
+}
+
+TEST_P(PatternsOfTwoBytes, AListHasCharacters) {
+  EXPECT_EQ(FoundIn("a b 2", "[12]"), "1:5+2");
+  EXPECT_EQ(FoundIn("1 2", "[2]"), "1:4+2");
+  EXPECT_EQ(FoundIn("1 2", "[2-3]"), "1:4+2");
+  EXPECT_EQ(FoundIn("x2y", "x[1-3]y"), "1:1+4");
+  EXPECT_EQ(FoundIn("x2y", "x[a-3]y"), "1:1+4");
+  EXPECT_EQ(FoundIn("x1y xby", "x[a-z]y"), "1:6+3");
+  EXPECT_EQ(FoundIn("x1y x3y", "x[!1-2]y"), "1:6+4");
+  EXPECT_EQ(FoundIn("x1y", "x[!a]y"), "1:1+4");
+  EXPECT_EQ(FoundIn("x1y xAy", "x[!1-3]y"), "1:6+3");
+}
+
+TEST_P(PatternsOfTwoBytes, ASecondByteIsNoSign) {
+  EXPECT_EQ(FoundIn("x1", "x1"), "1:1+3");
+  EXPECT_EQ(FoundIn("x1 a", "1 [a]"), "1:2+4");
+  EXPECT_EQ(FoundIn("1a 2", "1*2"), "1:1+6");
+  EXPECT_EQ(FoundIn("12", "*2"), "1:1+4");
+}
+
+TEST_P(PatternsOfTwoBytes, AWordEndsAtTheCharacterBehindIt) {
+  EXPECT_EQ(FoundIn("a1b a1", "a?", true), "1:6+3");
+  EXPECT_EQ(FoundIn("1ab ab", "a?", true), "1:6+2");
+}
+
+INSTANTIATE_TEST_SUITE_P(Pages, PatternsOfTwoBytes,
+                         testing::Values(DoubleBytePage{932, "\x83\x5B", "\x83\x5C", "\x83\x5D"},
+                                         DoubleBytePage{936, "\x81\x5B", "\x81\x5C", "\x81\x5D"},
+                                         DoubleBytePage{949, "\xB0\xA1", "\xB0\xA2", "\xB0\xA3"},
+                                         DoubleBytePage{950, "\xA4\x5B", "\xA4\x5C", "\xA4\x5D"}),
+                         [](const auto& info) { return std::to_string(info.param.page); });
+
+size_t CharacterLength(std::string_view text) {
+  return text.size() > 1 && runtime::AnsiCodePage().IsLead(static_cast<unsigned char>(text[0])) ? 2 : 1;
+}
+
 // Whether [pattern], of letters, ? and *, fits all of [text].
 bool Fits(std::string_view pattern, std::string_view text) {
   if (pattern.empty()) return text.empty();
-  if (pattern[0] == '*') return Fits(pattern.substr(1), text) || (!text.empty() && Fits(pattern, text.substr(1)));
-  return !text.empty() && (pattern[0] == '?' || pattern[0] == text[0]) && Fits(pattern.substr(1), text.substr(1));
+  if (pattern[0] == '*')
+    return Fits(pattern.substr(1), text) || (!text.empty() && Fits(pattern, text.substr(CharacterLength(text))));
+  if (text.empty()) return false;
+  size_t length = CharacterLength(text), wanted = CharacterLength(pattern);
+  return (pattern[0] == '?' || pattern.substr(0, wanted) == text.substr(0, length)) &&
+         Fits(pattern.substr(wanted), text.substr(length));
 }
 
-TEST(Finding, APatternsHitIsTheFirstAndTheShortest) {
+class ShortestHit : public testing::TestWithParam<int> {};
+TEST_P(ShortestHit, IsTheFirstOfThePattern) {
+  CodePageInForce page(GetParam());
   std::mt19937 random(11);
+  auto letters = [&](size_t count, std::vector<const char*> of) {
+    std::string text;
+    for (; count > 0; --count) text += of[random() % of.size()];
+    return text;
+  };
   for (int round = 0; round < 4000; ++round) {
-    std::string line = Random(random, random() % 12, "ab. "), pattern = Random(random, 1 + random() % 5, "ab?*.");
+    std::string line = letters(random() % 12, {"a", "b", ".", " ", "\x83\x5C", "\x83\x61"});
+    std::string pattern = letters(1 + random() % 5, {"a", "b", "?", "*", ".", "\x83\x61"});
     bool whole = round % 2 == 0;
     LinePattern::Hit expected;
+    auto inside = [&](size_t at) { return runtime::AnsiCodePage().IsSecondByte(line, at); };
     for (size_t at = 0; at <= line.size() && !expected.found; ++at)
       for (size_t length = 0; at + length <= line.size() && !expected.found; ++length)
-        if (Fits(pattern, std::string_view(line).substr(at, length)) && (!whole || IsWholeWord(line, at, length)))
+        if (!inside(at) && !inside(at + length) && Fits(pattern, std::string_view(line).substr(at, length)) &&
+            (!whole || IsWholeWord(line, at, length)))
           expected = {at, length, true};
     LinePattern::Hit hit = LinePattern(pattern, true).Find(line, 0, whole);
     ASSERT_EQ(hit.found, expected.found) << pattern << " in " << line;
@@ -273,6 +358,7 @@ TEST(Finding, APatternsHitIsTheFirstAndTheShortest) {
     ASSERT_EQ(hit.length, expected.length) << pattern << " in " << line;
   }
 }
+INSTANTIATE_TEST_SUITE_P(OneAndTwoBytes, ShortestHit, testing::Values(1252, 932));
 
 }  // namespace
 }  // namespace corvane::environment
