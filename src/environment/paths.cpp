@@ -31,6 +31,17 @@ size_t Utf8Length(std::string_view text, size_t at) {
   return overlong || no_character ? 0 : length;
 }
 
+// Bytes of the longest character of a text of UTF-8, 1 of an empty one; 0 where it is none.
+size_t LongestOfUtf8(std::string_view text) {
+  size_t longest = 1;
+  for (size_t at = 0, length; at < text.size(); at += length) {
+    length = ByteAt(text, at) < 0x80 ? 1 : Utf8Length(text, at);
+    if (length == 0) return 0;
+    longest = std::max(longest, length);
+  }
+  return longest;
+}
+
 // The end of the characters beyond ASCII from [at] on; [at] itself where they are no UTF-8.
 size_t EndOfUtf8(std::string_view text, size_t at) {
   size_t end = at;
@@ -112,14 +123,12 @@ size_t BehindCharacter(std::string_view path, size_t at) {
   return at + (runtime::AnsiCodePage().IsLead(ByteAt(path, at)) ? 2 : 1);
 }
 
+bool IsUtf8(std::string_view text) {
+  return LongestOfUtf8(text) > 0;
+}
+
 bool IsNameOfUtf8(std::string_view name) {
-  size_t longest = 1;
-  for (size_t at = 0, length; at < name.size(); at += length) {
-    length = ByteAt(name, at) < 0x80 ? 1 : Utf8Length(name, at);
-    if (length == 0) return false;
-    longest = std::max(longest, length);
-  }
-  return longest > (runtime::AnsiCodePage().IsDoubleByte() ? 2u : 1u);
+  return LongestOfUtf8(name) > (runtime::AnsiCodePage().IsDoubleByte() ? 2u : 1u);
 }
 
 std::string InCodePage(std::string_view path) {

@@ -12,6 +12,8 @@ namespace corvane::environment {
 // that are UTF-8 up to the next ASCII character are taken for that, and stepped over at once.
 size_t BehindCharacter(std::string_view path, size_t at);
 
+// Whether all of [text] is UTF-8.
+bool IsUtf8(std::string_view text);
 // Whether [name] is taken for a name of this machine: it holds UTF-8 beyond ASCII, and in a double-byte code page a
 // character of three bytes at least; two may be one character of the page.
 bool IsNameOfUtf8(std::string_view name);

@@ -269,6 +269,13 @@ TEST(Paths, OneOfUtf8AndOneOfTheCodePageAreTheSame) {
   runtime::SetAnsiCodePage(1252);
 }
 
+TEST(Paths, TextIsUtf8OrNot) {
+  for (const char* text : {"", "abc", "caf\xC3\xA9", "\xE2\x82\xAC", "\xF0\x9F\x98\x80"})
+    EXPECT_TRUE(IsUtf8(text)) << text;
+  for (const char* text : {"caf\xE9", "\xC3", "\xC0\xAF", "\xED\xA0\x80", "\xF4\x90\x80\x80", "a\x80"})
+    EXPECT_FALSE(IsUtf8(text)) << text;
+}
+
 TEST(Paths, NamesOfThisMachineAndOfTheCodePageStandSideBySide) {
   runtime::SetAnsiCodePage(936);
   // Two characters of the page, of whose four bytes the first three look like UTF-8.
