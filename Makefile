@@ -16,7 +16,7 @@ packages:
 .PHONY: $(program)
 $(program): packages
 	@cmake --preset release -Wno-dev --log-level=WARNING
-	@cmake --build build -j $(JOBS) --target corvane
+	@cmake --build build -j $(JOBS) --target corvane corvane-desk
 
 run: $(program)
 	@scripts/run $(program) "$(PROJECT)"

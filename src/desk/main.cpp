@@ -1,7 +1,8 @@
 #include <iostream>
 
-#include "desk/command_line.h"
+#include "cli/command_line.h"
+#include "desk/run_desk.h"
 
 int main(int argc, char** argv) {
-  return corvane::desk::RunCommandLine(argc, argv, std::cout, std::cerr);
+  return corvane::cli::RunCommandLine(argc, argv, corvane::desk::RunDesk, std::cout, std::cerr);
 }

@@ -7,9 +7,9 @@
 #include <QMessageBox>
 #include <QMimeData>
 
+#include "cli/plain_services.h"
 #include "desk/ansi_text.h"
 #include "desk/picture_image.h"
-#include "desk/plain_services.h"
 #include "desk/send_keys.h"
 #include "desk/user_settings.h"
 #include "environment/disk_files.h"
@@ -122,7 +122,7 @@ class MessageBoxes : public host::Prompts {
                     QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
     for (const ButtonAnswer& each : kAnswers)
-      if (each.answer == DefaultAnswer(style)) box.setDefaultButton(each.button);
+      if (each.answer == cli::DefaultAnswer(style)) box.setDefaultButton(each.button);
     const int chosen = box.exec();
     for (const ButtonAnswer& each : kAnswers)
       if (each.button == chosen) return each.answer;
@@ -157,20 +157,20 @@ class QtLoop : public host::EventLoop {
  public:
   void DoEvents() override { QCoreApplication::processEvents(); }
   void SendKeys(const std::string& keys) override { PressKeys(ParseKeys(keys)); }
-  uint32_t TickCount() override { return MillisecondsSinceStart(); }
+  uint32_t TickCount() override { return cli::MillisecondsSinceStart(); }
 };
 
 }  // namespace
 
 struct QtServices::State {
   SystemClipboard clipboard;
-  host::App app = NewApp();
+  host::App app = cli::NewApp();
   MessageBoxes prompts{app};
   UserSettings settings;
   PointerScreen screen;
   QtLoop loop;
   std::unique_ptr<host::Files> files = environment::NewDiskFiles();
-  std::unique_ptr<host::Pictures> pictures = NewPictures(*files);
+  std::unique_ptr<host::Pictures> pictures = cli::NewPictures(*files);
 };
 
 QtServices::QtServices() : state_(std::make_unique<State>()) {}

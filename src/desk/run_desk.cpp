@@ -4,8 +4,8 @@
 #include <QTimer>
 #include <iostream>
 
+#include "cli/plain_services.h"
 #include "desk/desk.h"
-#include "desk/plain_services.h"
 #include "desk/qt_services.h"
 #include "desk/tour.h"
 
@@ -25,9 +25,9 @@ void DropPlatformNotes(QtMsgType type, const QMessageLogContext&, const QString&
   if (type != QtDebugMsg && !note) std::cerr << text.toStdString() << '\n';
 }
 
-int DrawPictures(const RunOptions& options, std::ostream& out) {
+int DrawPictures(const cli::DeskOptions& options, std::ostream& out) {
   QtServices services;
-  PlainServices plain;
+  cli::PlainServices plain;
   TourPrompts prompts(static_cast<host::Services>(plain).Prompts, services.Prompts());
   const host::Services shared = services;
   Desk desk({shared.Clipboard, prompts, shared.Settings, shared.App, shared.Screen, shared.Loop, shared.Files,
@@ -41,7 +41,7 @@ int DrawPictures(const RunOptions& options, std::ostream& out) {
   return TakeBoxPictures(desk, prompts, folder, suffix, out) && drawn && prompts.told == 0 ? 0 : 1;
 }
 
-int ShowWindows(const RunOptions& options) {
+int ShowWindows(const cli::DeskOptions& options) {
   QtServices services;
   Desk desk(services, {options.code_page, options.connect_mode, true});
   if (!options.project.empty()) desk.Open(QString::fromStdString(options.project));
@@ -51,7 +51,7 @@ int ShowWindows(const RunOptions& options) {
 
 }  // namespace
 
-int RunDesk(const RunOptions& options, int argc, char** argv, std::ostream& out, std::ostream& errors) {
+int RunDesk(const cli::DeskOptions& options, int argc, char** argv, std::ostream& out, std::ostream& errors) {
   const bool pictures = !options.tour.empty() || !options.screenshots.empty();
   if (pictures && !HasDisplay()) qputenv("QT_QPA_PLATFORM", "offscreen");
   if (!HasDisplay()) {

@@ -1,36 +1,19 @@
 #include "desk/shown_path.h"
 
-#include <QStringDecoder>
-#include <ostream>
-
-#include "desk/ansi_text.h"
-#include "environment/disk_files.h"
+#include "cli/shown_path.h"
 
 namespace corvane::desk {
 
 QString ShownName(std::string_view bytes) {
-  QStringDecoder utf8(QStringDecoder::Utf8);
-  const QString text = utf8(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
-  return utf8.hasError() ? ToLabel(bytes) : text;
+  return QString::fromStdString(cli::ShownName(bytes));
 }
 
 QString ShownPath(const std::string& path) {
-  return ShownName(path.starts_with("Z:\\") ? environment::NativePath(path) : path);
+  return QString::fromStdString(cli::ShownPath(path));
 }
 
-void Tell(std::ostream& errors, const environment::Problem& problem) {
-  errors << ShownPath(problem.file).toStdString() << ':';
-  if (problem.line > 0) errors << problem.line << ':';
-  errors << ' ' << ShownName(problem.reason).toStdString() << '\n';
-}
-
-void TellFailure(std::ostream& errors, const std::string& native, const host::Error& error) {
-  errors << native << ": " << ReasonOf(native, error).toStdString() << '\n';
-}
-
-QString ReasonOf(const std::string& native, const host::Error& error) {
-  const std::string text = error.Description(), own_name = environment::WindowsPath(native) + ": ";
-  return ShownName(text.starts_with(own_name) ? text.substr(own_name.size()) : text);
+QString ReasonOf(const std::string& native, const runtime::Error& error) {
+  return QString::fromStdString(cli::ReasonOf(native, error));
 }
 
 }  // namespace corvane::desk

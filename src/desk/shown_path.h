@@ -1,25 +1,18 @@
-// Paths and messages about files, as the user knows them.
+// Paths and messages about files, as the windows show them; see cli/shown_path.h.
 #pragma once
 
 #include <QString>
-#include <iosfwd>
 #include <string>
 #include <string_view>
 
-#include "environment/environment.h"
+#include "runtime/error.h"
 
 namespace corvane::desk {
 
-// Text that may hold names of this machine: UTF-8 where it is valid, else the code page.
+// Text that may hold names of this machine.
 QString ShownName(std::string_view bytes);
-// "Z:\a\b" is how the logic calls /a/b. Other paths stay.
 QString ShownPath(const std::string& path);
-
-// "file:line: reason" and a line end, as UTF-8.
-void Tell(std::ostream& errors, const environment::Problem& problem);
-// The same for a file of this machine that could not be opened.
-void TellFailure(std::ostream& errors, const std::string& native, const host::Error& error);
 // What [error] says beyond the name of the file itself.
-QString ReasonOf(const std::string& native, const host::Error& error);
+QString ReasonOf(const std::string& native, const runtime::Error& error);
 
 }  // namespace corvane::desk

@@ -9,8 +9,8 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
+#include "cli/plain_services.h"
 #include "desk/picture_image.h"
-#include "desk/plain_services.h"
 #include "desk/qt_services.h"
 #include "desk/user_settings.h"
 #include "environment/disk_files.h"
@@ -106,13 +106,6 @@ TEST(InputBox, ReturnsTheTextAndEmptyTextOnCancel) {
   EXPECT_EQ(services.Prompts().InputBox("Name", "Title", "old"), "");
 }
 
-TEST(PlainPrompts, TheDefaultButtonAnswers) {
-  EXPECT_EQ(DefaultAnswer(host::vbOKOnly), host::vbOK);
-  EXPECT_EQ(DefaultAnswer(host::vbYesNoCancel | host::vbCritical), host::vbYes);
-  EXPECT_EQ(DefaultAnswer(host::vbYesNo | host::vbDefaultButton2), host::vbNo);
-  EXPECT_EQ(DefaultAnswer(host::vbAbortRetryIgnore | host::vbDefaultButton3), host::vbIgnore);
-}
-
 TEST(UserSettings, KeepsAValueAndGivesTheDefaultForAMissingOne) {
   QTemporaryDir folder;
   const QString file = folder.filePath("deep/er/corvane.ini");
@@ -130,7 +123,7 @@ TEST(UserSettings, LiveInTheUsersConfigurationFolder) {
 }
 
 TEST(DataFolder, IsTheLibrarysOwnAndHoldsTheButtonsFace) {
-  PlainServices plain;
+  cli::PlainServices plain;
   const host::Services services = plain;
   EXPECT_EQ(services.App.Path, environment::WindowsPath(CORVANE_SOURCE_DIR "/data"));
   EXPECT_EQ(services.App.Title, "Corvane");
@@ -139,19 +132,8 @@ TEST(DataFolder, IsTheLibrarysOwnAndHoldsTheButtonsFace) {
   EXPECT_EQ(ImageOf(face).height(), 16);
 }
 
-TEST(Pictures, WhatIsNoPictureIsError481) {
-  PlainServices plain;
-  const host::Services services = plain;
-  try {
-    services.Pictures.LoadPicture(services.App.Path + "\\readme.txt");
-    ADD_FAILURE();
-  } catch (const runtime::Error& error) {
-    EXPECT_EQ(error.Number(), 481);
-  }
-}
-
 TEST(PictureImage, TheLightGreyOfAFaceIsTransparent) {
-  PlainServices plain;
+  cli::PlainServices plain;
   const host::Services services = plain;
   const auto face = services.Pictures.LoadPicture(services.App.Path + "\\corvane.bmp");
   const QImage drawn = FaceOf(face).pixmap(16, 16).toImage();

@@ -21,8 +21,9 @@ const std::map<std::string, Rooms> kMayInclude = {
     {"explorer", {"runtime", "host", "forms", "codelist"}},
     {"addin", {"runtime", "host", "forms", "codelist", "explorer"}},
     {"environment", {"runtime", "host"}},
+    {"cli", {"runtime", "host", "forms", "codelist", "explorer", "environment"}},
     {"toolkit_qt", {"runtime", "forms"}},
-    {"desk", {"runtime", "host", "forms", "codelist", "explorer", "addin", "environment", "toolkit_qt"}},
+    {"desk", {"runtime", "host", "forms", "codelist", "explorer", "addin", "environment", "cli", "toolkit_qt"}},
 };
 
 const Rooms kLogic = {"runtime", "host", "forms", "codelist", "explorer", "addin", "environment"};
@@ -57,6 +58,16 @@ TEST(Rooms, TheLogicNamesNoToolkitNoComAndNoSystem) {
   for (const auto& source : Sources("src")) {
     // The disk is the environment's trade: there alone, and there in the files named after it, the system is allowed.
     if (!kLogic.contains(source.room) || source.path.starts_with("src/environment/disk_")) continue;
+    const std::string code = WithoutComments(source.text);
+    std::smatch match;
+    EXPECT_FALSE(std::regex_search(code, match, forbidden)) << source.path << " names " << match.str();
+  }
+}
+
+TEST(Rooms, TheCommandLineNamesNoToolkit) {
+  const std::regex forbidden(R"(#\s*include\s*<Q\w+|\bQ[A-Z][a-z]\w*)");
+  for (const auto& source : Sources("src")) {
+    if (source.room != "cli") continue;
     const std::string code = WithoutComments(source.text);
     std::smatch match;
     EXPECT_FALSE(std::regex_search(code, match, forbidden)) << source.path << " names " << match.str();

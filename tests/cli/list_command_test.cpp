@@ -1,4 +1,4 @@
-#include "desk/list_command.h"
+#include "cli/list_command.h"
 
 #include <gtest/gtest.h>
 #include <sstream>
@@ -10,7 +10,7 @@
 namespace corvane::tests {
 namespace {
 
-using desk::ListOptions;
+using cli::ListOptions;
 using explorer::ProcedureKind;
 using explorer::Visibility;
 
@@ -26,7 +26,7 @@ class ListCommand : public ::testing::Test {
   }
   std::string List(const ListOptions& options) {
     std::ostringstream out;
-    desk::RunListCommand(*environment, options, out);
+    cli::RunListCommand(*environment, options, out);
     return out.str();
   }
   static ListOptions Rows(ProcedureKind kind, Visibility visibility = Visibility::All, const std::string& name = {}) {
@@ -100,8 +100,8 @@ TEST_F(ListCommand, WithoutAProjectItFails) {
 
 TEST(ListWords, OfTheOptions) {
   std::vector<std::string> kinds, visibilities;
-  for (const auto& [word, kind] : desk::KindWords()) kinds.push_back(word);
-  for (const auto& [word, visibility] : desk::VisibilityWords()) visibilities.push_back(word);
+  for (const auto& [word, kind] : cli::KindWords()) kinds.push_back(word);
+  for (const auto& [word, visibility] : cli::VisibilityWords()) visibilities.push_back(word);
   EXPECT_EQ(kinds, (std::vector<std::string>{"all", "subs", "functions", "properties", "events"}));
   EXPECT_EQ(visibilities, (std::vector<std::string>{"all", "public", "private", "static"}));
 }

@@ -4,7 +4,7 @@
 #include <ostream>
 #include <string>
 
-namespace corvane::desk {
+namespace corvane::cli {
 
 // Assigns the file's text to a fresh list with sGrid [mode] ("vb", "sql", "text" or any other) and ListRole
 // [list_role], and writes each stored line as JSON: {"level":33,"text":"..."}, all marks in the text. [code_page]
@@ -15,4 +15,4 @@ int InspectLines(const std::string& file_bytes, const std::string& mode, int lis
 // Whether text of that Windows code page can be read.
 bool IsKnownCodePage(int number);
 
-}  // namespace corvane::desk
+}  // namespace corvane::cli

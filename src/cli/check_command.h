@@ -6,7 +6,7 @@
 
 #include "host/services.h"
 
-namespace corvane::desk {
+namespace corvane::cli {
 
 enum CheckStatus : int { kUnderstood = 0, kNotUnderstood = 1, kBytesWouldChange = 3 };
 
@@ -16,4 +16,4 @@ enum CheckStatus : int { kUnderstood = 0, kNotUnderstood = 1, kBytesWouldChange 
 CheckStatus RunCheckCommand(const std::string& path, int code_page, host::Files& files, std::ostream& out,
                             std::ostream& errors);
 
-}  // namespace corvane::desk
+}  // namespace corvane::cli

@@ -3,11 +3,11 @@
 
 #include <string>
 
+#include "cli/plain_services.h"
 #include "codelist/uc_list_box.h"
-#include "desk/plain_services.h"
 #include "forms/headless_toolkit.h"
 
-namespace corvane::desk {
+namespace corvane::cli {
 
 class HeadlessList {
  public:
@@ -30,4 +30,4 @@ class HeadlessList {
 // The lines of a list end with CR LF: a lone LF of a file becomes one.
 std::string WithCrLf(const std::string& text);
 
-}  // namespace corvane::desk
+}  // namespace corvane::cli

@@ -13,7 +13,7 @@ namespace corvane::environment {
 class Environment;
 }
 
-namespace corvane::desk {
+namespace corvane::cli {
 
 struct ListOptions {
   bool procedures = false;  // rows of procedures in place of components
@@ -34,4 +34,4 @@ void RunListCommand(environment::Environment& environment, const ListOptions& op
 // Of a group: one line on [errors] with the name of the project that is listed and those of the others.
 void TellOtherProjects(environment::Environment& environment, const std::string& path, std::ostream& errors);
 
-}  // namespace corvane::desk
+}  // namespace corvane::cli

@@ -1,11 +1,11 @@
-#include "desk/inspect_command.h"
+#include "cli/inspect_command.h"
 
 #include <gtest/gtest.h>
 #include <sstream>
 
 #include "runtime/code_page.h"
 
-namespace corvane::desk {
+namespace corvane::cli {
 namespace {
 
 std::string Inspect(const std::string& bytes, const std::string& mode, int role = 0, int code_page = 1252) {
@@ -53,4 +53,4 @@ TEST(InspectLines, AnEmptyFileHasNoLines) {
 }
 
 }  // namespace
-}  // namespace corvane::desk
+}  // namespace corvane::cli

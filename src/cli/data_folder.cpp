@@ -1,15 +1,20 @@
-#include "desk/data_folder.h"
+#include "cli/data_folder.h"
 
 #include <cstdlib>
 
-namespace corvane::desk {
+namespace corvane::cli {
 
 namespace fs = std::filesystem;
+
+fs::path ProgramFolder() {
+  std::error_code ignored;
+  return fs::read_symlink("/proc/self/exe", ignored).parent_path();
+}
 
 fs::path DataFolder() {
   std::error_code ignored;
   if (const char* named = std::getenv("CORVANE_DATA"); named && *named) return fs::absolute(named, ignored);
-  const fs::path folder = fs::read_symlink("/proc/self/exe", ignored).parent_path();
+  const fs::path folder = ProgramFolder();
   for (const char* place : {"../data", "../../data", "../share/corvane"}) {
     const fs::path candidate = (folder / place).lexically_normal();
     if (fs::exists(candidate / "corvane.bmp", ignored)) return candidate;
@@ -17,4 +22,4 @@ fs::path DataFolder() {
   return folder;
 }
 
-}  // namespace corvane::desk
+}  // namespace corvane::cli

@@ -1,6 +1,6 @@
-#include "desk/headless_list.h"
+#include "cli/headless_list.h"
 
-namespace corvane::desk {
+namespace corvane::cli {
 
 std::string WithCrLf(const std::string& text) {
   std::string result;
@@ -12,4 +12,4 @@ std::string WithCrLf(const std::string& text) {
   return result;
 }
 
-}  // namespace corvane::desk
+}  // namespace corvane::cli

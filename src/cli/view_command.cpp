@@ -1,13 +1,13 @@
-#include "desk/view_command.h"
+#include "cli/view_command.h"
 
 #include <cstdio>
 #include <string_view>
 
-#include "desk/headless_list.h"
+#include "cli/headless_list.h"
 #include "runtime/code_page.h"
 #include "runtime/strings.h"
 
-namespace corvane::desk {
+namespace corvane::cli {
 
 namespace {
 
@@ -173,4 +173,4 @@ int ViewFile(const std::string& file_bytes, const std::string& file_name, bool h
   return 0;
 }
 
-}  // namespace corvane::desk
+}  // namespace corvane::cli

@@ -1,12 +1,12 @@
-// PlainServices: the runtime's services without a display, for the command line. The clipboard is the process's own; a
-// message goes to standard error and is answered by its default button; settings and files are the user's.
+// PlainServices: the runtime's services without a display, for the command line. Clipboard and
+// settings are the process's own; a message goes to standard error and is answered by its default button.
 #pragma once
 
 #include <memory>
 
 #include "host/services.h"
 
-namespace corvane::desk {
+namespace corvane::cli {
 
 class PlainServices {
  public:
@@ -20,7 +20,7 @@ class PlainServices {
   std::unique_ptr<State> state_;
 };
 
-// App as both homes of the desk set it up: the data folder, "Corvane".
+// App as the command line and the desk set it up: the data folder, "Corvane".
 host::App NewApp();
 // Loads a picture as its bytes. Throws Error 53 (and what Files throws), 481 for what is no picture.
 std::unique_ptr<host::Pictures> NewPictures(host::Files& files);
@@ -28,4 +28,4 @@ uint32_t MillisecondsSinceStart();
 // The button that [style] makes the default one, as MsgBox returns it.
 long DefaultAnswer(long style);
 
-}  // namespace corvane::desk
+}  // namespace corvane::cli

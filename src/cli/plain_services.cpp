@@ -1,15 +1,15 @@
-#include "desk/plain_services.h"
+#include "cli/plain_services.h"
 
 #include <array>
 #include <chrono>
 #include <iostream>
+#include <map>
 
-#include "desk/data_folder.h"
-#include "desk/user_settings.h"
+#include "cli/data_folder.h"
 #include "environment/disk_files.h"
 #include "runtime/code_page.h"
 
-namespace corvane::desk {
+namespace corvane::cli {
 
 namespace {
 
@@ -36,6 +36,22 @@ class PlainPrompts : public host::Prompts {
     return DefaultAnswer(style);
   }
   std::string InputBox(const std::string&, const std::string&, const std::string&) override { return {}; }
+};
+
+class PlainSettings : public host::Settings {
+ public:
+  std::string GetSetting(const std::string& app, const std::string& section, const std::string& key,
+                         const std::string& default_value) override {
+    const auto found = values_.find({app, section, key});
+    return found == values_.end() ? default_value : found->second;
+  }
+  void SaveSetting(const std::string& app, const std::string& section, const std::string& key,
+                   const std::string& value) override {
+    values_[{app, section, key}] = value;
+  }
+
+ private:
+  std::map<std::array<std::string, 3>, std::string> values_;
 };
 
 class PlainScreen : public host::Screen {
@@ -82,7 +98,7 @@ class FilePictures : public host::Pictures {
 struct PlainServices::State {
   PlainClipboard clipboard;
   PlainPrompts prompts;
-  UserSettings settings;
+  PlainSettings settings;
   host::App app = NewApp();
   PlainScreen screen;
   PlainLoop loop;
@@ -131,4 +147,4 @@ long DefaultAnswer(long style) {
   return answer ? answer : kButtons[set][0];
 }
 
-}  // namespace corvane::desk
+}  // namespace corvane::cli

@@ -1,22 +1,21 @@
-#include "desk/command_line.h"
+#include "cli/command_line.h"
 
 #include <CLI/CLI.hpp>
 #include <charconv>
 #include <ostream>
 
-#include "desk/check_command.h"
-#include "desk/inspect_command.h"
-#include "desk/list_command.h"
-#include "desk/plain_services.h"
-#include "desk/run_desk.h"
-#include "desk/shown_path.h"
-#include "desk/view_command.h"
+#include "cli/check_command.h"
+#include "cli/inspect_command.h"
+#include "cli/list_command.h"
+#include "cli/plain_services.h"
+#include "cli/shown_path.h"
+#include "cli/view_command.h"
 #include "environment/disk_files.h"
 #include "environment/environment.h"
 #include "runtime/code_page.h"
 #include "runtime/error.h"
 
-namespace corvane::desk {
+namespace corvane::cli {
 
 namespace {
 
@@ -95,7 +94,7 @@ class CommandLine {
  public:
   CommandLine(std::ostream& out, std::ostream& errors) : command_{out, errors} {}
 
-  int Run(int argc, char** argv) {
+  int Run(int argc, char** argv, OpenDesk open_desk) {
     app_.require_subcommand(0, 1);
     DefineDesk();
     DefineList();
@@ -107,7 +106,7 @@ class CommandLine {
     } catch (const CLI::ParseError& error) {
       return app_.exit(error, command_.out, command_.errors) == 0 ? kDone : kWrongUsage;
     }
-    return run_ ? Written(run_()) : RunDesk(desk_, argc, argv, command_.out, command_.errors);
+    return run_ ? Written(run_()) : open_desk(desk_, argc, argv, command_.out, command_.errors);
   }
 
  private:
@@ -203,7 +202,7 @@ class CommandLine {
 
   Command command_;
   CLI::App app_{"Corvane, a project explorer for Visual Basic 6"};
-  RunOptions desk_;
+  DeskOptions desk_;
   ListOptions list_;
   std::string path_, filter_, mode_;
   bool html_ = false;
@@ -213,8 +212,8 @@ class CommandLine {
 
 }  // namespace
 
-int RunCommandLine(int argc, char** argv, std::ostream& out, std::ostream& errors) {
-  return CommandLine(out, errors).Run(argc, argv);
+int RunCommandLine(int argc, char** argv, OpenDesk open_desk, std::ostream& out, std::ostream& errors) {
+  return CommandLine(out, errors).Run(argc, argv, open_desk);
 }
 
-}  // namespace corvane::desk
+}  // namespace corvane::cli

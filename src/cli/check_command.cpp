@@ -1,13 +1,13 @@
-#include "desk/check_command.h"
+#include "cli/check_command.h"
 
 #include <ostream>
 
-#include "desk/shown_path.h"
+#include "cli/shown_path.h"
 #include "environment/disk_files.h"
 #include "environment/environment.h"
 #include "environment/project.h"
 
-namespace corvane::desk {
+namespace corvane::cli {
 
 namespace {
 
@@ -17,8 +17,7 @@ long TellChanges(std::ostream& errors, const std::vector<environment::CheckedFil
   for (const environment::CheckedFile& file : files) {
     if (file.identical) continue;
     ++changes;
-    errors << ShownPath(file.path).toStdString() << ": would be written otherwise from byte " << file.first_difference
-           << " on\n";
+    errors << ShownPath(file.path) << ": would be written otherwise from byte " << file.first_difference << " on\n";
   }
   return changes;
 }
@@ -43,4 +42,4 @@ CheckStatus RunCheckCommand(const std::string& path, int code_page, host::Files&
   return environment->Problems().empty() ? kUnderstood : kNotUnderstood;
 }
 
-}  // namespace corvane::desk
+}  // namespace corvane::cli

@@ -1,4 +1,4 @@
-#include "desk/check_command.h"
+#include "cli/check_command.h"
 
 #include <gtest/gtest.h>
 #include <map>
@@ -6,7 +6,7 @@
 
 #include "environment/memory_files.h"
 
-namespace corvane::desk {
+namespace corvane::cli {
 namespace {
 
 // Whoever reads a file again finds other bytes in it, where [changes] names it.
@@ -56,4 +56,4 @@ TEST_F(CheckCommand, ADifferenceCountsForMoreThanWhatWasNotUnderstood) {
 }
 
 }  // namespace
-}  // namespace corvane::desk
+}  // namespace corvane::cli

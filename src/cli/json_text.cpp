@@ -1,10 +1,10 @@
-#include "desk/json_text.h"
+#include "cli/json_text.h"
 
 #include <cstdio>
 
 #include "runtime/code_page.h"
 
-namespace corvane::desk {
+namespace corvane::cli {
 
 std::string JsonText(std::string_view bytes) {
   std::string json = "\"";
@@ -22,4 +22,4 @@ std::string JsonText(std::string_view bytes) {
   return json += '"';
 }
 
-}  // namespace corvane::desk
+}  // namespace corvane::cli

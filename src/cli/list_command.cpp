@@ -1,14 +1,14 @@
-#include "desk/list_command.h"
+#include "cli/list_command.h"
 
-#include <cstdio>
 #include <ostream>
 
+#include "cli/json_text.h"
 #include "environment/environment.h"
 #include "explorer/project_access.h"
 #include "runtime/code_page.h"
 #include "runtime/strings.h"
 
-namespace corvane::desk {
+namespace corvane::cli {
 
 using explorer::ProcedureKind;
 using explorer::Visibility;
@@ -45,21 +45,6 @@ std::string Utf8(std::string_view text) {
   return runtime::AnsiCodePage().ToUtf8(text);
 }
 
-std::string JsonString(std::string_view text) {
-  std::string json = "\"";
-  for (char c : Utf8(text)) {
-    if (c == '"' || c == '\\') json += '\\';
-    if (static_cast<unsigned char>(c) >= ' ') {
-      json += c;
-      continue;
-    }
-    char escape[8];
-    std::snprintf(escape, sizeof escape, "\\u%04x", static_cast<unsigned>(static_cast<unsigned char>(c)));
-    json += escape;
-  }
-  return json + '"';
-}
-
 class Lister {
  public:
   Lister(const ListOptions& options, std::ostream& out) : options_(options), out_(out) {}
@@ -79,12 +64,12 @@ class Lister {
     explorer::ScanProcedures(*component.CodeModule(), options_.filter, [&](long line, const std::string& text) {
       std::string row = runtime::LTrim(text);
       lines += head + std::to_string(line);
-      lines += options_.json ? ",\"text\":" + JsonString(row) + "}\n" : "\t" + Utf8(row) + "\n";
+      lines += options_.json ? ",\"text\":" + JsonText(row) + "}\n" : "\t" + Utf8(row) + "\n";
     });
   }
 
   std::string HeadOfRows(const std::string& name) const {
-    return options_.json ? "{\"component\":" + JsonString(name) + ",\"line\":" : Utf8(name) + "\t";
+    return options_.json ? "{\"component\":" + JsonText(name) + ",\"line\":" : Utf8(name) + "\t";
   }
 
   void AddCounts(host::VBComponent& component, std::string& lines) {
@@ -94,7 +79,7 @@ class Lister {
     std::string counts[] = {std::to_string(module->CountOfLines()), std::to_string(module->CountOfDeclarationLines()),
                             std::to_string(procedures)};
     if (options_.json)
-      lines += "{\"component\":" + JsonString(component.Name()) + ",\"kind\":\"" + NameOfKind(component.Type()) +
+      lines += "{\"component\":" + JsonText(component.Name()) + ",\"kind\":\"" + NameOfKind(component.Type()) +
                "\",\"lines\":" + counts[0] + ",\"declarations\":" + counts[1] + ",\"procedures\":" + counts[2] + "}\n";
     else
       lines += Utf8(component.Name()) + "\t" + NameOfKind(component.Type()) + "\t" + counts[0] + "\t" + counts[1] +
@@ -141,4 +126,4 @@ void TellOtherProjects(environment::Environment& environment, const std::string&
   errors << path << ": " << Utf8(active->Name()) << " is listed, the active project; not listed: " << others << '\n';
 }
 
-}  // namespace corvane::desk
+}  // namespace corvane::cli

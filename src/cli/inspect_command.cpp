@@ -1,10 +1,10 @@
-#include "desk/inspect_command.h"
+#include "cli/inspect_command.h"
 
-#include "desk/headless_list.h"
-#include "desk/json_text.h"
+#include "cli/headless_list.h"
+#include "cli/json_text.h"
 #include "runtime/code_page.h"
 
-namespace corvane::desk {
+namespace corvane::cli {
 
 int InspectLines(const std::string& file_bytes, const std::string& mode, int list_role, int code_page,
                  std::ostream& out) {
@@ -23,4 +23,4 @@ bool IsKnownCodePage(int number) {
   return runtime::CodePage(number).Number() == number;
 }
 
-}  // namespace corvane::desk
+}  // namespace corvane::cli

@@ -1,4 +1,4 @@
-#include "desk/view_command.h"
+#include "cli/view_command.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -6,7 +6,7 @@
 
 #include "runtime/code_page.h"
 
-namespace corvane::desk {
+namespace corvane::cli {
 namespace {
 
 using testing::HasSubstr;
@@ -53,4 +53,4 @@ TEST(ViewFile, KeepsTheTextAsItIs) {
 }
 
 }  // namespace
-}  // namespace corvane::desk
+}  // namespace corvane::cli
