@@ -72,20 +72,12 @@ class PlainLoop : public host::EventLoop {
 
 constexpr long kInvalidPicture = 481;
 
-bool LooksLikePicture(std::string_view bytes) {
-  using namespace std::string_view_literals;
-  for (std::string_view start : {"BM"sv, "GIF8"sv, "\x89PNG"sv, "\xFF\xD8\xFF"sv, "\0\0\1\0"sv, "\0\0\2\0"sv, "<svg"sv,
-                                 "<?xml"sv, "\xD7\xCD\xC6\x9A"sv})
-    if (bytes.substr(0, start.size()) == start) return true;
-  return false;
-}
-
 class FilePictures : public host::Pictures {
  public:
   explicit FilePictures(host::Files& files) : files_(files) {}
   runtime::PictureRef LoadPicture(const std::string& path) override {
     std::string bytes = files_.Read(path);
-    if (!LooksLikePicture(bytes)) throw runtime::Error(kInvalidPicture, "Invalid picture");
+    if (!runtime::IsPicture(bytes)) throw runtime::Error(kInvalidPicture, "Invalid picture");
     return std::make_shared<runtime::Picture>(runtime::Picture{std::move(bytes)});
   }
 

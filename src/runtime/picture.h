@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace corvane::runtime {
 
@@ -11,5 +12,8 @@ struct Picture {
 };
 
 using PictureRef = std::shared_ptr<const Picture>;
+
+// Whether a file of [bytes] begins as one of these kinds does.
+bool IsPicture(std::string_view bytes);
 
 }  // namespace corvane::runtime
