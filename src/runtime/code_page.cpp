@@ -1,8 +1,8 @@
 #include "runtime/code_page.h"
 
-#include <cerrno>
-#include <iconv.h>
 #include <memory>
+
+#include "runtime/code_page_tables.h"
 
 namespace corvane::runtime {
 
@@ -15,59 +15,6 @@ bool IsKnown(int number) {
     if (page == number) return true;
   return false;
 }
-
-std::string IconvName(int number) {
-  return number == 936 ? "GBK" : "CP" + std::to_string(number);
-}
-
-class Iconv {
- public:
-  Iconv(const std::string& to, const std::string& from) : handle_(iconv_open(to.c_str(), from.c_str())) {}
-  ~Iconv() {
-    if (Good()) iconv_close(handle_);
-  }
-  Iconv(const Iconv&) = delete;
-  Iconv& operator=(const Iconv&) = delete;
-  bool Good() const { return handle_ != reinterpret_cast<iconv_t>(-1); }
-
-  // Converts all of [input]; where it cannot, appends [substitute] and steps on by what [step] says.
-  // Returns whether nothing was substituted.
-  template <class Step>
-  bool Convert(std::string_view input, std::string_view substitute, Step step, std::string& output) {
-    bool clean = true;
-    char* in = const_cast<char*>(input.data());
-    size_t left = input.size();
-    char buffer[4096];
-    while (left > 0) {
-      char* out = buffer;
-      size_t room = sizeof buffer;
-      size_t result = iconv(handle_, &in, &left, &out, &room);
-      int error = errno;
-      output.append(buffer, sizeof buffer - room);
-      if (result != static_cast<size_t>(-1) || error == E2BIG) continue;
-      Finish(output);
-      output.append(substitute);
-      clean = false;
-      size_t skipped = std::min(left, step(std::string_view(in, left)));
-      in += skipped;
-      left -= skipped;
-    }
-    Finish(output);
-    return clean;
-  }
-
- private:
-  // Pages with combining characters hold the last one back, to see whether an accent follows.
-  void Finish(std::string& output) {
-    char buffer[16];
-    char* out = buffer;
-    size_t room = sizeof buffer;
-    iconv(handle_, nullptr, nullptr, &out, &room);
-    output.append(buffer, sizeof buffer - room);
-  }
-
-  iconv_t handle_;
-};
 
 char32_t CaseOf(char32_t c, bool upper) {
   auto shift = [&](char32_t first_upper, char32_t last_upper, char32_t distance) -> char32_t {
@@ -141,23 +88,14 @@ bool IsLetter(char32_t c) {
 
 CodePage::CodePage(int number) : number_(IsKnown(number) ? number : 1252) {
   double_byte_ = number_ == 932 || number_ == 936 || number_ == 949 || number_ == 950;
-  Iconv iconv("UTF-32LE", IconvName(number_));
+  CharacterTable characters(number_);
   for (int byte = 0; byte < 256; ++byte) {
     char32_t code = static_cast<char32_t>(byte);
     if (byte >= 0x80) {
       bool lead = double_byte_ && (number_ == 932 ? (byte >= 0x81 && byte <= 0x9F) || (byte >= 0xE0 && byte <= 0xFC)
                                                   : byte >= 0x81 && byte <= 0xFE);
       lead_[byte] = lead;
-      std::string out;
-      char input = static_cast<char>(byte);
-      if (lead || !iconv.Good() ||
-          !iconv.Convert(
-              {&input, 1}, "", [](auto) { return size_t{1}; }, out) ||
-          out.size() < 4)
-        code = 0xFFFD;
-      else
-        code = static_cast<unsigned char>(out[0]) | static_cast<unsigned char>(out[1]) << 8 |
-               static_cast<char32_t>(static_cast<unsigned char>(out[2])) << 16;
+      code = lead ? 0xFFFD : characters.Of(static_cast<unsigned char>(byte));
     }
     unicode_[byte] = code;
   }
@@ -220,12 +158,7 @@ std::string CodePage::ToUtf8(std::string_view bytes) const {
   bool plain = true;
   for (char c : bytes) plain = plain && static_cast<unsigned char>(c) < 0x80;
   if (plain) return std::string(bytes);
-  std::string result;
-  Iconv iconv("UTF-8", IconvName(number_));
-  if (!iconv.Good()) return std::string(bytes.size(), '?');
-  iconv.Convert(
-      bytes, "\xEF\xBF\xBD", [](std::string_view) { return size_t{1}; }, result);
-  return result;
+  return Utf8OfPage(number_, bytes);
 }
 
 std::string CodePage::FromUtf8(std::string_view utf8) const {
@@ -236,14 +169,7 @@ std::string CodePage::FromUtf8(std::string_view utf8) const {
 
 bool CodePage::FromUtf8(std::string_view utf8, std::string& bytes) const {
   bytes.clear();
-  Iconv iconv(IconvName(number_), "UTF-8");
-  if (!iconv.Good()) return false;
-  auto step = [](std::string_view rest) {
-    size_t length = 1;
-    while (length < rest.size() && (static_cast<unsigned char>(rest[length]) & 0xC0) == 0x80) ++length;
-    return length;
-  };
-  return iconv.Convert(utf8, "?", step, bytes);
+  return PageOfUtf8(number_, utf8, bytes);
 }
 
 namespace {
