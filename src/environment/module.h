@@ -6,10 +6,16 @@
 #include <vector>
 
 #include "host/project.h"
+#include "host/services.h"
 
 namespace corvane::environment {
 
 class Project;
+
+struct ChangedFile {
+  std::string path;
+  host::FileStamp stamp;  // as it is now
+};
 
 // What the desk and the command line need beyond the object model.
 class Module : public host::VBComponent {
@@ -38,6 +44,12 @@ class Module : public host::VBComponent {
   virtual bool ChangedOnDisk() const = 0;
   // Full paths of the binary files that Save would write and that somebody else changed since they were read.
   virtual std::vector<std::string> ChangedSiblings() const = 0;
+  // Its files, binary ones too, that somebody else changed since they were read; none of them that is gone.
+  virtual std::vector<ChangedFile> FilesChangedOnDisk() const = 0;
+  // Takes over its files as they are on disk, edits made here are lost. Panes and designers stay open, selections stay
+  // on the lines they stood on; what was handed out of its designer is Error 91 from then on. Throws host::Error with
+  // the reason where the file cannot be read, or is no such component any more: everything is as it was then.
+  virtual void ReadAgain() = 0;
 };
 
 }  // namespace corvane::environment

@@ -42,6 +42,9 @@ class ModuleText {
   // place, and go with it. [revives]: a member that had lost its attributes by such an edit gets them back.
   void Replace(long start, long count, const std::vector<std::string_view>& lines, bool revives = false);
 
+  // Members that [other] lost may come back here, too.
+  void KeepLostOf(const ModuleText& other) { lost_ = other.lost_; }
+
   // The bytes in front of the code: header, designer part, attributes of the module.
   std::string_view Head() const;
   void SetHead(std::string head);

@@ -21,7 +21,9 @@ class Observer {
   virtual void DesignerShown(Module&, bool /*visible*/) {}
   virtual void DesignerFocused(Module&) {}
   virtual void DesignerChanged(Module&) {}  // a control or property
-  virtual void ComponentsChanged() {}       // added, removed, renamed, saved under another name
+  // After the notices of its lines: it was taken from the disk, its designer is a new one.
+  virtual void ModuleReadAgain(Module&) {}
+  virtual void ComponentsChanged() {}               // added, removed, renamed, saved under another name
   virtual void ImmediateChanged(bool /*shown*/) {}  // shown and focused, or closed
   virtual void MainWindowFocused() {}
   virtual void CommandBarsChanged() {}

@@ -135,6 +135,10 @@ std::unordered_set<long> OpenEnvironment::LinesReported(const std::string& file)
   return lines;
 }
 
+void OpenEnvironment::ForgetProblems(const std::string& file) {
+  std::erase_if(problems_, [&](const Problem& problem) { return SamePath(problem.file, file); });
+}
+
 void OpenEnvironment::Forget(const OpenModule& module) {
   if (selected_.lock().get() == &module) selected_.reset();
 }

@@ -71,6 +71,7 @@ class OpenEnvironment : public Environment {
   const std::string& GroupPath() const { return group_path_; }
   // The lines of [file] of which something was reported already.
   std::unordered_set<long> LinesReported(const std::string& file) const;
+  void ForgetProblems(const std::string& file);
   void Report(Problem problem) { problems_.push_back(std::move(problem)); }
 
  private:

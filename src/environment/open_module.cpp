@@ -33,7 +33,9 @@ OpenModule::OpenModule(OpenProject& project, Source source)
       path_(std::move(source.path)),
       project_line_(source.project_line),
       stamp_(source.stamp) {
-  if (HasCode(kind_->type)) ReadSource(std::move(source.bytes), source.head);
+  if (!HasCode(kind_->type)) return;
+  TakeHead(source.head);
+  text_ = ModuleText(std::move(source.bytes), source.head.code_start);
 }
 
 OpenModule::~OpenModule() {
@@ -56,12 +58,10 @@ void OpenModule::Detach() {
   project_.reset();
 }
 
-void OpenModule::ReadSource(std::string bytes, const ModuleHead& head) {
+void OpenModule::TakeHead(const ModuleHead& head) {
   designer_end_ = head.designer_end;
   cut_off_ = head.cut_off;
   charsets_ = head.charsets;
-  text_ = ModuleText(std::move(bytes), head.code_start);
-  procedures_.reset();
 }
 
 OpenEnvironment& OpenModule::Environment() const {
@@ -145,12 +145,16 @@ void OpenModule::Change(long start, long count, const std::string* text, bool by
   if (cut_off_) throw host::Error(runtime::kPathFileAccessError, "the file breaks off in its designer part");
   std::vector<std::string_view> lines;
   if (text != nullptr) lines = CutIntoLines(*text);
+  Replace(start, count, lines, by_user);
+  SetDirty();
+}
+
+void OpenModule::Replace(long start, long count, const std::vector<std::string_view>& lines, bool by_user) {
   auto inserted = static_cast<long>(lines.size());
   if (procedures_ && !procedures_->Follow(start, count, lines)) procedures_.reset();
   text_.Replace(start, count, lines, by_user);
   if (pane_) pane_->LinesChanged(start, count, inserted);
   if (Observer* observer = Environment().CurrentObserver()) observer->LinesChanged(*this, start, count, inserted);
-  SetDirty();
 }
 
 void OpenModule::ReplaceLines(long start, long count, const std::string& text) {
@@ -169,28 +173,6 @@ void OpenModule::TakeSaved(const std::string& path, const host::FileStamp& stamp
   stamp_ = stamp;
   dirty_ = false;
   if (designer_) designer_->SetClean();
-}
-
-// The name that another project gave it in the file that they share.
-void OpenModule::TakeName(const std::string& name) {
-  auto project = project_.lock();
-  if (!project || name.empty() || name == name_) return;
-  if (project->HasName(name, this))
-    return Environment().Report({path_, 0, "its name " + name + " is that of another component of " + project->Name()});
-  std::string old_name = std::exchange(name_, name);
-  project->WasRenamed(*this, old_name);
-}
-
-void OpenModule::Reload(std::string bytes, const host::FileStamp& stamp) {
-  long old_count = text_.Count();
-  ModuleHead head = ReadModuleHead(bytes);
-  ReadSource(std::move(bytes), head);
-  if (designer_) designer_->Detach();
-  designer_.reset();
-  siblings_read_.clear();
-  stamp_ = stamp;
-  TakeName(head.name.empty() ? head.root_name : head.name);
-  if (Observer* observer = Environment().CurrentObserver()) observer->LinesChanged(*this, 1, old_count, text_.Count());
 }
 
 bool OpenModule::ChangedOnDisk() const {

@@ -75,6 +75,8 @@ class OpenModule : public Module,
   void UserSelectControls(const std::vector<long>& positions) override;
   bool ChangedOnDisk() const override;
   std::vector<std::string> ChangedSiblings() const override;
+  std::vector<ChangedFile> FilesChangedOnDisk() const override;
+  void ReadAgain() override;
 
   // PaneOwner
   host::Ref<host::CodeModule> PaneModule() override { return CodeModule(); }
@@ -130,13 +132,16 @@ class OpenModule : public Module,
   void MoveSiblingBack(const std::string& name);
   // Its file holds what WriteToText gave.
   void TakeSaved(const std::string& path, const host::FileStamp& stamp);
-  // Takes [bytes] from the disk, and the name in them, for its own; nothing of it was edited.
-  void Reload(std::string bytes, const host::FileStamp& stamp);
+  // Takes the text, the name and the designer of its file for its own.
+  void Reload(Source source);
   void SetDirty();
 
  private:
   OpenEnvironment& Environment() const;  // Error 91 when it is closed
-  void ReadSource(std::string bytes, const ModuleHead& head);
+  void TakeHead(const ModuleHead& head);
+  void TakeText(ModuleText text);
+  // Replaces lines, with notice.
+  void Replace(long start, long count, const std::vector<std::string_view>& lines, bool by_user);
   environment::Designer& DesignerOf();
   std::string HeadText() const;
   void RenameHead(const std::string& name);

@@ -43,6 +43,10 @@ class OpenProject : public Project, public std::enable_shared_from_this<OpenProj
   const std::vector<std::shared_ptr<OpenModule>>& OpenModules() const { return modules_; }
   long PositionOf(const OpenModule& module) const;
   bool HasName(const std::string& name, const OpenModule* but) const;
+  // The file of [module] with [bytes] in it.
+  OpenModule::Source SourceOf(OpenModule& module, std::string bytes, const host::FileStamp& stamp) const;
+  // The same with what is on disk. Throws host::Error with the reason where it cannot take the place of what was read.
+  OpenModule::Source ReadFileAgain(OpenModule& module) const;
   void RequireFreeName(const std::string& name, const OpenModule* but) const;  // Error 32813
   void WasRenamed(OpenModule& module, const std::string& old_name);
   void SaveAs(OpenModule& module, const std::string& path);
@@ -68,6 +72,7 @@ class OpenProject : public Project, public std::enable_shared_from_this<OpenProj
   int CodePageOfPaths(const std::vector<ComponentLine>& lines) const;
   void NotifyComponents();
   bool ReadBytes(const ComponentLine& line, const std::vector<SourceFile>& sources, OpenModule::Source& source);
+  static std::string TextRefusal(const OpenModule::Source& source);
   std::string Refusal(const OpenModule::Source& source) const;
   void CollectNamesInUse();
   void AddNamesInUse(OpenModule& module);

@@ -179,11 +179,17 @@ bool OpenProject::ReadBytes(const ComponentLine& line, const std::vector<SourceF
   }
 }
 
-// Why a file that was read cannot be a module of the project; empty text for one that can.
-std::string OpenProject::Refusal(const OpenModule::Source& source) const {
+// Why a file that was read can be no module of its kind; empty text for one that can.
+std::string OpenProject::TextRefusal(const OpenModule::Source& source) {
   if (long line = LineOfNul(source.bytes)) return "no text: NUL byte in line " + std::to_string(line);
   if (HasDesigner(source.kind->type) && source.head.version.empty())
     return "no " + std::string(source.kind->key) + ": its first line is not VERSION";
+  return {};
+}
+
+// Why it cannot be a module of this project.
+std::string OpenProject::Refusal(const OpenModule::Source& source) const {
+  if (std::string reason = TextRefusal(source); !reason.empty()) return reason;
   if (paths_in_use_.count(runtime::UCase(InCodePage(source.path)))) return "named twice in the project";
   auto other = HasCode(source.kind->type) ? names_in_use_.find(runtime::UCase(source.name)) : names_in_use_.end();
   if (other != names_in_use_.end()) return "its name " + source.name + " is that of " + other->second;

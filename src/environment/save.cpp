@@ -123,7 +123,7 @@ void OpenEnvironment::FileWasSaved(const OpenModule& module, const std::string& 
   for (const auto& project : projects_)
     for (const auto& other : project->OpenModules())
       if (other.get() != &module && !other->IsDirty() && SamePath(other->Path(), module.Path()))
-        other->Reload(saved, files_.Stamp(module.Path()));
+        other->Reload(project->SourceOf(*other, saved, files_.Stamp(module.Path())));
 }
 
 std::vector<Problem> OpenEnvironment::SaveAll() {
