@@ -132,8 +132,7 @@ void MainWindow::BuildStatus() {
   statusBar()->addPermanentWidget(code_page_);
 }
 
-void MainWindow::ShowProject() {
-  tree_->FillAgain();
+void MainWindow::ShowProblems() {
   problems_->clear();
   for (const environment::Problem& problem : environment_->Problems()) {
     auto* item = new QTreeWidgetItem(
@@ -144,9 +143,18 @@ void MainWindow::ShowProject() {
   }
   problems_->resizeColumnToContents(0);
   problems_->resizeColumnToContents(1);
-  const bool any = problems_->topLevelItemCount() > 0;
-  problem_dock_->setVisible(any);
-  if (any) problem_dock_->raise();
+}
+
+void MainWindow::RaiseProblems() {
+  problem_dock_->show();
+  problem_dock_->raise();
+}
+
+void MainWindow::ShowProject() {
+  tree_->FillAgain();
+  ShowProblems();
+  problem_dock_->hide();
+  if (problems_->topLevelItemCount() > 0) RaiseProblems();
   code_page_->setText(tr("Code page %1").arg(environment_->CodePage()));
   ShowTitle();
   ShowProperties();

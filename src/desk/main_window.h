@@ -9,6 +9,7 @@
 
 #include "environment/command_bar_model.h"
 #include "environment/environment.h"
+#include "environment/module.h"
 #include "environment/observer.h"
 #include "environment/project.h"
 
@@ -59,7 +60,8 @@ class MainWindow : public QMainWindow, public environment::Observer {
   bool SaveAll();
   // Whether the project may be left: asks when something is unsaved, and saves.
   bool MayLeave();
-  // Tells of files that somebody else changed, once each.
+  // Looks for files that somebody else changed. Those that were not edited here are read again; of others, and of
+  // project files, it asks, once for each change.
   void CheckDisk();
 
  signals:
@@ -84,6 +86,7 @@ class MainWindow : public QMainWindow, public environment::Observer {
   void DesignerShown(environment::Module& module, bool visible) override;
   void DesignerFocused(environment::Module& module) override;
   void DesignerChanged(environment::Module& module) override;
+  void ModuleReadAgain(environment::Module& module) override;
   void ComponentsChanged() override;
   void ImmediateChanged(bool shown) override;
   void MainWindowFocused() override;
@@ -102,12 +105,18 @@ class MainWindow : public QMainWindow, public environment::Observer {
   void ShowTitle();
   void ShowStatus();
   void ShowProperties();
+  void ShowProblems();
+  void RaiseProblems();
   void ShowSelectedComponent(const std::shared_ptr<environment::Module>& module);
   QMdiSubWindow* Show(QWidget& inside, const QString& title, const QString& icon);
   std::shared_ptr<environment::Module> Shared(environment::Module& module) const;
   bool AskForFile(environment::Module& module);
   // Asks about a file that somebody else changed.
   bool MayReplace(const std::string& file);
+  bool MayTakeTheirs(const std::string& file);
+  bool AskAboutProjects();  // true: everything is to be read again
+  void CheckModule(environment::Module& module, QStringList& read);
+  bool ReadModuleAgain(environment::Module& module);
   bool SaveProjectFile(environment::Project& project);
   bool NotSaved(const std::string& file, const std::exception& error);  // tells it; false
   std::vector<std::string> UnsavedFiles() const;
@@ -155,8 +164,10 @@ class MainWindow : public QMainWindow, public environment::Observer {
   std::set<long> own_controls_;
   QHash<const environment::Module*, CodePane*> panes_;
   QHash<const environment::Module*, DesignerWindow*> designers_;
-  std::set<std::string> told_changed_;  // files
-  bool asking_ = false;                 // a question is open: no other one
+  std::set<std::string> told_projects_;  // project files that were told to have changed
+  // The changes on disk that were told and not taken, by the module.
+  QHash<const environment::Module*, std::vector<environment::ChangedFile>> told_changes_;
+  bool asking_ = false;  // a question is open: no other one
 };
 
 }  // namespace corvane::desk

@@ -13,6 +13,7 @@
 
 namespace corvane::desk {
 
+using environment::ChangedFile;
 using environment::Module;
 using environment::OnDiskChange;
 using environment::Project;
@@ -165,27 +166,71 @@ bool MainWindow::MayLeave() {
   return answer == host::vbNo || (answer == host::vbYes && SaveAll());
 }
 
+bool MainWindow::AskAboutProjects() {
+  std::vector<std::string> changed;
+  for (const auto& project : environment_->Projects()) {
+    const std::string file = project->FileName();
+    if (!project->ChangedOnDisk())
+      told_projects_.erase(file);
+    else if (told_projects_.insert(file).second)
+      changed.push_back(Shown(file));
+  }
+  if (changed.empty()) return false;
+  const QScopedValueRollback<bool> asking(asking_, true);
+  return prompts_.MsgBox(
+             "Another program changed on disk:" + Bulleted(changed) + kCrLf + kCrLf + "Read the project again?",
+             host::vbYesNo | host::vbQuestion) == host::vbYes;
+}
+
+bool MainWindow::MayTakeTheirs(const std::string& file) {
+  const QScopedValueRollback<bool> asking(asking_, true);
+  const std::string question = Shown(file) + kCrLf +
+                               "was changed on disk by another program, and it was edited on this desk too." + kCrLf +
+                               kCrLf + "Read the file again? What was edited here is lost then.";
+  return prompts_.MsgBox(question, host::vbYesNo | host::vbExclamation | host::vbDefaultButton2) == host::vbYes;
+}
+
+bool MainWindow::ReadModuleAgain(Module& module) {
+  try {
+    module.ReadAgain();
+    return true;
+  } catch (const std::exception& error) {
+    const QScopedValueRollback<bool> asking(asking_, true);
+    prompts_.MsgBox(Shown(module.Path()) + kCrLf + "was changed on disk by another program and cannot be read again: " +
+                        error.what() + kCrLf + kCrLf + "What is on this desk stays as it is.",
+                    host::vbExclamation);
+    return false;
+  }
+}
+
+void MainWindow::CheckModule(Module& module, QStringList& read) {
+  const std::vector<ChangedFile> changed = module.FilesChangedOnDisk();
+  if (changed.empty() || told_changes_.value(&module) == changed) {
+    if (changed.empty()) told_changes_.remove(&module);
+    return;
+  }
+  told_changes_.insert(&module, changed);
+  if (module.IsDirty() && !MayTakeTheirs(changed.front().path)) return;
+  if (!ReadModuleAgain(module)) return;
+  told_changes_.remove(&module);
+  for (const ChangedFile& file : changed) read << ShownPath(file.path);
+}
+
 void MainWindow::CheckDisk() {
   if (asking_) return;
-  std::vector<std::string> changed;
-  const auto add = [&](const std::string& file) {
-    if (told_changed_.insert(file).second) changed.push_back(Shown(file));
-  };
-  for (const auto& project : environment_->Projects()) {
-    if (project->ChangedOnDisk()) add(project->FileName());
+  if (AskAboutProjects()) {
+    if (MayLeave()) emit ReadAgainWanted();
+    return;
+  }
+  QStringList read;
+  for (const auto& project : environment_->Projects())
     for (const auto& module : project->Modules())
-      if (IsReadHere(*module))
-        for (const std::string& file : ForeignFilesOf(*module)) add(file);
-  }
-  if (changed.empty()) return;
-  long answer = host::vbNo;
-  {
-    const QScopedValueRollback<bool> asking(asking_, true);
-    answer = prompts_.MsgBox(
-        "Another program changed on disk:" + Bulleted(changed) + kCrLf + kCrLf + "Read the project again?",
-        host::vbYesNo | host::vbQuestion);
-  }
-  if (answer == host::vbYes && MayLeave()) emit ReadAgainWanted();
+      if (IsReadHere(*module)) CheckModule(*module, read);
+  read.removeDuplicates();
+  if (read.size() == 1)
+    Told(tr("%1 was changed by another program and was read again.").arg(read.front()));
+  else if (!read.isEmpty())
+    Told(tr("%1 files were changed by another program and were read again.").arg(read.size()));
 }
 
 }  // namespace corvane::desk

@@ -168,6 +168,21 @@ void MainWindow::DesignerChanged(Module& module) {
   properties_->ReadAgain();
 }
 
+// What the property list and the canvas hold of its designer is gone.
+void MainWindow::ModuleReadAgain(Module& module) {
+  if (DesignerWindow* designer = DesignerOf(module)) {
+    DesignerCanvas& canvas = designer->Canvas();
+    canvas.ReadAgain();
+    canvas.Select(canvas.Selected());
+  }
+  if (CodePane* pane = PaneOf(module)) pane->ControlsChanged();
+  const int before = problems_->topLevelItemCount();
+  ShowProblems();
+  if (problems_->topLevelItemCount() > before) RaiseProblems();
+  ShowProperties();
+  UpdateCommands();
+}
+
 void MainWindow::ComponentsChanged() {
   tree_->FillAgain();
   std::set<const Module*> present;

@@ -15,6 +15,7 @@ class Project;
 struct ChangedFile {
   std::string path;
   host::FileStamp stamp;  // as it is now
+  bool operator==(const ChangedFile&) const = default;
 };
 
 // What the desk and the command line need beyond the object model.

@@ -388,12 +388,12 @@ TEST_F(SavingABinaryFileTest, YesReplacesTheFileOnDisk) {
   EXPECT_FALSE(form_->IsDirty());
 }
 
-TEST_F(SavingTest, AChangeOnDiskIsToldOnceAndTheProjectIsReadAgainOnYes) {
+TEST_F(SavingTest, AProjectFileThatChangedOnDiskIsToldOnceAndTheProjectIsReadAgainOnYes) {
   window_->CheckDisk();
   EXPECT_TRUE(prompts_.messages.empty());
   int again = 0;
   QObject::connect(window_.get(), &MainWindow::ReadAgainWanted, [&] { ++again; });
-  files_.Put(path_, kForm);
+  files_.Put("C:\\Work\\Stock.vbp", "Type=Exe\r\nName=\"Stock\"\r\n");
   prompts_.answers = {host::vbYes};
   window_->CheckDisk();
   EXPECT_EQ(again, 1);
