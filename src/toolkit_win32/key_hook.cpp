@@ -1,0 +1,51 @@
+#include "toolkit_win32/key_hook.h"
+
+#include "toolkit_win32/keys.h"
+#include "toolkit_win32/window.h"
+
+namespace corvane::toolkit_win32 {
+namespace {
+
+// An open menu, or a window that is being moved by keys, has the keys to itself.
+bool AreKeysTaken() {
+  GUITHREADINFO state{};
+  state.cbSize = sizeof state;
+  GetGUIThreadInfo(GetCurrentThreadId(), &state);
+  return (state.flags & (GUI_INMENUMODE | GUI_INMOVESIZE | GUI_POPUPMENUMODE | GUI_SYSTEMMENUMODE)) != 0;
+}
+
+bool GoesDown(UINT id) {
+  return id == WM_KEYDOWN || id == WM_SYSKEYDOWN;
+}
+
+// The key as the logic sees it, then as the native window does.
+void Run(const MSG& message, Window& window) {
+  if (GoesDown(message.message) && window.Sink().OnKey(window, static_cast<int>(message.wParam), ShiftNow())) return;
+  if (!IsWindow(message.hwnd)) return;
+  TranslateMessage(&message);
+  DispatchMessageW(&message);
+}
+
+LRESULT CALLBACK Hear(int code, WPARAM removed, LPARAM l) {
+  auto& message = *reinterpret_cast<MSG*>(l);
+  if (code == HC_ACTION && removed == PM_REMOVE && IsKeyMessage(message.message) && !AreKeysTaken()) {
+    if (Window* window = WindowAround(message.hwnd)) {
+      const MSG taken = message;
+      message.message = WM_NULL;
+      message.wParam = 0;
+      message.lParam = 0;
+      Run(taken, *window);
+    }
+  }
+  return CallNextHookEx(nullptr, code, removed, l);
+}
+
+}  // namespace
+
+KeyHook::KeyHook() : hook_(SetWindowsHookExW(WH_GETMESSAGE, Hear, nullptr, GetCurrentThreadId())) {}
+
+KeyHook::~KeyHook() {
+  if (hook_) UnhookWindowsHookEx(hook_);
+}
+
+}  // namespace corvane::toolkit_win32

@@ -1,0 +1,129 @@
+#include "toolkit_win32/painted.h"
+
+#include <vector>
+
+#include "toolkit_win32/colors.h"
+#include "toolkit_win32/toolkit.h"
+
+namespace corvane::toolkit_win32 {
+namespace {
+
+RECT PlaceInParent(HWND window) {
+  RECT place{};
+  GetWindowRect(window, &place);
+  MapWindowPoints(nullptr, GetParent(window), reinterpret_cast<POINT*>(&place), 2);
+  return place;
+}
+
+PaintedPeer* PaintedAt(HWND window) {
+  const Window* found = WindowAt(window);
+  return found ? dynamic_cast<PaintedPeer*>(&found->Sink()) : nullptr;
+}
+
+// The painted controls under [window] that it covers some of, the lowest first.
+std::vector<HWND> PaintedUnder(HWND window) {
+  std::vector<HWND> found;
+  const RECT place = PlaceInParent(window);
+  for (HWND each = GetWindow(window, GW_HWNDNEXT); each; each = GetWindow(each, GW_HWNDNEXT)) {
+    RECT common, other = PlaceInParent(each);
+    if (IsWindowVisible(each) && IntersectRect(&common, &place, &other) && PaintedAt(each)) found.push_back(each);
+  }
+  return {found.rbegin(), found.rend()};
+}
+
+void PaintBehind(HWND window, HDC dc) {
+  const HWND parent = GetParent(window);
+  const RECT place = PlaceInParent(window);
+  POINT before{};
+  OffsetWindowOrgEx(dc, place.left, place.top, &before);
+  SendMessageW(parent, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT | PRF_ERASEBKGND);
+  SetWindowOrgEx(dc, before.x, before.y, nullptr);
+  for (HWND each : PaintedUnder(window)) {
+    const RECT other = PlaceInParent(each);
+    OffsetWindowOrgEx(dc, place.left - other.left, place.top - other.top, &before);
+    PaintedAt(each)->PaintWithoutGround(dc);
+    SetWindowOrgEx(dc, before.x, before.y, nullptr);
+  }
+}
+
+}  // namespace
+
+void PaintedPeer::CreatePainted(Mouse mouse, bool takes_mouse) {
+  takes_mouse_ = takes_mouse;
+  Create({nullptr}, mouse);
+}
+
+void PaintedPeer::Repaint() {
+  InvalidateRect(Handle(), nullptr, FALSE);
+}
+
+// What showed through at the old place does not at the new one.
+void PaintedPeer::ShowPlace() {
+  ControlPeer::ShowPlace();
+  Repaint();
+}
+
+LRESULT PaintedPeer::OnOwnMessage(Window& window, const Message& message) {
+  switch (message.id) {
+    case WM_PAINT:
+      PaintWindow();
+      return 0;
+    case WM_PRINTCLIENT: {
+      const auto dc = reinterpret_cast<HDC>(message.w);
+      if (!HasGround()) PaintBehind(Handle(), dc);
+      Paint(dc, window.Client());
+      return 0;
+    }
+    case WM_ERASEBKGND:
+      return 1;
+    case WM_NCHITTEST:
+      if (!takes_mouse_) return HTTRANSPARENT;
+      break;
+    default:
+      break;
+  }
+  return window.Default(message);
+}
+
+void PaintedPeer::PaintWindow() {
+  PAINTSTRUCT paint{};
+  const HDC target = BeginPaint(Handle(), &paint);
+  if (target && !IsRectEmpty(&paint.rcPaint)) {
+    const BufferedPaint buffer(target, paint.rcPaint);
+    if (!HasGround()) PaintBehind(Handle(), buffer.Dc());
+    Paint(buffer.Dc(), window_.Client());
+  }
+  EndPaint(Handle(), &paint);
+}
+
+RECT InsideBorder(RECT place, int pixels) {
+  InflateRect(&place, -pixels, -pixels);
+  return place;
+}
+
+void PaintSunkenFrame(HDC dc, const RECT& place, const PixelScale& scale) {
+  const int line = scale.Scaled(1);
+  const forms::Color color = forms::kButtonShadow;
+  Fill(dc, {place.left, place.top, place.right, place.top + line}, color);
+  Fill(dc, {place.left, place.bottom - line, place.right, place.bottom}, color);
+  Fill(dc, {place.left, place.top, place.left + line, place.bottom}, color);
+  Fill(dc, {place.right - line, place.top, place.right, place.bottom}, color);
+}
+
+BufferedPaint::BufferedPaint(HDC target, const RECT& place)
+    : target_(target),
+      dc_(CreateCompatibleDC(target)),
+      place_(place),
+      bitmap_(CreateCompatibleBitmap(target, WidthOf(place), HeightOf(place))),
+      bitmap_before_(SelectObject(dc_, bitmap_)) {
+  SetWindowOrgEx(dc_, place.left, place.top, nullptr);
+}
+
+BufferedPaint::~BufferedPaint() {
+  BitBlt(target_, place_.left, place_.top, WidthOf(place_), HeightOf(place_), dc_, place_.left, place_.top, SRCCOPY);
+  SelectObject(dc_, bitmap_before_);
+  DeleteObject(bitmap_);
+  DeleteDC(dc_);
+}
+
+}  // namespace corvane::toolkit_win32

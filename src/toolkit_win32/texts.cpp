@@ -1,0 +1,45 @@
+#include "toolkit_win32/texts.h"
+
+#include <algorithm>
+
+#include "runtime/code_page.h"
+#include "toolkit_win32/win.h"
+
+namespace corvane::toolkit_win32 {
+namespace {
+
+template <class Text>
+bool IsAscii(const Text& text) {
+  return std::none_of(text.begin(), text.end(), [](auto each) { return (each & ~0x7F) != 0; });
+}
+
+}  // namespace
+
+std::wstring FromUtf8(std::string_view utf8) {
+  const int size = static_cast<int>(utf8.size());
+  std::wstring shown(static_cast<size_t>(MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, nullptr, 0)), L'\0');
+  MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, shown.data(), static_cast<int>(shown.size()));
+  return shown;
+}
+
+std::string ToUtf8(std::wstring_view shown) {
+  const int size = static_cast<int>(shown.size());
+  const int needed = WideCharToMultiByte(CP_UTF8, 0, shown.data(), size, nullptr, 0, nullptr, nullptr);
+  std::string utf8(static_cast<size_t>(needed), '\0');
+  WideCharToMultiByte(CP_UTF8, 0, shown.data(), size, utf8.data(), needed, nullptr, nullptr);
+  return utf8;
+}
+
+std::wstring ShownText(std::string_view bytes) {
+  if (IsAscii(bytes)) return {bytes.begin(), bytes.end()};
+  return FromUtf8(runtime::AnsiCodePage().ToUtf8(bytes));
+}
+
+std::string BytesOf(std::wstring_view shown) {
+  if (!IsAscii(shown)) return runtime::AnsiCodePage().FromUtf8(ToUtf8(shown));
+  std::string bytes(shown.size(), '\0');
+  std::transform(shown.begin(), shown.end(), bytes.begin(), [](wchar_t each) { return static_cast<char>(each); });
+  return bytes;
+}
+
+}  // namespace corvane::toolkit_win32

@@ -1,0 +1,179 @@
+#include "toolkit_win32/window.h"
+
+#include <exception>
+
+#include "toolkit_win32/toolkit.h"
+#include "toolkit_win32/window_yard.h"
+
+namespace corvane::toolkit_win32 {
+
+namespace {
+
+constexpr wchar_t kSlotOfWindow[] = L"CorvaneWindow";
+
+// The child that [message] comes from, when it is one that a control sends to its parent.
+HWND SenderOf(const Message& message) {
+  switch (message.id) {
+    case WM_COMMAND:
+    case WM_HSCROLL:
+    case WM_VSCROLL:
+    case WM_CTLCOLORBTN:
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORLISTBOX:
+    case WM_CTLCOLORSCROLLBAR:
+    case WM_CTLCOLORSTATIC:
+      return reinterpret_cast<HWND>(message.l);
+    case WM_NOTIFY:
+      return message.l ? reinterpret_cast<const NMHDR*>(message.l)->hwndFrom : nullptr;
+    case WM_DRAWITEM: {
+      const auto* item = reinterpret_cast<const DRAWITEMSTRUCT*>(message.l);
+      return item && item->CtlType != ODT_MENU ? item->hwndItem : nullptr;
+    }
+    case WM_MEASUREITEM: {
+      const auto* item = reinterpret_cast<const MEASUREITEMSTRUCT*>(message.l);
+      const bool of_control = item && item->CtlType != ODT_MENU;
+      return of_control ? GetDlgItem(message.window, static_cast<int>(item->CtlID)) : nullptr;
+    }
+    default:
+      return nullptr;
+  }
+}
+
+}  // namespace
+
+// What hangs on a native window from its first message that we see to its last.
+struct WindowSlot {
+  WNDPROC original;
+  Window* window;  // null: let go
+  Win32Toolkit* toolkit;
+  std::shared_ptr<WindowYard> yard;
+
+  static WindowSlot* Of(HWND handle) { return static_cast<WindowSlot*>(GetPropW(handle, kSlotOfWindow)); }
+
+  static void Hang(Window& window, HWND handle) {
+    auto slot = std::make_unique<WindowSlot>();
+    slot->window = &window;
+    slot->toolkit = &window.toolkit_;
+    slot->yard = window.toolkit_.Yard();
+    window.handle_ = handle;
+    window.slot_ = slot.get();
+    SetPropW(handle, kSlotOfWindow, slot.release());
+    window.slot_->original =
+        reinterpret_cast<WNDPROC>(SetWindowLongPtrW(handle, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure)));
+  }
+
+  static LRESULT CALLBACK Procedure(HWND handle, UINT id, WPARAM w, LPARAM l) noexcept {
+    WindowSlot* slot = Of(handle);
+    if (!slot) return DefWindowProcW(handle, id, w, l);
+    if (id == WM_NCDESTROY) return End(slot, handle, w, l);
+    const std::shared_ptr<WindowYard> yard = slot->yard;
+    const WindowYard::Visit visit(*yard);
+    if (!slot->window) return CallWindowProcW(slot->original, handle, id, w, l);
+    Win32Toolkit& toolkit = *slot->toolkit;
+    try {
+      return slot->window->Tell({handle, id, w, l});
+    } catch (...) {
+      if (!yard->IsClosed()) toolkit.Guard([fault = std::current_exception()] { std::rethrow_exception(fault); });
+      return 0;
+    }
+  }
+
+  static LRESULT End(WindowSlot* slot, HWND handle, WPARAM w, LPARAM l) {
+    const std::unique_ptr<WindowSlot> last(slot);
+    if (slot->window) slot->window->handle_ = nullptr, slot->window->slot_ = nullptr;
+    slot->yard->Forget(handle);
+    RemovePropW(handle, kSlotOfWindow);
+    SetWindowLongPtrW(handle, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(slot->original));
+    return CallWindowProcW(slot->original, handle, WM_NCDESTROY, w, l);
+  }
+};
+
+void Window::Create(const Kind& kind, HWND parent, const std::wstring& text, const RECT& place) {
+  Release();
+  const VisualStyles::Use styled(toolkit_.Styles());
+  const bool child = (kind.style & WS_CHILD) != 0;
+  const auto menu = reinterpret_cast<HMENU>(static_cast<INT_PTR>(child ? kind.menu_id : 0));
+  const bool placed = place.right > place.left;
+  const int left = placed  ? place.left
+                   : child ? 0
+                           : CW_USEDEFAULT,
+            top = placed  ? place.top
+                  : child ? 0
+                          : CW_USEDEFAULT;
+  HWND made =
+      CreateWindowExW(kind.extended, kind.name ? kind.name : toolkit_.OwnClass(), text.c_str(), kind.style, left, top,
+                      place.right - place.left, place.bottom - place.top, parent, menu, toolkit_.Instance(), nullptr);
+  if (!made) return;
+  owned_ = true;
+  WindowSlot::Hang(*this, made);
+}
+
+void Window::Attach(HWND window) {
+  Release();
+  owned_ = false;
+  if (window && !WindowSlot::Of(window)) WindowSlot::Hang(*this, window);
+}
+
+void Window::Release() {
+  if (!handle_) return;
+  const HWND handle = handle_;
+  slot_->window = nullptr;
+  const std::shared_ptr<WindowYard> yard = slot_->yard;
+  handle_ = nullptr;
+  slot_ = nullptr;
+  if (owned_) yard->Bury(handle);
+}
+
+LRESULT Window::Tell(const Message& message) {
+  if (const HWND sender = SenderOf(message)) {
+    if (Window* child = WindowAt(sender); child && child != this) {
+      if (const std::optional<LRESULT> answer = child->sink_.OnNotice(*child, message)) return *answer;
+      if (!WindowAt(message.window)) return 0;
+    }
+  }
+  return sink_.OnMessage(*this, message);
+}
+
+LRESULT Window::Default(const Message& message) {
+  return CallWindowProcW(slot_->original, message.window, message.id, message.w, message.l);
+}
+
+std::wstring Window::Text() const {
+  std::wstring text(static_cast<size_t>(GetWindowTextLengthW(handle_)), L'\0');
+  const int length = GetWindowTextW(handle_, text.data(), static_cast<int>(text.size()) + 1);
+  text.resize(static_cast<size_t>(length));
+  return text;
+}
+
+void Window::SetText(const std::wstring& text) {
+  if (Text() != text) SetWindowTextW(handle_, text.c_str());
+}
+
+RECT Window::Client() const {
+  RECT client{};
+  GetClientRect(handle_, &client);
+  return client;
+}
+
+void Window::ChangeStyle(DWORD add, DWORD remove) {
+  const auto style = static_cast<DWORD>(GetWindowLongPtrW(handle_, GWL_STYLE));
+  const DWORD wanted = (style & ~remove) | add;
+  if (wanted == style) return;
+  SetWindowLongPtrW(handle_, GWL_STYLE, static_cast<LONG_PTR>(wanted));
+  SetWindowPos(handle_, nullptr, 0, 0, 0, 0,
+               SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+}
+
+Window* WindowAt(HWND handle) {
+  const WindowSlot* slot = handle ? WindowSlot::Of(handle) : nullptr;
+  return slot ? slot->window : nullptr;
+}
+
+Window* WindowAround(HWND handle) {
+  for (; handle; handle = GetAncestor(handle, GA_PARENT)) {
+    if (Window* found = WindowAt(handle)) return found;
+  }
+  return nullptr;
+}
+
+}  // namespace corvane::toolkit_win32
