@@ -42,13 +42,13 @@ sanitize: packages
 	cmake --build build/sanitize -j $(JOBS)
 	scripts/tests build/sanitize
 
-# Each fuzz target for a minute; `fuzz-quick` for some seconds.
-fuzz: FUZZ_SECONDS ?= 60
-fuzz-quick: FUZZ_SECONDS ?= 5
+# Each fuzz target for a minute; `fuzz-quick` the same inputs each time, for some seconds.
+FUZZ_SECONDS ?= 60
+fuzz-quick: FUZZ_SECONDS = quick
 fuzz fuzz-quick: packages
 	@scripts/install-packages scripts/packages-clang.txt
 	cmake --preset fuzz -Wno-dev --log-level=WARNING
-	cmake --build build/fuzz -j $(JOBS)
+	cmake --build build/fuzz -j $(JOBS) --target fuzz_targets
 	scripts/fuzz build/fuzz $(FUZZ_SECONDS)
 
 format:
