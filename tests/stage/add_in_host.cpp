@@ -1,0 +1,93 @@
+#include "tests/stage/add_in_host.h"
+
+#include <ocidl.h>
+
+namespace corvane::stage {
+
+namespace {
+
+constexpr wchar_t kProgId[] = L"corvane.Connect";
+
+// No entries. The environment hands it over by reference.
+class NoCustomEntries {
+ public:
+  ~NoCustomEntries() { SafeArrayDestroy(array_); }
+  SAFEARRAY** Out() { return &array_; }
+
+ private:
+  SAFEARRAY* array_ = SafeArrayCreateVector(VT_VARIANT, 0, 0);
+};
+
+}  // namespace
+
+HRESULT AddInHost::Create() {
+  CLSID id;
+  HRESULT code = CLSIDFromProgID(kProgId, &id);
+  if (FAILED(code)) return code;
+  ComPointer<IUnknown> object, other;
+  code = CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_IUnknown, object.OutVoid());
+  if (FAILED(code)) return code;
+  for (const IID& asked : {kExtensibility, IID_IProvideClassInfo, IID_IConnectionPointContainer, IID_IPersist})
+    object->QueryInterface(asked, other.OutVoid());
+  return object->QueryInterface(kExtensibility2, add_in_.OutVoid());
+}
+
+HRESULT AddInHost::OnConnection(ConnectMode mode) {
+  NoCustomEntries custom;
+  const auto root = stage_.Root();
+  const auto entry = stage_.Publish(std::make_shared<AddInEntry>());
+  connected_ = true;
+  return add_in_->OnConnection(root.Get(), mode, entry.Get(), custom.Out());
+}
+
+HRESULT AddInHost::OnStartupComplete() {
+  return add_in_->OnStartupComplete(nullptr);
+}
+
+HRESULT AddInHost::OnAddInsUpdate() {
+  NoCustomEntries custom;
+  return add_in_->OnAddInsUpdate(custom.Out());
+}
+
+HRESULT AddInHost::OnBeginShutdown() {
+  return add_in_->OnBeginShutdown(nullptr);
+}
+
+HRESULT AddInHost::OnDisconnection(RemoveMode mode) {
+  NoCustomEntries custom;
+  connected_ = false;
+  return add_in_->OnDisconnection(mode, custom.Out());
+}
+
+void AddInHost::Release() {
+  if (add_in_ && connected_) OnDisconnection(kUserClosed);
+  add_in_.Reset();
+}
+
+HRESULT AddInHost::StartUp() {
+  HRESULT code = Create();
+  if (SUCCEEDED(code)) code = OnConnection(kStartup);
+  if (SUCCEEDED(code)) code = OnAddInsUpdate();
+  return SUCCEEDED(code) ? OnStartupComplete() : code;
+}
+
+HRESULT AddInHost::LoadByUser() {
+  HRESULT code = Create();
+  if (SUCCEEDED(code)) code = OnConnection(kAfterStartup);
+  return SUCCEEDED(code) ? OnAddInsUpdate() : code;
+}
+
+HRESULT AddInHost::UnloadByUser() {
+  const HRESULT code = OnDisconnection(kUserClosed);
+  Release();
+  return code;
+}
+
+HRESULT AddInHost::ShutDown() {
+  HRESULT code = OnBeginShutdown();
+  if (SUCCEEDED(code)) code = OnDisconnection(kHostShutdown);
+  Release();
+  return code;
+}
+
+}  // namespace corvane::stage
