@@ -10,7 +10,10 @@
 #ifndef WIN32_LEAN_AND_MEAN
 #define WIN32_LEAN_AND_MEAN
 #endif
-#include <commctrl.h>
+// The first is needed by the others.
+// clang-format off
 #include <windows.h>
+#include <commctrl.h>
 #include <windowsx.h>
+// clang-format on
 #undef RGB
