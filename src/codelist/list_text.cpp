@@ -47,6 +47,7 @@ void ucListBox::Clear() {
   highlightColor = kHighlightOfCurrent;
   loading = false;
   vs.SetMin(0);
+  vs.SetMax(0);  // there is nothing to scroll
   SetBar(vs, 0);
   SetBar(hs, 0);
   ClearPane();

@@ -179,6 +179,19 @@ TEST_F(Scrolling, HomeGoesToTheFirstLine) {
   EXPECT_EQ(Where(), (Place{1, 1, 1}));
 }
 
+TEST_F(Scrolling, AClearedListHasNothingToScroll) {
+  Load(40);
+  list.vs.UserScroll(20, false);
+  list.Clear();
+  EXPECT_EQ(list.vs.Max(), 0);
+  list.vs.UserScroll(20, false);
+  EXPECT_EQ(list.vs.Value(), 0) << "the bar of an empty list stays where it is";
+  list.AddItem("x");
+  EXPECT_EQ(list.vs.Min(), 1);
+  EXPECT_EQ(list.vs.Max(), 1);
+  EXPECT_EQ(list.ListIndex(), 1);
+}
+
 TEST_F(Scrolling, HomeWithOneLineDoesNothing) {
   Load(1);
   Key(vbKeyHome);
