@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "codelist/uc_list_box.h"
+#include "runtime/code_page.h"
 #include "runtime/strings.h"
 
 namespace corvane::codelist {
@@ -25,6 +26,13 @@ constexpr long kTwipsOfGridStep = 50;
 
 bool IsHidden(int32_t state) {
   return state >= kHiddenFrom && state < kBoundary;
+}
+
+// What is seen of [text] when [skip] characters of it, fewer than it has, are scrolled out; half of one of two bytes is
+// not.
+std::string_view Behind(std::string_view text, size_t skip) {
+  if (skip > 0 && runtime::AnsiCodePage().IsSecondByte(text, skip)) ++skip;
+  return text.substr(skip);
 }
 
 bool HasWidth(char character) {
@@ -123,7 +131,7 @@ void ucListBox::PaintText(Twips x, Twips y, long index) {
     text.remove_prefix(mark.place + kLevelUp.size());
     if (skip < segment.size()) {
       pic.SetForeColor(LevelColor(level));
-      pen += PaintSegment(pen, y, segment.substr(skip), true);
+      pen += PaintSegment(pen, y, Behind(segment, skip), true);
       skip = 0;
     } else {
       skip -= segment.size();
@@ -132,13 +140,14 @@ void ucListBox::PaintText(Twips x, Twips y, long index) {
   }
   pic.SetForeColor(LevelColor(level));
   if (treeMode) return PaintTreeEntry(pen, y, index, text, level, skip);
-  if (skip < text.size()) PaintSegment(pen, y, text.substr(skip), false);
+  if (skip < text.size()) PaintSegment(pen, y, Behind(text, skip), false);
   runningLevel = level;
 }
 
 // Returns the width that was drawn, if it is asked for.
 Twips ucListBox::PaintSegment(Twips x, Twips y, std::string_view text, bool measured) {
   using std::string_view;
+  if (text.empty()) return 0;
   if (text.substr(1, kCaption.size()) == kCaption && text[0] == ' ') {
     const std::string heading = Space(40) + runtime::Trim(text.substr(3)) + Space(125);
     return PrintEmphasized(x, y, heading, kHeading, measured);
@@ -239,7 +248,7 @@ void ucListBox::PaintTreeEntry(Twips x, Twips y, long index, std::string_view te
   const size_t icon = runtime::UCase(shown).find("[ICON=", 1);
   const size_t icon_end = icon == std::string::npos ? icon : shown.find(']', icon);
   if (icon_end != std::string::npos) shown.erase(icon, icon_end - icon + 1);
-  if (skip < shown.size()) PaintSegment(x, y, std::string_view(shown).substr(skip), false);
+  if (skip < shown.size()) PaintSegment(x, y, Behind(shown, skip), false);
   if (!box || indent == 0 || skip > 0) return;
   PaintTreeBox(x + TreeBoxOffset(indent), y, index < store.Count() && IsHidden(store.State(index + 1)));
 }

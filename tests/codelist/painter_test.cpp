@@ -1,5 +1,6 @@
 #include "forms/icons.h"
 #include "list_fixture.h"
+#include "runtime/code_page.h"
 
 namespace corvane::codelist {
 namespace {
@@ -42,6 +43,21 @@ TEST_F(Painter, DrawsRunsBetweenMarksInTheColourOfTheirLevel) {
   EXPECT_THAT(TextsOnRow(2), ElementsAre("482 234 \"If\" Arial 9.75 #000000", "490 234 \"If\" Arial 9.75 #000000",
                                          "686 234 \" a \" Arial 9.75 #0000ff", "972 234 \"Then\" Arial 9.75 #000000",
                                          "980 234 \"Then\" Arial 9.75 #000000", "1372 234 \" b\" Arial 9.75 #0000ff"));
+}
+
+TEST_F(Painter, HalfACharacterOfTwoBytesIsScrolledOutWhole) {
+  runtime::SetAnsiCodePage(932);
+  list.sGrid("TEXT");
+  list.SetText("x\r\n\x83\x41\x83\x83\x83z\r\n");  // the last lead byte is followed by "z"
+  TextsOnRow(2);
+  const char* const shown[] = {"\x83\x41\x83\x83\x83z", "\x83\x83\x83z", "\x83\x83\x83z", "\x83z"};
+  for (long column = 1; column <= 4; ++column) {
+    list.hs.SetValue(column);
+    EXPECT_THAT(TextsOnRow(2), ElementsAre("392 234 \"" + std::string(shown[column - 1]) + "\" Arial 9.75 #000000"));
+  }
+  list.hs.SetValue(6);
+  EXPECT_THAT(TextsOnRow(2), IsEmpty());
+  runtime::SetAnsiCodePage(1252);
 }
 
 TEST_F(Painter, DrawsACommentInGreyWithItsMark) {
