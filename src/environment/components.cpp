@@ -7,6 +7,7 @@
 #include "environment/open_environment.h"
 #include "environment/open_project.h"
 #include "environment/paths.h"
+#include "environment/prefetch.h"
 #include "environment/statement.h"
 #include "runtime/error.h"
 
@@ -18,14 +19,11 @@ class OpenProject::Components : public host::VBComponents {
 
   long Count() override { return static_cast<long>(project_->modules_.size()); }
   host::Ref<host::VBComponent> Item(const host::Index& index) override {
-    const auto& modules = project_->modules_;
-    if (const long* position = std::get_if<long>(&index)) {
-      if (*position >= 1 && *position <= Count()) return modules[static_cast<size_t>(*position - 1)];
-    } else {
-      for (const auto& module : modules)
-        if (SameName(module->Name(), std::get<std::string>(index))) return module;
-    }
-    throw host::Error(runtime::kSubscriptOutOfRange);
+    const long* position = std::get_if<long>(&index);
+    if (position == nullptr) return ByName(std::get<std::string>(index));
+    if (*position < 1 || *position > Count()) throw host::Error(runtime::kSubscriptOutOfRange);
+    PrefetchBehind(static_cast<size_t>(*position));
+    return project_->modules_[static_cast<size_t>(*position - 1)];
   }
   host::Ref<host::VBComponent> Add(host::ComponentType type) override { return project_->Add(type); }
   host::Ref<host::VBComponent> AddFile(const std::string& path) override { return project_->AddFile(path); }
@@ -33,6 +31,19 @@ class OpenProject::Components : public host::VBComponents {
   host::Ref<host::VBE> VBE() override { return project_->Environment().shared_from_this(); }
 
  private:
+  host::Ref<host::VBComponent> ByName(const std::string& name) const {
+    for (const auto& module : project_->modules_)
+      if (SameName(module->Name(), name)) return module;
+    throw host::Error(runtime::kSubscriptOutOfRange);
+  }
+
+  // Who asks for one component asks for the next ones, as a rule, and then for their code.
+  void PrefetchBehind(size_t position) const {
+    const auto& modules = project_->modules_;
+    if (position + 1 < modules.size()) Prefetch(modules[position + 1].get(), sizeof(OpenModule));
+    if (position < modules.size()) modules[position]->Text().PrefetchStart();
+  }
+
   std::shared_ptr<OpenProject> project_;
 };
 

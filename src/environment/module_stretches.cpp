@@ -2,8 +2,16 @@
 #include <algorithm>
 
 #include "environment/module_text.h"
+#include "environment/prefetch.h"
 
 namespace corvane::environment {
+
+void ModuleText::PrefetchStart() const {
+  Prefetch(bytes_.data() + code_start_, kReadAhead);
+  PrefetchLine(stretches_.data());
+  PrefetchLine(lines_.data());
+  PrefetchLine(lines_.data() + lines_.size());
+}
 
 const std::vector<Stretch>& ModuleText::Stretches() const {
   if (stretches_.empty()) AddStretches(stretches_, 0, lines_.size());

@@ -53,6 +53,8 @@ class ModuleText {
   std::string Write(std::string_view head) const;  // with another head
   std::string_view LineEnd() const { return line_end_; }
 
+  // Asks the memory for what a search reads first.
+  void PrefetchStart() const;
   // For searching: where the lines lie, each in one stretch. Valid until the next change.
   const std::vector<Stretch>& Stretches() const;
   // The line (from 1) of a stretch in which [at] lies.

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cstring>
 
+#include "environment/prefetch.h"
 #include "runtime/code_page.h"
 
 namespace corvane::environment {
@@ -90,6 +91,7 @@ const char* TextSearch::Find(const char* begin, const char* end) const {
   const char* at = begin;
   while (has_probes_ && last - at >= static_cast<long>(kBlock)) {
     auto* bytes = reinterpret_cast<const unsigned char*>(at);
+    PrefetchLine(at, kReadAhead);
     if (AnyCandidate(bytes + rare_.at, rare_.one, rare_.other, bytes + second_.at, second_.one, second_.other))
       for (size_t i = 0; i < kBlock; ++i) {
         unsigned char byte = bytes[i + rare_.at];
