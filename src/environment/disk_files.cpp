@@ -84,12 +84,13 @@ class NameFinder {
  public:
   // The path of these names. The folder of the last one stays known: most files of a project lie side by side.
   std::string Find(const Names& split, const std::string& windows) {
+    is_plain_ = false;
     if (split.names.empty()) return split.absolute ? "/" : ".";
     std::string start =
         windows.ends_with(split.names.back()) ? windows.substr(0, windows.size() - split.names.back().size()) : windows;
     if (start == last_start_ && start.size() < windows.size()) {
       std::string path = last_folder_ + split.names.back();
-      if (Exists(path)) return path;
+      if (IsThere(path)) return path;
     }
     std::string folder = split.absolute ? "/" : "";
     for (size_t i = 0; i + 1 < split.names.size(); ++i) folder = Find(folder, split.names[i]) + "/";
@@ -101,17 +102,28 @@ class NameFinder {
   // The path of [name] in [folder] (ending in "/" or empty); where there is none yet, the name in UTF-8.
   std::string Find(const std::string& folder, const std::string& name) {
     std::string exact = folder + name;
-    if (Exists(exact)) return exact;
+    if (IsThere(exact)) return exact;
     std::string utf8 = folder + runtime::AnsiCodePage().ToUtf8(name);
-    if (utf8 != exact && Exists(utf8)) return utf8;
+    if (utf8 != exact && IsThere(utf8)) return utf8;
     std::string& known = known_[utf8];
-    if (!known.empty() && Exists(known)) return known;
+    if (!known.empty() && IsThere(known)) return known;
     for (const std::string& other : NamesIn(folder))
       if (SameWithoutCase(other, name) || SameWithoutCase(NameFromDisk(other), name)) return known = folder + other;
     return IsNameOfUtf8(name) ? exact : utf8;
   }
 
+  // What was seen of the file found last; null where it is no plain file, or was only seen in its folder.
+  const struct stat* PlainFile() const { return is_plain_ ? &info_ : nullptr; }
+
  private:
+  bool IsThere(const std::string& path) {
+    const bool there = ::lstat(path.c_str(), &info_) == 0;
+    is_plain_ = there && S_ISREG(info_.st_mode);
+    return there;
+  }
+
+  struct stat info_ {};
+  bool is_plain_ = false;
   std::unordered_map<std::string, std::string> known_;
   std::string last_start_, last_folder_;
 };
@@ -147,7 +159,7 @@ class DiskFiles : public host::Files {
     if (native.empty()) throw runtime::Error(runtime::kPathNotFound, "No such drive or share on this machine");
     struct stat info;
     // Opening alone may wait for good (a pipe) or do something (a device).
-    if (::stat(native.c_str(), &info) == 0) RequireRegular(info);
+    if (finder_.PlainFile() == nullptr && ::stat(native.c_str(), &info) == 0) RequireRegular(info);
     Handle file(::open(native.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
     if (file.Get() < 0 || ::fstat(file.Get(), &info) != 0) Fail(errno == ENOENT ? MissingPart(native) : errno, true);
     RequireRegular(info);
@@ -206,9 +218,10 @@ class DiskFiles : public host::Files {
 
   host::FileStamp Stamp(const std::string& path) override {
     std::string native = PlaceOf(path);
+    if (native.empty()) return {};
+    if (const struct stat* seen = places_.count(path) ? nullptr : finder_.PlainFile()) return StampOf(*seen);
     struct stat info;
-    if (native.empty() || ::stat(native.c_str(), &info) != 0) return {};
-    return {info.st_size, int64_t{info.st_mtim.tv_sec} * 1000000000 + info.st_mtim.tv_nsec};
+    return ::stat(native.c_str(), &info) == 0 ? StampOf(info) : host::FileStamp();
   }
 
   std::vector<std::string> List(const std::string& folder, const std::string& pattern) override {
@@ -223,6 +236,10 @@ class DiskFiles : public host::Files {
   }
 
  private:
+  static host::FileStamp StampOf(const struct stat& info) {
+    return {info.st_size, int64_t{info.st_mtim.tv_sec} * 1000000000 + info.st_mtim.tv_nsec};
+  }
+
   // This machine's path; empty where there is none.
   std::string Resolve(const std::string& windows) {
     Names split = Split(windows);

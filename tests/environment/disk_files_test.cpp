@@ -308,6 +308,32 @@ TEST_F(DiskFilesTest, WritesAFileAsAWholeAndLeavesNothingElse) {
   EXPECT_EQ(fs::status(folder_ / "a.bas").permissions(), fs::perms(0640));
 }
 
+TEST_F(DiskFilesTest, AStampIsThatOfTheFileWhetherItWasReadOrNot) {
+  Put("a.bas", "four");
+  Put("deep/b.bas", "seven..");
+  fs::create_symlink(folder_ / "deep/b.bas", folder_ / "link.bas");
+  const auto sizes = [&] {
+    std::vector<int64_t> sizes;
+    for (const char* name : {"a.bas", "A.BAS", "link.bas", "gone.bas", "deep\\b.bas"})
+      sizes.push_back(files_->Stamp(Path(name)).size);
+    sizes.push_back(files_->Stamp("C:\\a.bas").size);
+    return sizes;
+  };
+  const std::vector<int64_t> expected = {4, 4, 7, -1, 7, -1};
+  EXPECT_EQ(sizes(), expected);
+  const host::FileStamp unread = files_->Stamp(Path("a.bas"));
+  for (const char* name : {"a.bas", "link.bas", "deep\\b.bas"}) files_->Read(Path(name));
+  EXPECT_EQ(sizes(), expected);
+  EXPECT_EQ(files_->Stamp(Path("a.bas")), unread);
+}
+
+TEST_F(DiskFilesTest, APipeIsNoFileAndIsNotWaitedFor) {
+  Put("a.bas", "four");
+  ASSERT_EQ(::mkfifo((folder_ / "pipe.bas").c_str(), 0600), 0);
+  files_->Read(Path("a.bas"));
+  EXPECT_EQ(ErrorOf([&] { files_->Read(Path("pipe.bas")); }), 75);
+}
+
 TEST_F(DiskFilesTest, AFileBehindALinkKeepsItsLink) {
   Put("real/a.bas", "old");
   fs::create_symlink(folder_ / "real/a.bas", folder_ / "link.bas");
