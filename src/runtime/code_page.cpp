@@ -75,7 +75,7 @@ uint16_t PlaceInList(const CodePage& page, unsigned char byte) {
 }
 
 bool IsLetter(char32_t c) {
-  if (c == 0xFFFD) return false;
+  if (c == kNoCharacter) return false;
   if (c < 0x80) return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
   if (c == 0xAA || c == 0xB5 || c == 0xBA) return true;
   if (c < 0xC0) return false;
@@ -88,22 +88,17 @@ bool IsLetter(char32_t c) {
 
 CodePage::CodePage(int number) : number_(IsKnown(number) ? number : 1252) {
   double_byte_ = number_ == 932 || number_ == 936 || number_ == 949 || number_ == 950;
-  CharacterTable characters(number_);
-  for (int byte = 0; byte < 256; ++byte) {
-    char32_t code = static_cast<char32_t>(byte);
-    if (byte >= 0x80) {
-      bool lead = double_byte_ && (number_ == 932 ? (byte >= 0x81 && byte <= 0x9F) || (byte >= 0xE0 && byte <= 0xFC)
-                                                  : byte >= 0x81 && byte <= 0xFE);
-      lead_[byte] = lead;
-      code = lead ? 0xFFFD : characters.Of(static_cast<unsigned char>(byte));
-    }
-    unicode_[byte] = code;
+  unicode_ = SingleByteCharacters(number_);
+  for (int byte = 0x80; double_byte_ && byte < 256; ++byte) {
+    lead_[byte] = number_ == 932 ? (byte >= 0x81 && byte <= 0x9F) || (byte >= 0xE0 && byte <= 0xFC)
+                                 : byte >= 0x81 && byte <= 0xFE;
+    if (lead_[byte]) unicode_[byte] = kNoCharacter;
   }
   for (int byte = 0; byte < 256; ++byte) {
     upper_[byte] = lower_[byte] = static_cast<unsigned char>(byte);
     char32_t code = unicode_[byte];
     word_[byte] = lead_[byte] || IsLetter(code) || (code >= '0' && code <= '9') || code == '_';
-    if (code == 0xFFFD) continue;
+    if (code == kNoCharacter) continue;
     for (int other = 0; other < 256; ++other) {
       if (unicode_[other] == CaseOf(code, true)) upper_[byte] = static_cast<unsigned char>(other);
       if (unicode_[other] == CaseOf(code, false)) lower_[byte] = static_cast<unsigned char>(other);
@@ -158,7 +153,9 @@ std::string CodePage::ToUtf8(std::string_view bytes) const {
   bool plain = true;
   for (char c : bytes) plain = plain && static_cast<unsigned char>(c) < 0x80;
   if (plain) return std::string(bytes);
-  return Utf8OfPage(number_, bytes);
+  std::string result;
+  AppendAsUtf8(number_, bytes, result);
+  return result;
 }
 
 std::string CodePage::FromUtf8(std::string_view utf8) const {
@@ -169,7 +166,7 @@ std::string CodePage::FromUtf8(std::string_view utf8) const {
 
 bool CodePage::FromUtf8(std::string_view utf8, std::string& bytes) const {
   bytes.clear();
-  return PageOfUtf8(number_, utf8, bytes);
+  return AppendFromUtf8(number_, utf8, bytes);
 }
 
 namespace {

@@ -1,29 +1,22 @@
-// The system's own tables of code pages: iconv on Linux, the Windows API there.
+// The system's own tables of the Windows code pages: iconv on Linux, the Windows API there. code_page.cpp alone uses
+// them.
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 
 namespace corvane::runtime {
 
-// The characters of the single bytes of a page.
-class CharacterTable {
- public:
-  explicit CharacterTable(int page);
-  ~CharacterTable();
-  CharacterTable(const CharacterTable&) = delete;
-  CharacterTable& operator=(const CharacterTable&) = delete;
-  // U+FFFD where the page defines none.
-  char32_t Of(unsigned char byte) const;
+inline constexpr char32_t kNoCharacter = 0xFFFD;
 
- private:
-  void* handle_;
-};
+// What each byte is that is a character by itself; kNoCharacter for those that are none or that [page] leaves
+// undefined.
+std::array<char32_t, 256> SingleByteCharacters(int page);
 
-// Bytes that the page does not define become U+FFFD.
-std::string Utf8OfPage(int page, std::string_view bytes);
-// Appends to [bytes]; characters that the page does not hold, and what is no UTF-8, become "?" each. Returns whether
-// there were none.
-bool PageOfUtf8(int page, std::string_view utf8, std::string& bytes);
+// Append the whole text; what the page does not define becomes U+FFFD, what it does not hold becomes "?".
+// Return whether nothing was lost.
+bool AppendAsUtf8(int page, std::string_view bytes, std::string& utf8);
+bool AppendFromUtf8(int page, std::string_view utf8, std::string& bytes);
 
 }  // namespace corvane::runtime

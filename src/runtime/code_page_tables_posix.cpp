@@ -8,8 +8,8 @@ namespace corvane::runtime {
 
 namespace {
 
-std::string IconvName(int number) {
-  return number == 936 ? "GBK" : "CP" + std::to_string(number);
+std::string IconvName(int page) {
+  return page == 936 ? "GBK" : "CP" + std::to_string(page);
 }
 
 class Iconv {
@@ -61,41 +61,45 @@ class Iconv {
   iconv_t handle_;
 };
 
+size_t OneByte(std::string_view) {
+  return 1;
+}
+
+size_t OneUtf8Character(std::string_view rest) {
+  size_t length = 1;
+  while (length < rest.size() && (static_cast<unsigned char>(rest[length]) & 0xC0) == 0x80) ++length;
+  return length;
+}
+
+char32_t CharacterOf(Iconv& iconv, unsigned char byte) {
+  const char input = static_cast<char>(byte);
+  std::string out;
+  if (!iconv.Good() || !iconv.Convert({&input, 1}, "", OneByte, out) || out.size() < 4) return kNoCharacter;
+  const char32_t character = static_cast<unsigned char>(out[0]) | static_cast<unsigned char>(out[1]) << 8 |
+                             static_cast<char32_t>(static_cast<unsigned char>(out[2])) << 16;
+  return character < 0xA0 ? kNoCharacter : character;  // a control character stands for none
+}
+
 }  // namespace
 
-CharacterTable::CharacterTable(int page) : handle_(new Iconv("UTF-32LE", IconvName(page))) {}
-
-CharacterTable::~CharacterTable() {
-  delete static_cast<Iconv*>(handle_);
+std::array<char32_t, 256> SingleByteCharacters(int page) {
+  std::array<char32_t, 256> characters;
+  Iconv iconv("UTF-32LE", IconvName(page));
+  for (size_t byte = 0; byte < characters.size(); ++byte)
+    characters[byte] = byte < 0x80 ? static_cast<char32_t>(byte) : CharacterOf(iconv, static_cast<unsigned char>(byte));
+  return characters;
 }
 
-char32_t CharacterTable::Of(unsigned char byte) const {
-  auto& iconv = *static_cast<Iconv*>(handle_);
-  std::string out;
-  const char input = static_cast<char>(byte);
-  const auto skip = [](std::string_view) { return size_t{1}; };
-  if (!iconv.Good() || !iconv.Convert({&input, 1}, "", skip, out) || out.size() < 4) return 0xFFFD;
-  return static_cast<unsigned char>(out[0]) | static_cast<unsigned char>(out[1]) << 8 |
-         static_cast<char32_t>(static_cast<unsigned char>(out[2])) << 16;
-}
-
-std::string Utf8OfPage(int page, std::string_view bytes) {
-  std::string result;
+bool AppendAsUtf8(int page, std::string_view bytes, std::string& utf8) {
   Iconv iconv("UTF-8", IconvName(page));
-  if (!iconv.Good()) return std::string(bytes.size(), '?');
-  iconv.Convert(bytes, "\xEF\xBF\xBD", [](std::string_view) { return size_t{1}; }, result);
-  return result;
+  if (iconv.Good()) return iconv.Convert(bytes, "\xEF\xBF\xBD", OneByte, utf8);
+  utf8.append(bytes.size(), '?');
+  return false;
 }
 
-bool PageOfUtf8(int page, std::string_view utf8, std::string& bytes) {
+bool AppendFromUtf8(int page, std::string_view utf8, std::string& bytes) {
   Iconv iconv(IconvName(page), "UTF-8");
-  if (!iconv.Good()) return false;
-  auto step = [](std::string_view rest) {
-    size_t length = 1;
-    while (length < rest.size() && (static_cast<unsigned char>(rest[length]) & 0xC0) == 0x80) ++length;
-    return length;
-  };
-  return iconv.Convert(utf8, "?", step, bytes);
+  return iconv.Good() && iconv.Convert(utf8, "?", OneUtf8Character, bytes);
 }
 
 }  // namespace corvane::runtime

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <windows.h>
 
 #include "runtime/code_page_tables.h"
@@ -6,84 +7,96 @@ namespace corvane::runtime {
 
 namespace {
 
-// The pages' own answer for a byte that they leave free is the control character of that number.
-bool IsUndefined(wchar_t character, unsigned char byte) {
-  return character == 0xFFFD || (byte >= 0x80 && byte < 0xA0 && character == byte) ||
-         (character >= 0xE000 && character < 0xF900);
+// One character of Unicode: one or two units; none: length 0.
+struct Units {
+  wchar_t units[2] = {};
+  int length = 0;
+};
+
+// [bytes] must be one character of [page], else nothing.
+Units UnitsOf(unsigned page, std::string_view bytes) {
+  Units result;
+  result.length =
+      MultiByteToWideChar(page, MB_ERR_INVALID_CHARS, bytes.data(), static_cast<int>(bytes.size()), result.units, 2);
+  return result;
 }
 
-// The character of [length] bytes; 0 where the page has none.
-wchar_t CharacterOf(int page, const char* bytes, int length) {
-  wchar_t wide[2];
-  const int count = MultiByteToWideChar(page, MB_ERR_INVALID_CHARS, bytes, length, wide, 2);
-  if (count != 1) return 0;
-  return length == 1 && IsUndefined(wide[0], static_cast<unsigned char>(bytes[0])) ? 0 : wide[0];
+// The system has a character for every byte: control characters and private ones where the page defines none, and a
+// Hebrew point that other systems do not know.
+bool IsStopgap(wchar_t unit) {
+  return (unit >= 0x80 && unit < 0xA0) || (unit >= 0xE000 && unit < 0xF900) || unit == 0x05BA;
 }
 
-void AppendUtf8(std::string& utf8, wchar_t character) {
+std::string Utf8Of(const Units& character) {
+  char bytes[8];
+  const int length =
+      WideCharToMultiByte(CP_UTF8, 0, character.units, character.length, bytes, sizeof bytes, nullptr, nullptr);
+  return std::string(bytes, static_cast<size_t>(std::max(length, 0)));
+}
+
+bool AppendInPage(unsigned page, const Units& character, std::string& bytes) {
   char buffer[4];
-  utf8.append(buffer, WideCharToMultiByte(CP_UTF8, 0, &character, 1, buffer, sizeof buffer, nullptr, nullptr));
+  BOOL lost = FALSE;
+  const int length = WideCharToMultiByte(page, WC_NO_BEST_FIT_CHARS, character.units, character.length, buffer,
+                                         sizeof buffer, nullptr, &lost);
+  if (length <= 0 || lost) return false;
+  bytes.append(buffer, static_cast<size_t>(length));
+  return true;
 }
 
-// The length of the UTF-8 character at the front; 0 where it is broken.
-size_t LengthOfCharacter(std::string_view utf8) {
-  const auto first = static_cast<unsigned char>(utf8[0]);
-  const size_t length = first < 0x80 ? 1 : first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : first >= 0xC2 ? 2 : 0;
-  if (length > utf8.size()) return 0;
-  for (size_t i = 1; i < length; ++i)
-    if ((static_cast<unsigned char>(utf8[i]) & 0xC0) != 0x80) return 0;
+// ASCII at the start of [text] goes over as it is; the rest is left.
+void TakeAscii(std::string_view& text, std::string& output) {
+  size_t length = 0;
+  while (length < text.size() && static_cast<unsigned char>(text[length]) < 0x80) ++length;
+  output.append(text.substr(0, length));
+  text.remove_prefix(length);
+}
+
+size_t LengthOfUtf8(std::string_view text) {
+  const auto first = static_cast<unsigned char>(text[0]);
+  const size_t wanted = first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : first >= 0xC0 ? 2 : 1;
+  size_t length = 1;
+  while (length < std::min(wanted, text.size()) && (static_cast<unsigned char>(text[length]) & 0xC0) == 0x80) ++length;
   return length;
 }
 
 }  // namespace
 
-CharacterTable::CharacterTable(int page) : handle_(reinterpret_cast<void*>(static_cast<intptr_t>(page))) {}
-
-CharacterTable::~CharacterTable() = default;
-
-char32_t CharacterTable::Of(unsigned char byte) const {
-  const char input = static_cast<char>(byte);
-  const wchar_t character = CharacterOf(static_cast<int>(reinterpret_cast<intptr_t>(handle_)), &input, 1);
-  return character == 0 && byte != 0 ? 0xFFFD : character;
-}
-
-std::string Utf8OfPage(int page, std::string_view bytes) {
-  std::string utf8;
-  utf8.reserve(bytes.size() + bytes.size() / 2);
-  for (size_t i = 0; i < bytes.size();) {
-    const auto byte = static_cast<unsigned char>(bytes[i]);
-    if (byte < 0x80) {
-      utf8 += bytes[i++];
-      continue;
-    }
-    const bool two = IsDBCSLeadByteEx(page, byte) && i + 1 < bytes.size();
-    const wchar_t character = CharacterOf(page, bytes.data() + i, two ? 2 : 1);
-    AppendUtf8(utf8, character == 0 ? L'\xFFFD' : character);
-    i += two && character != 0 ? 2 : 1;
+std::array<char32_t, 256> SingleByteCharacters(int page) {
+  std::array<char32_t, 256> characters;
+  for (size_t byte = 0; byte < characters.size(); ++byte) {
+    const char input = static_cast<char>(byte);
+    const Units character =
+        byte < 0x80 ? Units{{static_cast<wchar_t>(byte)}, 1} : UnitsOf(static_cast<unsigned>(page), {&input, 1});
+    const bool defined = character.length == 1 && (byte < 0x80 || !IsStopgap(character.units[0]));
+    characters[byte] = defined ? character.units[0] : kNoCharacter;
   }
-  return utf8;
+  return characters;
 }
 
-bool PageOfUtf8(int page, std::string_view utf8, std::string& bytes) {
+bool AppendAsUtf8(int page, std::string_view bytes, std::string& utf8) {
+  const auto table = static_cast<unsigned>(page);
   bool clean = true;
-  while (!utf8.empty()) {
-    size_t length = LengthOfCharacter(utf8);
-    wchar_t wide[2];
-    const int count = length == 0 ? 0
-                                  : MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, utf8.data(),
-                                                        static_cast<int>(length), wide, 2);
-    char buffer[8];
-    BOOL lost = count == 0;
-    const int written =
-        count == 0 ? 0
-                   : WideCharToMultiByte(page, WC_NO_BEST_FIT_CHARS, wide, count, buffer, sizeof buffer, nullptr, &lost);
-    if (lost || written == 0) {
-      bytes += '?';
-      clean = false;
-      for (length = 1; length < utf8.size() && (static_cast<unsigned char>(utf8[length]) & 0xC0) == 0x80;) ++length;
-    } else {
-      bytes.append(buffer, static_cast<size_t>(written));
-    }
+  for (TakeAscii(bytes, utf8); !bytes.empty(); TakeAscii(bytes, utf8)) {
+    size_t length = 1;
+    if (bytes.size() > 1 && IsDBCSLeadByteEx(table, static_cast<BYTE>(bytes[0]))) length = 2;
+    const Units character = UnitsOf(table, bytes.substr(0, length));
+    const bool defined = character.length > 0 && (length == 2 || !IsStopgap(character.units[0]));
+    utf8 += defined ? Utf8Of(character) : "\xEF\xBF\xBD";
+    clean = clean && defined;
+    bytes.remove_prefix(defined ? length : 1);
+  }
+  return clean;
+}
+
+bool AppendFromUtf8(int page, std::string_view utf8, std::string& bytes) {
+  bool clean = true;
+  for (TakeAscii(utf8, bytes); !utf8.empty(); TakeAscii(utf8, bytes)) {
+    const size_t length = LengthOfUtf8(utf8);
+    const Units character = UnitsOf(CP_UTF8, utf8.substr(0, length));
+    const bool held = character.length > 0 && AppendInPage(static_cast<unsigned>(page), character, bytes);
+    if (!held) bytes += '?';
+    clean = clean && held;
     utf8.remove_prefix(length);
   }
   return clean;

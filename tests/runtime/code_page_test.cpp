@@ -1,11 +1,14 @@
 #include "runtime/code_page.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <gtest/gtest.h>
 #include <vector>
 
+#include "runtime/code_page_tables.h"
 #include "runtime/collate.h"
 #include "runtime/strings.h"
+#include "tests/support/golden.h"
 
 namespace corvane::runtime {
 namespace {
@@ -25,7 +28,9 @@ TEST_P(CodePages, EachDefinedByteComesBackFromUtf8) {
     if (page.IsLead(static_cast<unsigned char>(byte)) || Holds(utf8, "\xEF\xBF\xBD")) continue;
     std::string back;
     EXPECT_TRUE(page.FromUtf8(utf8, back)) << byte;
-    if (GetParam() != 1258) EXPECT_EQ(back, bytes) << byte;
+    if (GetParam() != 1258) {
+      EXPECT_EQ(back, bytes) << byte;
+    }
   }
 }
 
@@ -38,6 +43,52 @@ TEST_P(CodePages, CaseKeepsTheLengthAndIsStable) {
     EXPECT_EQ(page.ToUpper(upper), upper) << byte;
     EXPECT_EQ(page.ToUpper(page.ToLower(upper)), upper) << byte;
   }
+}
+
+// The tables come from the system, and each system must give the same: "1252 80: 20AC FFFD 201A ...", lead bytes as
+// "lead".
+TEST_P(CodePages, HaveTheSameCharactersOnEverySystem) {
+  const CodePage page(GetParam());
+  const auto characters = SingleByteCharacters(GetParam());
+  std::string text;
+  for (unsigned byte = 0x80; byte < 256; ++byte) {
+    char cell[16];
+    if (byte % 16 == 0) text += (byte > 0x80 ? "\n" : "") + std::to_string(GetParam()) + " ";
+    std::snprintf(cell, sizeof cell, byte % 16 == 0 ? "%02X:" : "", byte);
+    text += cell;
+    std::snprintf(cell, sizeof cell, " %04X", static_cast<unsigned>(characters[byte]));
+    text += page.IsLead(static_cast<unsigned char>(byte)) ? " lead" : cell;
+  }
+  EXPECT_TRUE(tests::MatchesGolden(text + "\n", "runtime/code_pages/" + std::to_string(GetParam()) + ".txt"));
+}
+
+TEST(CodePage, ACharacterOfTwoBytesGoesToUtf8AndBack) {
+  const struct {
+    int page;
+    const char *bytes, *utf8;
+  } kCharacters[] = {{932, "\x83\x65\x95\x5C", "\xE3\x83\x86\xE8\xA1\xA8"},
+                     {936, "\xB1\xB1\xBE\xA9", "\xE5\x8C\x97\xE4\xBA\xAC"},
+                     {949, "\xC7\xD1\xB1\xDB", "\xED\x95\x9C\xEA\xB8\x80"},
+                     {950, "\xA4\xA4\xA4\xE5", "\xE4\xB8\xAD\xE6\x96\x87"}};
+  for (const auto& each : kCharacters) {
+    EXPECT_EQ(CodePage(each.page).ToUtf8(each.bytes), each.utf8) << each.page;
+    EXPECT_EQ(CodePage(each.page).FromUtf8(each.utf8), each.bytes) << each.page;
+  }
+}
+
+TEST(CodePage, WhatIsNoUtf8IsOneQuestionMarkEach) {
+  const struct {
+    const char *utf8, *bytes;
+  } kBroken[] = {{"a\xC3", "a?"}, {"\xA9z", "?z"}, {"\xE2\x82z", "?z"}, {"\xC3\xA9\x80z", "\xE9?z"}, {"\xFFz", "?z"}};
+  for (const auto& each : kBroken) {
+    std::string bytes;
+    EXPECT_FALSE(CodePage(1252).FromUtf8(each.utf8, bytes)) << each.bytes;
+    EXPECT_EQ(bytes, each.bytes);
+  }
+}
+
+TEST(CodePage, ALeadByteWithoutItsSecondIsNoCharacter) {
+  EXPECT_EQ(CodePage(932).ToUtf8("a\x83"), "a\xEF\xBF\xBD");
 }
 
 TEST(CodePage, UpperCaseFollowsThePage) {
