@@ -1,16 +1,18 @@
 # A room is a folder of src/: its sources are one library, corvane_<room>, and its tests one program.
 
+# x_posix.cpp and x_windows.cpp are the two forms of what a system answers for x.h; x_posix_test.cpp tests the one.
+if(WIN32)
+  set(CORVANE_FOREIGN "_posix(_test)?\\.cpp$")
+else()
+  set(CORVANE_FOREIGN "_windows(_test)?\\.cpp$")
+endif()
+
 # corvane_room(codelist DEPENDS runtime host forms) makes corvane_codelist from src/codelist/*.cpp.
 function(corvane_room room)
   cmake_parse_arguments(ARG "" "" "DEPENDS;LIBRARIES" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${room}/*.cpp)
   list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
-  # x_posix.cpp and x_windows.cpp are the two forms of what a system answers for x.h.
-  if(WIN32)
-    list(FILTER sources EXCLUDE REGEX "_posix\\.cpp$")
-  else()
-    list(FILTER sources EXCLUDE REGEX "_windows\\.cpp$")
-  endif()
+  list(FILTER sources EXCLUDE REGEX ${CORVANE_FOREIGN})
   list(TRANSFORM ARG_DEPENDS PREPEND corvane_)
   if(sources)
     add_library(corvane_${room} STATIC ${sources})
@@ -27,6 +29,7 @@ endfunction()
 function(corvane_room_tests room)
   cmake_parse_arguments(ARG "" "" "DEPENDS;LIBRARIES" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${room}/*.cpp)
+  list(FILTER sources EXCLUDE REGEX ${CORVANE_FOREIGN})
   if(NOT sources)
     return()
   endif()

@@ -1,6 +1,6 @@
-// What a user does with a real project, from its files on disk to a line in a code pane.
-#include "environment/disk_files.h"
+// What a user does with a real project, from its files to a line in a code pane.
 #include "tests/explorer/explorer_fixture.h"
+#include "tests/support/sample_files.h"
 
 namespace corvane::tests {
 namespace {
@@ -8,12 +8,13 @@ namespace {
 class Story : public ExplorerTest {
  protected:
   Story() {
-    environment = environment::Environment::Create(*files, &services.clipboard);
-    environment->Open(environment::WindowsPath(CORVANE_SOURCE_DIR "/samples/stockroom/Stockroom.vbp"));
+    PutSample("stockroom", files);
+    environment = environment::Environment::Create(files, &services.clipboard);
+    environment->Open("Z:\\samples\\stockroom\\Stockroom.vbp");
     OpenWindow();
   }
 
-  std::unique_ptr<host::Files> files = environment::NewDiskFiles();
+  environment::MemoryFiles files;
 };
 
 TEST_F(Story, ReadAProcedureAndJumpIntoItsCode) {

@@ -1,5 +1,3 @@
-#include "environment/disk_files.h"
-
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
@@ -11,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "environment/disk_files.h"
 #include "environment/paths.h"
 #include "environment/wildcard.h"
 #include "runtime/code_page.h"

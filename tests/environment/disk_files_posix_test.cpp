@@ -1,5 +1,3 @@
-#include "environment/disk_files.h"
-
 #include <csignal>
 #include <filesystem>
 #include <fstream>
@@ -12,6 +10,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "environment/disk_files.h"
 #include "environment/paths.h"
 #include "runtime/code_page.h"
 #include "tests/environment/opened.h"
