@@ -45,6 +45,7 @@ class RecordingCanvas : public Canvas {
   const std::vector<std::string>& Calls() const { return calls_; }
   std::string AsText() const;  // all calls, a line each
   void Forget() { calls_.clear(); }
+  static std::string PictureText(const Picture& picture);  // as a call names it
 
  private:
   void Record(std::string call) { calls_.push_back(std::move(call)); }

@@ -6,7 +6,7 @@ namespace corvane::forms {
 
 PictureRef Icon(std::string_view name) {
   for (const EmbeddedFile* file = kIconFiles; file->name; ++file) {
-    if (name == file->name) return std::make_shared<Picture>(Picture{file->bytes});
+    if (name == file->name) return std::make_shared<Picture>(Picture{std::string(file->bytes, file->size)});
   }
   return nullptr;
 }

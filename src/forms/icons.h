@@ -1,6 +1,8 @@
-// The program's own icons, drawn as SVG in data/icons and compiled in.
+// The program's own icons, drawn as SVG in data/icons and compiled in: as they are, or for Windows as .ico files of
+// several sizes.
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 
 #include "forms/types.h"
@@ -10,6 +12,7 @@ namespace corvane::forms {
 struct EmbeddedFile {
   const char* name;
   const char* bytes;
+  size_t size;
 };
 
 extern const EmbeddedFile kIconFiles[];  // ends with a null name

@@ -74,8 +74,14 @@ void RecordingCanvas::Text(Twips x, Twips y, std::string_view text, const Font& 
   Record("text" + Numbers({x, y}) + " \"" + std::string(text) + "\"" + FontText(font) + " " + ColorText(color));
 }
 
+std::string RecordingCanvas::PictureText(const Picture& picture) {
+  unsigned sum = 0;
+  for (const char byte : picture.bytes) sum += static_cast<unsigned char>(byte);
+  return std::to_string(picture.bytes.size()) + " bytes, sum " + std::to_string(sum);
+}
+
 void RecordingCanvas::PaintPicture(const PictureRef& picture, const Rect& place) {
-  if (picture) Record("picture" + BoxText(place) + " " + std::to_string(picture->bytes.size()) + " bytes");
+  if (picture) Record("picture" + BoxText(place) + " " + PictureText(*picture));
 }
 
 void RecordingCanvas::Refresh() {

@@ -30,7 +30,7 @@ class Painter : public ListTest {
     Canvas().Forget();
     return texts;
   }
-  std::string BytesOf(const char* icon) { return std::to_string(forms::Icon(icon)->bytes.size()) + " bytes"; }
+  std::string PictureOf(const char* icon) { return forms::RecordingCanvas::PictureText(*forms::Icon(icon)); }
   void Redraw() {
     Canvas().Forget();
     list.pic.Paint();
@@ -212,7 +212,7 @@ TEST_F(Painter, ShowsThePictureOfALine) {
                       "x"),
               ElementsAre("632 234 \" x\" Arial 9.75 #000000"));
   Redraw();
-  EXPECT_THAT(Drawn("picture"), Contains("picture 452 244 194 194 4 bytes"));
+  EXPECT_THAT(Drawn("picture"), Contains("picture 452 244 194 194 4 bytes, sum 383"));
 }
 
 TEST_F(Painter, APictureThatIsNotThereLeavesItsPlace) {
@@ -369,20 +369,20 @@ TEST_F(Painter, AStarIsThePictureOfAnItem) {
                       "x"),
               ElementsAre("632 234 \" x\" Arial 9.75 #000000"));
   Redraw();
-  EXPECT_THAT(Drawn("picture"), Contains("picture 452 244 194 194 " + BytesOf("list-item")));
+  EXPECT_THAT(Drawn("picture"), Contains("picture 452 244 194 194 " + PictureOf("list-item")));
 }
 
 TEST_F(Painter, AMenuGroupWithAnExclamationMarkHasThePictureOfAnItem) {
-  ASSERT_NE(BytesOf("list-item"), BytesOf("list-group"));
+  ASSERT_NE(PictureOf("list-item"), PictureOf("list-group"));
   list.ListRole = kScriptTree;
   list.AddTreeItem("x", 33, false);
   list.AddTreeItem("Menu" + runtime::Space(100) + "{}", 33, false);
   list.AddTreeItem("Menu" + runtime::Space(100) + "{}!", 33, false);
   list.AddTreeItem("}!" + runtime::Space(100) + "{}", 33, false);
   Redraw();
-  EXPECT_THAT(Drawn("picture"), AllOf(Contains("picture 1186 244 194 194 " + BytesOf("list-group")),
-                                      Contains("picture 1186 478 194 194 " + BytesOf("list-item")),
-                                      Contains("picture 990 712 194 194 " + BytesOf("list-group"))));
+  EXPECT_THAT(Drawn("picture"), AllOf(Contains("picture 1186 244 194 194 " + PictureOf("list-group")),
+                                      Contains("picture 1186 478 194 194 " + PictureOf("list-item")),
+                                      Contains("picture 990 712 194 194 " + PictureOf("list-group"))));
 }
 
 TEST_F(Painter, ALineInABlockCommentThatHoldsItsBeginningAgainIsGreyAsAWhole) {

@@ -70,8 +70,8 @@ TEST_F(PictureBoxes, DrawingIsRecordedInTwips) {
   pic.Refresh();
   EXPECT_EQ(canvas.Calls(),
             (Log{"fill 50 10 50 290 system:17", "frame 0 0 100 200 #000000", "line 1 2 3 4 #ff0000 width 1",
-                 "circle 80 90 40 #ff0000", "circle 80 90 40 #ff0000 filled #ffff00", "picture 10 20 30 40 5 bytes",
-                 "text 5 6 \"x\" MS Sans Serif 8.25 system:18", "refresh"}));
+                 "circle 80 90 40 #ff0000", "circle 80 90 40 #ff0000 filled #ffff00",
+                 "picture 10 20 30 40 5 bytes, sum 255", "text 5 6 \"x\" MS Sans Serif 8.25 system:18", "refresh"}));
 }
 
 TEST_F(PictureBoxes, FiguresMoveTheCurrentPlaceToTheirEnd) {

@@ -236,10 +236,23 @@ TEST(Icons, ThatAreNotThereAreNothing) {
   EXPECT_EQ(Icon("no such icon"), nullptr);
 }
 
-TEST(Icons, ThatAreThereAreDrawings) {
+// A drawing, or on Windows an icon file: kind 1, of four sizes at least, the last of which ends with the file.
+TEST(Icons, ThatAreThereAreWhole) {
   for (const EmbeddedFile* file = kIconFiles; file->name; ++file) {
     ASSERT_NE(Icon(file->name), nullptr) << file->name;
-    EXPECT_NE(Icon(file->name)->bytes.find("<svg"), std::string::npos) << file->name;
+    const std::string bytes = Icon(file->name)->bytes;
+#ifdef _WIN32
+    const auto number = [&](size_t at) { return static_cast<unsigned char>(bytes.at(at)); };
+    ASSERT_EQ(bytes.substr(0, 4), std::string("\0\0\1\0", 4)) << file->name;
+    const size_t sizes = number(4), last = 6 + 16 * (sizes - 1);
+    EXPECT_GE(sizes, 4u) << file->name;
+    const size_t length = number(last + 8) + number(last + 9) * 256u,
+                 start = number(last + 12) + number(last + 13) * 256u;
+    EXPECT_EQ(start + length, bytes.size()) << file->name;
+#else
+    EXPECT_NE(bytes.find("<svg"), std::string::npos) << file->name;
+    EXPECT_TRUE(bytes.ends_with("</svg>\n") || bytes.ends_with("</svg>")) << file->name;
+#endif
   }
 }
 
