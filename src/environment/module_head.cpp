@@ -193,8 +193,8 @@ void FindConflictMark(std::string_view bytes, size_t at, std::vector<Problem>& p
     first = std::min(first, found);
   }
   if (first == std::string_view::npos) return;
-  auto line = std::count(bytes.begin(), bytes.begin() + static_cast<long>(first), '\n') + 1;
-  problems.push_back({{}, line, kConflictMark});
+  const auto above = std::count(bytes.begin(), bytes.begin() + static_cast<long>(first), '\n');
+  problems.push_back({{}, static_cast<long>(above) + 1, kConflictMark});
 }
 
 std::vector<long> ConflictMarkLines(std::string_view designer) {

@@ -1,6 +1,7 @@
 #include "environment/procedure_index.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "environment/doubtful_points.h"
 #include "environment/lookup.h"
@@ -221,16 +222,19 @@ bool ProcedureIndex::Follow(long start, long count, const std::vector<std::strin
 }
 
 bool ProcedureIndex::IsBehindFirstHeader(long line) const {
-  return !procedures_.empty() && line > procedures_.front().body && line > procedures_.front().name_line;
+  return !procedures_.empty() && std::cmp_greater(line, procedures_.front().body) &&
+         std::cmp_greater(line, procedures_.front().name_line);
 }
 
 void ProcedureIndex::Shift(long start, int64_t by) {
   auto shift = [&](uint32_t& line) { line = static_cast<uint32_t>(line + by); };
-  auto first = std::lower_bound(procedures_.begin(), procedures_.end(), start,
-                                [](const Procedure& procedure, long line) { return procedure.body < line; });
+  auto first =
+      std::lower_bound(procedures_.begin(), procedures_.end(), start,
+                       [](const Procedure& procedure, long line) { return std::cmp_less(procedure.body, line); });
   for (; by != 0 && first != procedures_.end(); ++first) {
     // Directly behind the end of the procedure above all lines are those of this one.
-    if (first->start > start || (first->start == start && !first->behind_end)) shift(first->start);
+    if (std::cmp_greater(first->start, start) || (std::cmp_equal(first->start, start) && !first->behind_end))
+      shift(first->start);
     shift(first->body);
     shift(first->name_line);
   }
@@ -238,8 +242,9 @@ void ProcedureIndex::Shift(long start, int64_t by) {
 
 const Procedure* ProcedureIndex::At(long line) const {
   if (line <= declaration_lines_) return nullptr;
-  auto behind = std::upper_bound(procedures_.begin(), procedures_.end(), line,
-                                 [](long value, const Procedure& procedure) { return value < procedure.start; });
+  auto behind =
+      std::upper_bound(procedures_.begin(), procedures_.end(), line,
+                       [](long value, const Procedure& procedure) { return std::cmp_less(value, procedure.start); });
   return behind == procedures_.begin() ? nullptr : &*(behind - 1);
 }
 
