@@ -13,7 +13,7 @@ namespace corvane::desk {
 
 namespace {
 
-constexpr int kRowHeight = 20, kNameColumn = 118;  // logical pixels
+constexpr int kRowHeight = 20, kNameColumn = 118, kCellMargin = 4;  // logical pixels
 
 bool IsColor(const std::string& name) {
   return name.size() >= 5 && name.ends_with("Color");
@@ -104,6 +104,15 @@ void PropertyList::Fill() {
     table_->setItem(at, 0, name);
     table_->setItem(at, 1, value);
   }
+  FitNames();
+}
+
+// Wide enough for the longest name, as long as the values keep a third.
+void PropertyList::FitNames() {
+  int width = kNameColumn;
+  for (int at = 0; at < table_->rowCount(); ++at)
+    width = std::max(width, fontMetrics().horizontalAdvance(table_->item(at, 0)->text()) + 2 * kCellMargin);
+  table_->setColumnWidth(0, std::min(width, std::max(kNameColumn, table_->viewport()->width() * 2 / 3)));
 }
 
 void PropertyList::TakeEdit(QTableWidgetItem* item) {

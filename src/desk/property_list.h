@@ -33,6 +33,7 @@ class PropertyList : public QWidget {
 
  private:
   void Fill();
+  void FitNames();
   void TakeEdit(QTableWidgetItem* item);
   QLabel* title_;
   QTableWidget* table_;
