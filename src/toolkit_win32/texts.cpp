@@ -13,6 +13,10 @@ bool IsAscii(const Text& text) {
   return std::none_of(text.begin(), text.end(), [](auto each) { return (each & ~0x7F) != 0; });
 }
 
+UINT PageNumber() {
+  return static_cast<UINT>(runtime::AnsiCodePage().Number());
+}
+
 }  // namespace
 
 std::wstring FromUtf8(std::string_view utf8) {
@@ -30,15 +34,25 @@ std::string ToUtf8(std::wstring_view shown) {
   return utf8;
 }
 
+// By the system's own tables: a byte that the page leaves undefined comes back as it was.
 std::wstring ShownText(std::string_view bytes) {
   if (IsAscii(bytes)) return {bytes.begin(), bytes.end()};
-  return FromUtf8(runtime::AnsiCodePage().ToUtf8(bytes));
+  const int size = static_cast<int>(bytes.size());
+  std::wstring shown(bytes.size(), L'\0');
+  shown.resize(static_cast<size_t>(MultiByteToWideChar(PageNumber(), 0, bytes.data(), size, shown.data(), size)));
+  return shown;
 }
 
 std::string BytesOf(std::wstring_view shown) {
-  if (!IsAscii(shown)) return runtime::AnsiCodePage().FromUtf8(ToUtf8(shown));
-  std::string bytes(shown.size(), '\0');
-  std::transform(shown.begin(), shown.end(), bytes.begin(), [](wchar_t each) { return static_cast<char>(each); });
+  if (IsAscii(shown)) {
+    std::string bytes(shown.size(), '\0');
+    std::transform(shown.begin(), shown.end(), bytes.begin(), [](wchar_t each) { return static_cast<char>(each); });
+    return bytes;
+  }
+  const int length = static_cast<int>(shown.size());
+  std::string bytes(shown.size() * 2, '\0');
+  bytes.resize(static_cast<size_t>(WideCharToMultiByte(PageNumber(), WC_NO_BEST_FIT_CHARS, shown.data(), length,
+                                                       bytes.data(), length * 2, "?", nullptr)));
   return bytes;
 }
 
