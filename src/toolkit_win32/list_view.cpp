@@ -1,0 +1,330 @@
+#include "toolkit_win32/list_view.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "toolkit_win32/colors.h"
+#include "toolkit_win32/keys.h"
+#include "toolkit_win32/painted.h"
+#include "toolkit_win32/texts.h"
+#include "toolkit_win32/toolkit.h"
+
+namespace corvane::toolkit_win32 {
+namespace {
+
+constexpr int kIndent = 2, kBox = 13;  // pixels at 96 dots to the inch
+constexpr size_t kShownBytes = 1024;   // of a row: more never fits a screen
+
+wchar_t UpperOf(wchar_t letter) {
+  return static_cast<wchar_t>(reinterpret_cast<UINT_PTR>(CharUpperW(reinterpret_cast<wchar_t*>(UINT_PTR{letter}))));
+}
+
+POINT PlaceOf(const Message& message) {
+  return {GET_X_LPARAM(message.l), GET_Y_LPARAM(message.l)};
+}
+
+}  // namespace
+
+int ListView::RowHeight() const {
+  const int text = toolkit_.Fonts().Of(list_.Font()).Height();
+  return Boxes ? std::max(text, toolkit_.Scale().Scaled(kBox + 2)) : text;
+}
+
+int ListView::BoxWidth() const {
+  return Boxes ? toolkit_.Scale().Scaled(kBox + 2 * kIndent) : 0;
+}
+
+long ListView::RowsInView() const {
+  return std::max(1, HeightOf(window_.Client()) / RowHeight());
+}
+
+long ListView::RowAt(POINT place) const {
+  const RECT rows = window_.Client();
+  if (place.y < rows.top || place.y >= rows.bottom) return -1;
+  const long row = top_ + place.y / RowHeight();
+  return row < Count() ? row : -1;
+}
+
+RECT ListView::PlaceOfRow(long row) const {
+  const int top = static_cast<int>(row - top_) * RowHeight();
+  return {0, top, window_.Client().right, top + RowHeight()};
+}
+
+void ListView::RowsChanged(Life life) {
+  if (stale_) return;
+  stale_ = true;
+  toolkit_.Post(std::move(life), [this] { FitScrollBar(); });
+}
+
+// A bar that comes or goes leaves less or more room for the rows: it hides itself where all fit.
+void ListView::FitScrollBar() {
+  stale_ = false;
+  top_ = std::clamp(top_, 0L, std::max(0L, Count() - RowsInView()));
+  SCROLLINFO info{};
+  info.cbSize = sizeof info;
+  info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
+  info.nMax = static_cast<int>(std::max(0L, Count() - 1));
+  info.nPage = static_cast<UINT>(RowsInView());
+  info.nPos = static_cast<int>(top_);
+  SetScrollInfo(window_.Handle(), SB_VERT, &info, TRUE);
+  Repaint();
+}
+
+void ListView::ScrollTo(long row) {
+  top_ = std::max(0L, row);
+  FitScrollBar();
+}
+
+void ListView::Follow(long row) {
+  if (row < 0) return;
+  if (row < top_) return ScrollTo(row);
+  if (row >= top_ + RowsInView()) ScrollTo(row - RowsInView() + 1);
+}
+
+bool ListView::IsShownSelected(long row) const {
+  if (Many()) return IsMarked(row);
+  return row == (pressed_ >= 0 ? pressed_ : list_.ListIndex());
+}
+
+void ListView::PaintRows() {
+  if (stale_) FitScrollBar();
+  PAINTSTRUCT paint{};
+  const HDC target = BeginPaint(window_.Handle(), &paint);
+  if (target && !IsRectEmpty(&paint.rcPaint)) {
+    const BufferedPaint buffer(target, paint.rcPaint);
+    Fill(buffer.Dc(), paint.rcPaint, list_.BackColor());
+    const long end = std::min(Count(), top_ + RowsInView() + 1);
+    for (long row = top_ + paint.rcPaint.top / RowHeight(); row < end; ++row) {
+      const RECT place = PlaceOfRow(row);
+      if (place.top >= paint.rcPaint.bottom) break;
+      PaintRow(buffer.Dc(), row, place);
+    }
+  }
+  EndPaint(window_.Handle(), &paint);
+}
+
+void ListView::PaintRow(HDC dc, long row, const RECT& place) const {
+  const bool selected = IsShownSelected(row), active = list_.IsActive();
+  const RECT text{place.left + BoxWidth(), place.top, place.right, place.bottom};
+  if (selected && active) Fill(dc, text, forms::kHighlight);
+  if (Boxes) PaintBox(dc, place, IsMarked(row));
+  forms::Color color = active ? list_.ForeColor() : static_cast<forms::Color>(forms::kGrayText);
+  if (selected && active) color = forms::kHighlightText;
+  ShownFont& font = toolkit_.Fonts().Of(list_.Font());
+  const std::string_view bytes = list_.Rows().At(row).text;
+  font.Draw(dc, text.left + toolkit_.Scale().Scaled(kIndent), text.top + (HeightOf(text) - font.Height()) / 2,
+            bytes.substr(0, kShownBytes), ShownColor(color));
+  if (Many() && row == list_.ListIndex() && GetFocus() == window_.Handle()) DrawFocusRect(dc, &text);
+}
+
+void ListView::PaintBox(HDC dc, const RECT& place, bool ticked) const {
+  const int size = toolkit_.Scale().Scaled(kBox), left = place.left + toolkit_.Scale().Scaled(kIndent);
+  const int top = place.top + (HeightOf(place) - size) / 2;
+  RECT box{left, top, left + size, top + size};
+  const UINT off = list_.IsActive() ? 0 : DFCS_INACTIVE;
+  DrawFrameControl(dc, &box, DFC_BUTTON, DFCS_BUTTONCHECK | DFCS_FLAT | (ticked ? DFCS_CHECKED : 0) | off);
+}
+
+void ListView::Press(POINT place) {
+  pressed_ = RowAt(place);
+  Repaint();
+}
+
+void ListView::Drag(POINT place, WPARAM held) {
+  if (pressed_ < 0 || !(held & MK_LBUTTON)) return;
+  const long row = RowAt(place);
+  if (row < 0 || row == pressed_) return;
+  pressed_ = row;
+  Repaint();
+}
+
+void ListView::Release(POINT place) {
+  const long row = std::exchange(pressed_, -1);
+  Repaint();
+  if (row < 0) return;
+  const bool on_box = Boxes && place.x < BoxWidth();
+  const int held = ShiftNow();
+  if (on_box || ToggleOnClick || (Extends && (held & forms::vbCtrlMask))) return OnToggle(row);
+  if (Extends && (held & forms::vbShiftMask)) return OnExtend(list_.ListIndex(), row);
+  OnChoose(row);
+}
+
+long ListView::RowBeginningWith(wchar_t letter) const {
+  const long count = Count(), from = list_.ListIndex();
+  for (long step = 1; step <= count; ++step) {
+    const long row = (from + step + count) % count;
+    const std::wstring text = ShownText(std::string_view(list_.Rows().At(row).text).substr(0, 2));
+    if (!text.empty() && UpperOf(text[0]) == UpperOf(letter)) return row;
+  }
+  return -1;
+}
+
+long ListView::RowOfKey(int key) const {
+  const long now = list_.ListIndex(), page = RowsInView() - 1, last = Count() - 1;
+  switch (key) {
+    case VK_UP:
+    case VK_LEFT:
+      return std::max(0L, now - 1);
+    case VK_DOWN:
+    case VK_RIGHT:
+      return std::min(last, now + 1);
+    case VK_PRIOR:
+      return std::max(0L, now - page);
+    case VK_NEXT:
+      return std::min(last, now + page);
+    case VK_HOME:
+      return 0;
+    case VK_END:
+      return last;
+    default:
+      return -1;
+  }
+}
+
+void ListView::MoveTo(long row) {
+  Follow(row);
+  if (row == list_.ListIndex()) return;
+  Extends && (ShiftNow() & forms::vbShiftMask) ? OnExtend(list_.ListIndex(), row) : OnChoose(row);
+}
+
+bool ListView::KeyDown(int key) {
+  const long row = Count() > 0 ? RowOfKey(key) : -1;
+  if (row >= 0) MoveTo(row);
+  return row >= 0;
+}
+
+bool ListView::Typed(wchar_t character) {
+  if (Count() == 0 || character < ' ') return false;
+  if (character == ' ' && (Boxes || Many())) {
+    if (list_.ListIndex() >= 0) OnToggle(list_.ListIndex());
+    return true;
+  }
+  const long row = RowBeginningWith(character);
+  if (row >= 0) MoveTo(row);
+  return true;
+}
+
+void ListView::ScrollByUser(long row) {
+  const long before = top_;
+  ScrollTo(row);
+  if (top_ != before && OnScroll) OnScroll(top_);
+}
+
+void ListView::Scroll(int how) {
+  SCROLLINFO info{};
+  info.cbSize = sizeof info;
+  info.fMask = SIF_TRACKPOS;
+  switch (how) {
+    case SB_LINEUP:
+      return ScrollByUser(top_ - 1);
+    case SB_LINEDOWN:
+      return ScrollByUser(top_ + 1);
+    case SB_PAGEUP:
+      return ScrollByUser(top_ - RowsInView());
+    case SB_PAGEDOWN:
+      return ScrollByUser(top_ + RowsInView());
+    case SB_TOP:
+      return ScrollByUser(0);
+    case SB_BOTTOM:
+      return ScrollByUser(Count());
+    case SB_THUMBTRACK:
+    case SB_THUMBPOSITION:  // 32 bits of it: the message holds 16
+      if (GetScrollInfo(window_.Handle(), SB_VERT, &info)) ScrollByUser(info.nTrackPos);
+      return;
+    default:
+      return;
+  }
+}
+
+void ListView::Wheel(int turn) {
+  UINT lines = 3;
+  SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
+  turned_ += turn;
+  const int notches = turned_ / WHEEL_DELTA;
+  turned_ -= notches * WHEEL_DELTA;
+  const long step = lines == WHEEL_PAGESCROLL ? RowsInView() : static_cast<long>(lines);
+  if (notches != 0) ScrollByUser(top_ - notches * step);
+}
+
+// As the system's own list box answers, for those who ask windows what they show.
+std::optional<LRESULT> ListView::Answer(const Message& message) const {
+  const long row = static_cast<long>(message.w);
+  const bool is_row = row >= 0 && row < Count();
+  switch (message.id) {
+    case LB_GETCOUNT:
+      return Count();
+    case LB_GETCURSEL:
+      return list_.ListIndex() < 0 ? LB_ERR : list_.ListIndex();
+    case LB_GETTOPINDEX:
+      return top_;
+    case LB_GETITEMHEIGHT:
+      return RowHeight();
+    case LB_GETSEL:
+      return is_row ? IsShownSelected(row) : LB_ERR;
+    case LB_GETITEMRECT:
+      if (!is_row) return LB_ERR;
+      *reinterpret_cast<RECT*>(message.l) = PlaceOfRow(row);
+      return TRUE;
+    case LB_GETTEXTLEN:
+      return is_row ? static_cast<LRESULT>(ShownText(list_.List(row)).size()) : LB_ERR;
+    case LB_GETTEXT: {
+      if (!is_row) return LB_ERR;
+      const std::wstring text = ShownText(list_.List(row));
+      std::copy_n(text.c_str(), text.size() + 1, reinterpret_cast<wchar_t*>(message.l));
+      return static_cast<LRESULT>(text.size());
+    }
+    default:
+      return std::nullopt;
+  }
+}
+
+LRESULT ListView::OnMessage(const Message& message) {
+  if (const std::optional<LRESULT> answer = Answer(message)) return *answer;
+  switch (message.id) {
+    case WM_PAINT:
+      PaintRows();
+      return 0;
+    case WM_ERASEBKGND:
+      return 1;
+    case WM_SIZE:
+      FitScrollBar();
+      return 0;
+    case WM_SETFONT:
+      FitScrollBar();
+      break;
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+    case WM_ENABLE:
+      Repaint();
+      break;
+    case WM_VSCROLL:
+      Scroll(LOWORD(message.w));
+      return 0;
+    case WM_MOUSEWHEEL:
+      Wheel(GET_WHEEL_DELTA_WPARAM(message.w));
+      return 0;
+    case WM_LBUTTONDOWN:
+      Press(PlaceOf(message));
+      return 0;
+    case WM_MOUSEMOVE:
+      Drag(PlaceOf(message), message.w);
+      return 0;
+    case WM_LBUTTONUP:
+      Release(PlaceOf(message));
+      return 0;
+    case WM_CAPTURECHANGED:  // another window took the mouse: nothing is chosen
+      if (reinterpret_cast<HWND>(message.l) != window_.Handle() && std::exchange(pressed_, -1) >= 0) Repaint();
+      break;
+    case WM_KEYDOWN:
+      if (KeyDown(static_cast<int>(message.w))) return 0;
+      break;
+    case WM_CHAR:
+      if (Typed(static_cast<wchar_t>(message.w))) return 0;
+      break;
+    default:
+      break;
+  }
+  return window_.Default(message);
+}
+
+}  // namespace corvane::toolkit_win32
