@@ -39,7 +39,7 @@ QString HeadingOf(environment::Module& module) {
 }
 
 constexpr QSize kFirstSize(1240, 800);
-constexpr int kSideWidth = 280, kBottomHeight = 120, kTreeHeight = 400, kListHeight = 300;
+constexpr int kSideWidth = 310, kBottomHeight = 120, kTreeHeight = 400, kListHeight = 300;
 constexpr double kTwips = 15;
 
 }  // namespace

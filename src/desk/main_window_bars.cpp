@@ -253,8 +253,7 @@ void MainWindow::ViewImmediate() {
 }
 
 void MainWindow::ViewProblems() {
-  problem_dock_->show();
-  problem_dock_->raise();
+  RaiseProblems();
 }
 
 // The add-in hears that the program starts; the desk itself runs none.
