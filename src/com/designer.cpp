@@ -1,0 +1,115 @@
+// The designer of a form, its controls and their properties.
+#include "com/collection.h"
+
+namespace corvane::com {
+
+namespace {
+
+class WrappedProperty : public host::Property, public Wrapped {
+ public:
+  using Wrapped::Wrapped;
+  std::string Name() override { return object_.Get(L"name").ToText(); }
+  host::Variant Value() override { return ToVariant(object_.Get(L"Value")); }
+  void SetValue(const host::Variant& value) override { object_.Put(L"Value", FromVariant(value)); }
+  long NumIndices() override { return object_.Get(L"NumIndices").ToLong(); }
+  host::Variant IndexedValue(long index) override { return ToVariant(object_.Get(L"IndexedValue", index)); }
+  void SetIndexedValue(long index, const host::Variant& value) override {
+    object_.Put(L"IndexedValue", FromVariant(value), index);
+  }
+  host::Variant Object() override { return ToVariant(object_.Get(L"Object")); }
+  void SetObject(const host::Variant& object) override {
+    const bool nothing = std::holds_alternative<std::monostate>(object);
+    object_.Put(L"Object", nothing ? Argument(host::Ref<runtime::Object>()) : FromVariant(object));
+  }
+};
+
+class WrappedControlObject : public host::ControlObject, public Wrapped {
+ public:
+  WrappedControlObject(ComPointer<IDispatch> object, ComPointer<IDispatch> control)
+      : Wrapped(std::move(object)), control_(std::move(control)) {}
+
+  host::Ref<host::VBControl> Container() override {
+    const com::Value container = object_.Get(L"Container");
+    const ComPointer<IDispatch> object = container.ToObject();
+    if (!object) return nullptr;
+    if (Dispatch(object).Has(L"ClassName")) return Wrap<host::VBControl>(container);
+    return OfName(Dispatch(object));
+  }
+
+ private:
+  // A control that is running in its designer: the one of its name among the designer's own. A form is none of them.
+  host::Ref<host::VBControl> OfName(Dispatch running) {
+    host::Ref<host::VBControl> found;
+    host::PassOverErrors([&] {
+      Dispatch all(control_.Get(L"Collection").ToObject());
+      if (all.Object()) found = Wrap<host::VBControl>(all.Get(L"Item", running.Get(L"Name")));
+    });
+    return found;
+  }
+  Dispatch control_;
+};
+
+class WrappedControl : public host::VBControl, public Wrapped {
+ public:
+  using Wrapped::Wrapped;
+  std::string ClassName() override { return object_.Get(L"ClassName").ToText(); }
+  std::string ProgId() override { return object_.Get(L"ProgId").ToText(); }
+  host::Ref<host::Properties> Properties() override { return Wrap<host::Properties>(object_.Get(L"Properties")); }
+  host::Ref<host::ControlObject> ControlObject() override {
+    ComPointer<IDispatch> object = object_.Get(L"ControlObject").ToObject();
+    if (!object) return nullptr;
+    return std::make_shared<WrappedControlObject>(std::move(object), ComPointer(Dispatched()));
+  }
+};
+
+class WrappedControls : public WrappedCollection<host::VBControls, host::VBControl> {
+ public:
+  using WrappedCollection::WrappedCollection;
+  host::Ref<host::VBControl> Add(const std::string& prog_id, const host::Ref<host::VBControl>& container) override {
+    return Wrap<host::VBControl>(object_.Get(L"Add", prog_id, Argument(container)));
+  }
+  void Remove(const host::Ref<host::VBControl>& control) override { object_.Call(L"Remove", Argument(control)); }
+};
+
+class WrappedForm : public host::VBForm, public Wrapped {
+ public:
+  using Wrapped::Wrapped;
+  host::Ref<host::VBControls> VBControls() override { return Wrap<host::VBControls>(object_.Get(L"VBControls")); }
+  host::Ref<host::SelectedVBControls> SelectedVBControls() override {
+    return Wrap<host::SelectedVBControls>(object_.Get(L"SelectedVBControls"));
+  }
+};
+
+}  // namespace
+
+template <>
+host::Ref<host::Property> Wrap(const Value& value) {
+  return MakeWrapped<WrappedProperty>(value);
+}
+
+template <>
+host::Ref<host::Properties> Wrap(const Value& value) {
+  return MakeWrapped<WrappedCollection<host::Properties, host::Property>>(value);
+}
+
+template <>
+host::Ref<host::VBControl> Wrap(const Value& value) {
+  return MakeWrapped<WrappedControl>(value);
+}
+
+template <>
+host::Ref<host::VBControls> Wrap(const Value& value) {
+  return MakeWrapped<WrappedControls>(value);
+}
+
+template <>
+host::Ref<host::SelectedVBControls> Wrap(const Value& value) {
+  return MakeWrapped<WrappedCollection<host::SelectedVBControls, host::VBControl>>(value);
+}
+
+template <>
+host::Ref<host::VBForm> Wrap(const Value& value) {
+  return MakeWrapped<WrappedForm>(value);
+}
+
+}  // namespace corvane::com

@@ -1,0 +1,22 @@
+// Registration: what the system and the environment must know of the library to load it.
+#pragma once
+
+#include <string>
+
+#include "com/com_api.h"
+
+namespace corvane::com {
+
+// For whom the class is registered. The environment's list of add-ins is each user's own in both cases.
+enum class Scope {
+  User,     // needs no administrator; an environment that runs elevated does not see it
+  Machine,  // needs one
+};
+
+// [library] is the full path of the library. All or nothing: a registry that refuses is left as it was. A user's choice
+// of when the add-in is loaded stays.
+HRESULT Register(Scope scope, const std::wstring& library) noexcept;
+// Removes all that Register made; tells the first thing that could not be removed, and removes the rest all the same.
+HRESULT Unregister(Scope scope) noexcept;
+
+}  // namespace corvane::com

@@ -1,0 +1,88 @@
+#include "com/session.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "com/guarded.h"
+#include "com/objects.h"
+#include "forms/form.h"
+
+namespace corvane::com {
+
+Session::Session(std::unique_ptr<Home> home) : home_(std::move(home)), connect_(home_->Services(), home_->Toolkit()) {}
+
+namespace {
+
+// Null where the environment does not tell it.
+HWND MainWindowOf(const Value& application) {
+  HWND window = nullptr;
+  host::PassOverErrors([&] {
+    Dispatch main(Dispatch(application.ToObject()).Get(L"MainWindow").ToObject());
+    window = reinterpret_cast<HWND>(static_cast<LONG_PTR>(main.Get(L"HWnd").ToLong()));
+  });
+  return IsWindow(window) ? window : nullptr;
+}
+
+// A modal window would keep its handler waiting for a user who sees it no more.
+void CloseAll(forms::Toolkit& toolkit) {
+  while (!toolkit.ShownForms().empty()) {
+    forms::Form* form = toolkit.ShownForms().back();
+    bool closed = false;
+    host::PassOverErrors([&] { closed = form->Unload(); });
+    if (!closed) form->Hide();
+  }
+}
+
+}  // namespace
+
+void Session::Connect(IDispatch* application, addin::ConnectMode mode) {
+  const Value root(application);
+  if (application) home_->SetHostWindow(MainWindowOf(root));
+  home_->Toolkit().Guard([&] { connect_.AddinInstance_OnConnection(Wrap<host::VBE>(root), mode); });
+}
+
+void Session::Disconnect(addin::DisconnectMode mode) {
+  Guarded([&] { connect_.AddinInstance_OnDisconnection(mode); });
+  Guarded([&] { CloseAll(home_->Toolkit()); });
+  connect_.VBInstance = nullptr;
+}
+
+namespace {
+
+constexpr UINT kLookAgain = 50;  // milliseconds
+
+// Sessions with a handler that is still running below a disconnection, and the timer that looks after them.
+struct Leaving {
+  std::vector<std::unique_ptr<Session>> sessions;
+  UINT_PTR timer = 0;
+};
+
+// Never destroyed: at the end of the process nothing of COM may be called any more.
+Leaving& LeavingSessions() {
+  static Leaving& leaving = *new Leaving;
+  return leaving;
+}
+
+void CALLBACK LookAgain(HWND, UINT, UINT_PTR, DWORD) {
+  Leaving& leaving = LeavingSessions();
+  std::vector<std::unique_ptr<Session>> done;
+  const auto first = std::partition(leaving.sessions.begin(), leaving.sessions.end(),
+                                    [](auto& session) { return session->IsInAct(); });
+  std::move(first, leaving.sessions.end(), std::back_inserter(done));
+  leaving.sessions.erase(first, leaving.sessions.end());
+  if (leaving.sessions.empty() && leaving.timer) {
+    KillTimer(nullptr, leaving.timer);
+    leaving.timer = 0;
+  }
+}
+
+}  // namespace
+
+void LetGo(std::unique_ptr<Session> session) {
+  if (!session->IsInAct()) return;
+  Leaving& leaving = LeavingSessions();
+  leaving.sessions.push_back(std::move(session));
+  if (!leaving.timer) leaving.timer = SetTimer(nullptr, 0, kLookAgain, &LookAgain);
+}
+
+}  // namespace corvane::com

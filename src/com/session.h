@@ -1,0 +1,47 @@
+// Session: the add-in from its connection to its disconnection, and the home that it runs in.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "addin/connect.h"
+#include "com/com_api.h"
+#include "com/module_use.h"
+
+namespace corvane::com {
+
+// The windows and the services of one session.
+class Home {
+ public:
+  virtual ~Home() = default;
+  virtual host::Services& Services() = 0;
+  virtual forms::Toolkit& Toolkit() = 0;
+  // The environment's main window: the add-in's windows stand in front of it and modal ones disable it.
+  virtual void SetHostWindow(HWND window) = 0;
+};
+using NewHome = std::function<std::unique_ptr<Home>()>;
+
+// Windows of Win32 in the environment's process, texts in the system's code page.
+std::unique_ptr<Home> NewWin32Home();
+
+class Session {
+ public:
+  explicit Session(std::unique_ptr<Home> home);
+
+  // [application] is the environment's root.
+  void Connect(IDispatch* application, addin::ConnectMode mode);
+  // Closes every window. Handlers that are running go on behind it.
+  void Disconnect(addin::DisconnectMode mode);
+  addin::Connect& AddIn() { return connect_; }
+  bool IsInAct() { return home_->Toolkit().IsInAct(); }
+
+ private:
+  const ModuleUse use_;
+  std::unique_ptr<Home> home_;
+  addin::Connect connect_;
+};
+
+// Destroys [session] as soon as none of its handlers is running: at once, or from the environment's message loop.
+void LetGo(std::unique_ptr<Session> session);
+
+}  // namespace corvane::com
