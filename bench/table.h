@@ -9,6 +9,8 @@ namespace corvane::bench {
 
 // Seconds of one run of [work].
 double Seconds(const std::function<void()>& work);
+// What this process has used of the processor, waits for the memory included.
+double ProcessorSeconds();
 
 double Median(std::vector<double> values);
 
