@@ -132,6 +132,10 @@ void FormWindowPeer::ShowOnScreen() {
   if (IsWindowVisible(Handle())) return;
   menus_.ShowNow();
   ShowPlace();
+  if (!IsPlaced(form_)) {
+    const RECT place = OuterPlace(Handle());
+    form_.UserMove(toolkit_.Scale().TwipsOf(place.left), toolkit_.Scale().TwipsOf(place.top));
+  }
   if (form_.IsModal()) {
     const HWND owner = toolkit_.FrontWindow();
     if (owner != Handle()) SetWindowLongPtrW(Handle(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
