@@ -1,0 +1,209 @@
+// Modal windows: who takes input meanwhile, where the focus goes behind them, and what happens when something goes away
+// inside their loop.
+#include <memory>
+
+#include "tests/toolkit_win32/window_fixture.h"
+
+namespace corvane::toolkit_win32 {
+namespace {
+
+using Log = std::vector<std::string>;
+
+class Modal : public ::testing::Test {
+ protected:
+  Modal() {
+    host = CreateWindowExW(0, L"STATIC", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 400, 300, nullptr, nullptr,
+                           nullptr, nullptr);
+    field = CreateWindowExW(0, L"EDIT", L"", WS_CHILD | WS_VISIBLE, 10, 10, 100, 20, host, nullptr, nullptr, nullptr);
+    toolkit = std::make_unique<Win32Toolkit>();
+    toolkit->SetHostWindow(host);
+    toolkit->OnFault = [this](const std::string& what) { faults.push_back(what); };
+    SetForegroundWindow(host);
+    SetFocus(field);
+    Pump();
+  }
+  ~Modal() override {
+    toolkit.reset();
+    DestroyWindow(host);
+    Pump();
+  }
+  // Inside the next loop that runs.
+  void Soon(std::function<void()> act) {
+    auto number = std::make_shared<UINT_PTR>();
+    *number = toolkit->StartClock(1, [this, number, act = std::move(act)] {
+      const auto run = act;
+      toolkit->StopClock(*number);
+      run();
+    });
+  }
+
+  HWND host, field;
+  std::unique_ptr<Win32Toolkit> toolkit;
+  Log faults;
+};
+
+struct Dialog : forms::Form {
+  explicit Dialog(forms::Toolkit& toolkit, const char* name = "frmDialog") : Form(toolkit, name) {
+    Move(600, 600, 3000, 2400);
+    SetBorderStyle(forms::FormBorder::FixedDialog);
+    cmd.Move(120, 120, 1200, 375), txt.Move(120, 600, 1200, 315);
+  }
+  forms::CommandButton cmd{*this, "cmd"};
+  forms::TextBox txt{*this, "txt"};
+};
+
+TEST_F(Modal, TheHostTakesNoInputMeanwhileAndHasItsFocusBackBehind) {
+  Dialog dialog(*toolkit);
+  bool enabled = true, active = false;
+  Soon([&] {
+    enabled = IsWindowEnabled(host);
+    active = GetActiveWindow() == toolkit->WindowOf(dialog);
+    dialog.Hide();
+  });
+  dialog.ShowModal();
+  Pump();
+  EXPECT_FALSE(enabled);
+  EXPECT_TRUE(active);
+  EXPECT_TRUE(IsWindowEnabled(host));
+  EXPECT_EQ(GetActiveWindow(), host);
+  EXPECT_EQ(GetFocus(), field);
+}
+
+TEST_F(Modal, OurOtherWindowsTakeNoInputMeanwhileAndOneOfThemIsActiveBehind) {
+  Dialog first(*toolkit, "frmFirst"), dialog(*toolkit);
+  first.Show();
+  first.txt.SetFocus();
+  Pump();
+  bool enabled = true;
+  Soon([&] {
+    enabled = IsWindowEnabled(toolkit->WindowOf(first));
+    dialog.Unload();
+  });
+  dialog.ShowModal();
+  Pump();
+  EXPECT_FALSE(enabled);
+  EXPECT_TRUE(IsWindowEnabled(toolkit->WindowOf(first)));
+  EXPECT_TRUE(first.IsActiveForm());
+  EXPECT_EQ(GetFocus(), toolkit->WindowOf(first.txt));
+}
+
+TEST_F(Modal, AWindowDisabledBeforeStaysDisabled) {
+  EnableWindow(host, FALSE);
+  Dialog dialog(*toolkit);
+  Soon([&] { dialog.Hide(); });
+  dialog.ShowModal();
+  EXPECT_FALSE(IsWindowEnabled(host));
+  EnableWindow(host, TRUE);
+}
+
+TEST_F(Modal, InnerWindowsGiveBackToOuterOnes) {
+  Dialog outer(*toolkit, "frmOuter"), inner(*toolkit, "frmInner");
+  bool outer_in_inner = true, outer_behind = false, host_behind = true;
+  Soon([&] {
+    Soon([&] {
+      outer_in_inner = IsWindowEnabled(toolkit->WindowOf(outer));
+      inner.Hide();
+    });
+    inner.ShowModal();
+    outer_behind = IsWindowEnabled(toolkit->WindowOf(outer));
+    host_behind = IsWindowEnabled(host);
+    outer.Hide();
+  });
+  outer.ShowModal();
+  EXPECT_FALSE(outer_in_inner);
+  EXPECT_TRUE(outer_behind);
+  EXPECT_FALSE(host_behind);
+  EXPECT_TRUE(IsWindowEnabled(host));
+}
+
+TEST_F(Modal, TheCloseBoxEndsIt) {
+  Dialog dialog(*toolkit);
+  Soon([&] { PostMessageW(toolkit->WindowOf(dialog), WM_SYSCOMMAND, SC_CLOSE, 0); });
+  dialog.ShowModal();
+  EXPECT_FALSE(dialog.IsLoaded());
+  EXPECT_TRUE(IsWindowEnabled(host));
+}
+
+TEST_F(Modal, KeysGoToTheModalWindow) {
+  Dialog dialog(*toolkit);
+  dialog.cmd.SetCancel(true);
+  dialog.cmd.Click = [&] { dialog.Hide(); };
+  Soon([&] {
+    dialog.txt.SetFocus();
+    PostText(L"ab");
+    PostKey(VK_ESCAPE);
+  });
+  dialog.ShowModal();
+  EXPECT_EQ(dialog.txt.Text(), "ab");
+}
+
+TEST_F(Modal, ADialogDestroyedInItsOwnClickEndsTheLoop) {
+  auto dialog = std::make_unique<Dialog>(*toolkit);
+  dialog->cmd.Click = [&] { dialog->Unload(); };
+  Soon([&] { PostClick(toolkit->WindowOf(dialog->cmd), {5, 5}); });
+  dialog->ShowModal();
+  EXPECT_FALSE(dialog->IsLoaded());
+  EXPECT_TRUE(IsWindowEnabled(host));
+  EXPECT_EQ(faults, Log{});
+}
+
+// As when the add-in is disconnected while one of its windows waits for the user.
+TEST_F(Modal, EverythingMayGoWhileTheLoopRuns) {
+  auto first = std::make_unique<Dialog>(*toolkit, "frmFirst"), dialog = std::make_unique<Dialog>(*toolkit);
+  first->Show();
+  bool back = false;
+  Soon([&] {
+    dialog->Unload();
+    first.reset();
+  });
+  dialog->ShowModal();
+  back = true;
+  dialog.reset();
+  toolkit.reset();
+  EXPECT_TRUE(back);
+  EXPECT_TRUE(IsWindowEnabled(host));
+  EXPECT_TRUE(IsWindow(host));
+  EXPECT_EQ(faults, Log{});
+}
+
+TEST_F(Modal, AToolkitThatGoesInTheLoopTakesItsWindowsAlong) {
+  auto dialog = std::make_unique<Dialog>(*toolkit);
+  HWND window = nullptr;
+  Soon([&] {
+    window = toolkit->WindowOf(*dialog);
+    dialog->Unload();
+    // The loop that still runs belongs to nobody now.
+    PostMessageW(host, WM_NULL, 0, 0);
+  });
+  dialog->ShowModal();
+  dialog.reset();
+  toolkit.reset();
+  EXPECT_NE(window, nullptr);
+  EXPECT_FALSE(IsWindow(window));
+}
+
+TEST_F(Modal, TheEndOfTheProgramEndsTheLoopAndIsPassedOn) {
+  Dialog dialog(*toolkit);
+  Soon([] { PostQuitMessage(7); });
+  dialog.ShowModal();
+  MSG message;
+  bool quit = false;
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+    quit = quit || message.message == WM_QUIT;
+    DispatchMessageW(&message);
+  }
+  EXPECT_TRUE(quit);
+  dialog.Unload();
+}
+
+TEST_F(Modal, DoEventsLeavesTheEndOfTheProgramToTheHost) {
+  PostQuitMessage(7);
+  toolkit->DoEvents();
+  MSG message{};
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) && message.message != WM_QUIT) DispatchMessageW(&message);
+  EXPECT_EQ(message.message, static_cast<UINT>(WM_QUIT));
+  EXPECT_EQ(message.wParam, 7u);
+}
+
+}  // namespace
+}  // namespace corvane::toolkit_win32
