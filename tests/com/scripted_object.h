@@ -49,6 +49,7 @@ class ScriptedObject : public IDispatch, public IConnectionPointContainer {
 
   static long Alive() { return alive_; }
   const std::string& Name() const { return name_; }
+  ULONG References() const { return references_; }
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override;
   ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }

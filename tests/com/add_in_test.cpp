@@ -1,0 +1,371 @@
+// The add-in as the environment meets it: IDTExtensibility2, by slots and by name.
+#include "com/add_in.h"
+
+#include <atomic>
+#include <gtest/gtest.h>
+
+#include "com/class_factory.h"
+#include "com/texts.h"
+#include "forms/headless_toolkit.h"
+#include "tests/com/scripted_environment.h"
+#include "tests/support/fake_services.h"
+
+namespace corvane::com {
+namespace {
+
+// What the test knows of the home of the session that runs.
+struct Rooms {
+  tests::FakeServices services;
+  forms::HeadlessToolkit* toolkit = nullptr;
+  HWND host_window = nullptr;
+  bool fails = false;
+};
+
+class HeadlessHome : public Home {
+ public:
+  explicit HeadlessHome(Rooms& rooms) : rooms_(rooms) { rooms_.toolkit = &toolkit_; }
+  ~HeadlessHome() override { rooms_.toolkit = nullptr; }
+  host::Services& Services() override { return rooms_.services.services; }
+  forms::Toolkit& Toolkit() override { return toolkit_; }
+  void SetHostWindow(HWND window) override { rooms_.host_window = window; }
+
+ private:
+  Rooms& rooms_;
+  forms::HeadlessToolkit toolkit_;
+};
+
+class AddInTest : public testing::Test {
+ protected:
+  AddInTest() {
+    rooms_.services.files.Put("C:\\Corvane\\corvane.bmp", "BM face");
+    add_in_ = ComPointer<AddIn>(new AddIn([this]() -> std::unique_ptr<Home> {
+      if (rooms_.fails) throw host::Error(7, "Out of memory");
+      return std::make_unique<HeadlessHome>(rooms_);
+    }));
+    environment_.StartCounting();
+    log_->clear();
+  }
+  ~AddInTest() override {
+    add_in_ = {};
+    EXPECT_EQ(environment_.Held(), 0u) << "a reference was kept";
+    EXPECT_EQ(ModuleUse::Count(), uses_before_);
+  }
+
+  void Connect(long mode = 1) { EXPECT_EQ(add_in_->OnConnection(environment_.Root(), mode, nullptr, nullptr), S_OK); }
+  void Disconnect(long mode = 1) { EXPECT_EQ(add_in_->OnDisconnection(mode, nullptr), S_OK); }
+  std::string TakeCalls() {
+    std::string all;
+    for (const std::string& call : *log_) all += (all.empty() ? "" : "; ") + call;
+    log_->clear();
+    return all;
+  }
+  bool WindowShown() const { return rooms_.toolkit && !rooms_.toolkit->ShownForms().empty(); }
+  std::string Setting() {
+    return rooms_.services.settings.GetSetting("Corvane", "Settings", "DisplayOnConnect", "none");
+  }
+  // The environment's message loop, until nothing of a past session is left.
+  void RunMessages() {
+    const DWORD start = GetTickCount();
+    MSG message;
+    while (rooms_.toolkit && GetTickCount() - start < 5000) {
+      while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+      Sleep(5);
+    }
+  }
+
+  const long uses_before_ = ModuleUse::Count();
+  Rooms rooms_;
+  std::shared_ptr<Log> log_ = std::make_shared<Log>();
+  ScriptedEnvironment environment_{log_};
+  ComPointer<AddIn> add_in_;
+};
+
+TEST_F(AddInTest, ConnectingAsksTheEnvironmentForTheseAndNoMore) {
+  Connect();
+  EXPECT_EQ(TakeCalls(),
+            "get mainwindow(); get hwnd(); "
+            "get commandbars(); get item(\"Standard\"); get controls(); get count(); get add(1, , , 3); "
+            "put visible = True; put state = 0; put style = 1; call pasteface(); put caption = \"Corvane - 2000\"; "
+            "get commandbars(); get item(\"Add-Ins\"); get controls(); get add(1); put caption = \"&Corvane - 2000\"; "
+            "get events(); get vbbuildevents(); get events(); get commandbarevents(<control>); "
+            "get events(); get commandbarevents(<control>)");
+  Disconnect();
+  EXPECT_EQ(TakeCalls(), "call delete(); call delete()");
+}
+
+TEST_F(AddInTest, BetweenConnectionAndDisconnectionOnlyWhatIsAllowedIsHeld) {
+  Connect();
+  // The root; the button and the menu item; their events and the build events, each also by its connection point.
+  EXPECT_EQ(environment_.vbe->References(), 2u);
+  EXPECT_EQ(environment_.bars->References() + environment_.bar->References() + environment_.controls->References(), 6u);
+  Disconnect();
+  EXPECT_EQ(environment_.Held(), 0u);
+  EXPECT_FALSE(environment_.clicks->sink);
+  EXPECT_FALSE(environment_.builds->sink);
+}
+
+TEST_F(AddInTest, TheMainWindowIsTheWindowsHost) {
+  environment_.window->Answer("HWnd", static_cast<long>(reinterpret_cast<LONG_PTR>(GetDesktopWindow())));
+  Connect();
+  EXPECT_EQ(rooms_.host_window, GetDesktopWindow());
+  Disconnect();
+  environment_.window->FailWith("HWnd", E_NOTIMPL);
+  Connect();
+  EXPECT_EQ(rooms_.host_window, nullptr);
+  EXPECT_TRUE(rooms_.services.prompts.Texts().empty());
+}
+
+TEST_F(AddInTest, AClickOpensTheExplorerAndARunMinimisesIt) {
+  Connect();
+  environment_.Click();
+  ASSERT_TRUE(WindowShown());
+  environment_.EnterRunMode();
+  EXPECT_EQ(add_in_->Current()->AddIn().mfrmAddIn()->WindowState(), forms::vbMinimized);
+  Disconnect();
+  EXPECT_EQ(rooms_.toolkit, nullptr);
+  EXPECT_EQ(Setting(), "1");
+}
+
+TEST_F(AddInTest, ItConnectsAndDisconnectsAnyNumberOfTimes) {
+  for (int i = 0; i < 20; ++i) {
+    Connect(i % 4);
+    environment_.Click();
+    Disconnect(i % 2);
+    ASSERT_EQ(environment_.Held(), 0u) << i;
+    ASSERT_EQ(rooms_.toolkit, nullptr) << i;
+  }
+}
+
+TEST_F(AddInTest, ASecondConnectionEndsTheFirst) {
+  Connect();
+  Connect();
+  EXPECT_EQ(environment_.vbe->References(), 2u);
+  Disconnect();
+  Disconnect();
+  EXPECT_EQ(environment_.Held(), 0u);
+}
+
+TEST_F(AddInTest, WhoForgetsToDisconnectDoesSoByLettingGo) {
+  Connect();
+  add_in_ = {};
+  EXPECT_EQ(environment_.Held(), 0u);
+  EXPECT_EQ(Setting(), "0");
+}
+
+TEST_F(AddInTest, WhatFailsIsShownAndAnsweredWithSuccess) {
+  environment_.events->Fail("CommandBarEvents", 5, "No events today");
+  Connect();
+  EXPECT_EQ(rooms_.services.prompts.Texts(), std::vector<std::string>{"No events today"});
+  EXPECT_TRUE(add_in_->Current());
+}
+
+TEST_F(AddInTest, NoApplicationIsShownToo) {
+  EXPECT_EQ(add_in_->OnConnection(nullptr, 1, nullptr, nullptr), S_OK);
+  EXPECT_EQ(rooms_.services.prompts.Texts(),
+            std::vector<std::string>{"Object variable or With block variable not set"});
+  Disconnect();
+}
+
+TEST_F(AddInTest, ObjectsThatAreGoneAtTheEndAreNoHarm) {
+  Connect();
+  for (auto& object : {environment_.control, environment_.clicks, environment_.builds})
+    for (const char* member : {"Delete", "Caption"}) object->FailWith(member, DISP_E_BADCALLEE);
+  environment_.clicks->sink = {};
+  environment_.builds->sink = {};
+  Disconnect();
+  EXPECT_EQ(environment_.Held(), 0u);
+}
+
+TEST_F(AddInTest, ADisconnectionInAYieldWaitsForTheHandlerToEnd) {
+  Connect();
+  environment_.Click();
+  bool yielded = false;
+  rooms_.services.loop.on_do_events = [&] {
+    if (yielded) return;
+    yielded = true;
+    Disconnect();
+    EXPECT_NE(rooms_.toolkit, nullptr) << "its handler is still running";
+    EXPECT_TRUE(rooms_.toolkit->ShownForms().empty());
+  };
+  rooms_.toolkit->Guard([&] { add_in_->Current()->AddIn().Show(true); });
+  EXPECT_TRUE(yielded);
+  EXPECT_EQ(environment_.clicks->References(), 2u) << "by the object that answers with it, and here";
+  RunMessages();
+  EXPECT_EQ(rooms_.toolkit, nullptr);
+  EXPECT_EQ(environment_.Held(), 0u);
+}
+
+TEST_F(AddInTest, ADisconnectionInTheStartOfAProgramWaitsToo) {
+  Connect();
+  environment_.Click();
+  bool yielded = false;
+  rooms_.services.loop.on_do_events = [&] {
+    if (!yielded) Disconnect();
+    yielded = true;
+  };
+  environment_.EnterRunMode();
+  if (!yielded) Disconnect();
+  RunMessages();
+  EXPECT_EQ(rooms_.toolkit, nullptr);
+  EXPECT_EQ(environment_.Held(), 0u);
+}
+
+TEST_F(AddInTest, ADisconnectionClosesAModalWindow) {
+  Connect();
+  environment_.Click();
+  bool was_open = false, is_open = true;
+  rooms_.toolkit->OnModal("frmAbout", [&](forms::Form& about) {
+    was_open = about.Visible();
+    Disconnect();
+    is_open = about.Visible();
+  });
+  auto& toolbar = add_in_->Current()->AddIn().mfrmAddIn()->tlbr;
+  for (int position = 1; position <= toolbar.Count(); ++position)
+    if (toolbar.Button(position).Key == "About") {
+      toolbar.UserButtonClick(position);
+      break;
+    }
+  EXPECT_TRUE(was_open);
+  EXPECT_FALSE(is_open);
+  RunMessages();
+  EXPECT_EQ(environment_.Held(), 0u);
+}
+
+TEST_F(AddInTest, ADisconnectionWhileAMessageIsOpen) {
+  environment_.bars->Fail("Item", 5);
+  environment_.events->Fail("CommandBarEvents", 91, "no control");
+  rooms_.services.prompts.while_open = [&](const tests::AskedMessage&) { Disconnect(); };
+  Connect();
+  RunMessages();
+  EXPECT_EQ(rooms_.toolkit, nullptr);
+  EXPECT_EQ(environment_.Held(), 0u);
+}
+
+TEST_F(AddInTest, AHomeThatCannotBeMadeIsToldInAPlainBox) {
+  rooms_.fails = true;
+  std::atomic<bool> done = false, seen = false;
+  struct Flags {
+    std::atomic<bool>&done, &seen;
+  } flags{done, seen};
+  const HANDLE closer = CreateThread(
+      nullptr, 0,
+      [](void* given) -> DWORD {
+        Flags& flags = *static_cast<Flags*>(given);
+        for (int i = 0; i < 1000 && !flags.done; ++i, Sleep(10)) {
+          const HWND box = FindWindowW(L"#32770", L"Corvane - 2000");
+          if (box) flags.seen = true;
+          if (box) PostMessageW(box, WM_COMMAND, IDOK, 0);
+        }
+        return 0;
+      },
+      &flags, 0, nullptr);
+  Connect();
+  done = true;
+  WaitForSingleObject(closer, INFINITE);
+  CloseHandle(closer);
+  EXPECT_TRUE(seen);
+  EXPECT_EQ(add_in_->Current(), nullptr);
+  Disconnect();
+}
+
+TEST_F(AddInTest, ItIsOfThreeInterfaces) {
+  EXPECT_TRUE(add_in_.As<IUnknown>(IID_IUnknown));
+  EXPECT_TRUE(add_in_.As<IDispatch>());
+  EXPECT_TRUE(add_in_.As<IUnknown>(kIidOfExtensibility));
+  const IID older = {0x0002E151, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
+  for (const IID& iid : {older, IID_IProvideClassInfo, IID_IConnectionPointContainer}) {
+    void* object = &object;
+    EXPECT_EQ(add_in_->QueryInterface(iid, &object), E_NOINTERFACE);
+    EXPECT_EQ(object, nullptr);
+  }
+  EXPECT_EQ(add_in_->QueryInterface(IID_IUnknown, nullptr), E_POINTER);
+  EXPECT_EQ(add_in_.As<IUnknown>(IID_IUnknown).Get(), add_in_.As<IDispatch>().As<IUnknown>(IID_IUnknown).Get());
+}
+
+TEST_F(AddInTest, ItsMethodsHaveNamesAndTheseIds) {
+  DISPID expected = 1;
+  for (const wchar_t* name :
+       {L"OnConnection", L"OnDisconnection", L"OnAddInsUpdate", L"onstartupcomplete", L"OnBeginShutdown"}) {
+    LPOLESTR names[] = {const_cast<LPOLESTR>(name)};
+    DISPID id = 0;
+    EXPECT_EQ(add_in_->GetIDsOfNames(IID_NULL, names, 1, 0, &id), S_OK);
+    EXPECT_EQ(id, expected++);
+  }
+  LPOLESTR names[] = {const_cast<LPOLESTR>(L"Show")};
+  DISPID id = 0;
+  EXPECT_EQ(add_in_->GetIDsOfNames(IID_NULL, names, 1, 0, &id), DISP_E_UNKNOWNNAME);
+  EXPECT_EQ(id, DISPID_UNKNOWN);
+}
+
+TEST_F(AddInTest, ItIsCalledByNameAsByItsSlots) {
+  SAFEARRAY* custom = nullptr;
+  VARIANT arguments[4];
+  for (VARIANT& argument : arguments) VariantInit(&argument);
+  arguments[3].vt = VT_DISPATCH;
+  arguments[3].pdispVal = environment_.Root();
+  arguments[2].vt = VT_I4;
+  arguments[2].lVal = 1;
+  arguments[1].vt = VT_DISPATCH;
+  arguments[0].vt = VT_BYREF | VT_ARRAY | VT_VARIANT;
+  arguments[0].pparray = &custom;
+  DISPPARAMS parameters{arguments, nullptr, 4, 0};
+  const auto invoke = [&](DISPID id) {
+    return add_in_->Invoke(id, IID_NULL, 0, DISPATCH_METHOD, &parameters, nullptr, nullptr, nullptr);
+  };
+  EXPECT_EQ(invoke(1), S_OK);
+  EXPECT_TRUE(add_in_->Current());
+  parameters = {arguments, nullptr, 1, 0};
+  for (DISPID id : {3, 4, 5}) EXPECT_EQ(invoke(id), S_OK) << id;
+  EXPECT_EQ(invoke(2), DISP_E_BADPARAMCOUNT);
+  EXPECT_EQ(invoke(6), DISP_E_MEMBERNOTFOUND);
+  arguments[1] = arguments[2];
+  parameters = {arguments, nullptr, 2, 0};
+  EXPECT_EQ(invoke(2), S_OK);
+  EXPECT_FALSE(add_in_->Current());
+}
+
+TEST_F(AddInTest, StartupAndShutdownAskNothing) {
+  Connect();
+  TakeCalls();
+  EXPECT_EQ(add_in_->OnStartupComplete(nullptr), S_OK);
+  EXPECT_EQ(add_in_->OnAddInsUpdate(nullptr), S_OK);
+  EXPECT_EQ(add_in_->OnBeginShutdown(nullptr), S_OK);
+  EXPECT_EQ(TakeCalls(), "");
+}
+
+// ---- the class
+
+class Classes : public AddInTest {
+ protected:
+  ComPointer<ClassFactory> factory_{
+      new ClassFactory([this]() -> std::unique_ptr<Home> { return std::make_unique<HeadlessHome>(rooms_); })};
+};
+
+TEST_F(Classes, AFactoryMakesAddInsAndKeepsTheLibraryLoaded) {
+  const long before = ModuleUse::Count();
+  ComPointer<IDispatch> made;
+  EXPECT_EQ(factory_->CreateInstance(nullptr, IID_IDispatch, made.OutVoid()), S_OK);
+  EXPECT_EQ(ModuleUse::Count(), before + 1);
+  EXPECT_TRUE(made.As<IUnknown>(kIidOfExtensibility));
+  made = {};
+  EXPECT_EQ(ModuleUse::Count(), before);
+  factory_->LockServer(TRUE);
+  EXPECT_EQ(ModuleUse::Count(), before + 1);
+  factory_->LockServer(FALSE);
+  EXPECT_EQ(ModuleUse::Count(), before);
+  factory_ = {};
+}
+
+TEST_F(Classes, WhatAFactoryDoesNotOfferLeavesNothing) {
+  void* object = &object;
+  EXPECT_EQ(factory_->CreateInstance(add_in_.Get(), IID_IUnknown, &object), CLASS_E_NOAGGREGATION);
+  EXPECT_EQ(object, nullptr);
+  EXPECT_EQ(factory_->CreateInstance(nullptr, IID_IPersist, &object), E_NOINTERFACE);
+  EXPECT_EQ(factory_->CreateInstance(nullptr, IID_IUnknown, nullptr), E_POINTER);
+  EXPECT_FALSE(factory_.As<IUnknown>(IID_IDispatch));
+  EXPECT_TRUE(factory_.As<IClassFactory>());
+  factory_ = {};
+}
+
+}  // namespace
+}  // namespace corvane::com
