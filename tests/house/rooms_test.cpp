@@ -18,6 +18,7 @@ const std::map<std::string, Rooms> kMayInclude = {
     {"host", {"runtime"}},
     {"forms", {"runtime"}},
     {"codelist", {"runtime", "host", "forms"}},
+    {"script", {"runtime", "host"}},
     {"explorer", {"runtime", "host", "forms", "codelist"}},
     {"addin", {"runtime", "host", "forms", "codelist", "explorer"}},
     {"environment", {"runtime", "host"}},
@@ -28,7 +29,7 @@ const std::map<std::string, Rooms> kMayInclude = {
     {"desk", {"runtime", "host", "forms", "codelist", "explorer", "addin", "environment", "cli", "toolkit_qt"}},
 };
 
-const Rooms kLogic = {"runtime", "host", "forms", "codelist", "explorer", "addin", "environment"};
+const Rooms kLogic = {"runtime", "host", "forms", "codelist", "script", "explorer", "addin", "environment"};
 
 TEST(Rooms, EachIsInTheTableOfWhoMayIncludeWhom) {
   for (const auto& room : Folders("src")) EXPECT_TRUE(kMayInclude.contains(room)) << "src/" << room;
