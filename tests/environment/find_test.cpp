@@ -8,7 +8,7 @@
 #include "environment/procedure_index.h"
 #include "runtime/code_page.h"
 #include "tests/environment/opened.h"
-#include "tests/environment/processor_time.h"
+#include "tests/support/processor_time.h"
 
 namespace corvane::environment {
 namespace {
@@ -223,7 +223,7 @@ TEST_P(LongLines, AreSearchedOnce) {
                            "ab",
                            " ab.ac"),
                   0);
-  EXPECT_LT(SecondsOf([&] {
+  EXPECT_LT(tests::SecondsOf([&] {
               EXPECT_EQ(Found(text, Plain("ac")), "1:1000007+2");
               EXPECT_EQ(Found(text, Whole("ab")), "1:1000004+2");
               EXPECT_EQ(Found(text, Pattern("a[bc]", true)), "1:1000004+2");
@@ -239,7 +239,7 @@ INSTANTIATE_TEST_SUITE_P(OneAndTwoBytes, LongLines, testing::Values(1252, 932));
 TEST(LongLine, IsOneLineOfItsProcedure) {
   for (const char* unit : {"x = 1: ", ": \"End Sub ", "Rem : End Sub:", "a:End Subs", "' ", "10 "}) {
     std::string bytes = "Sub A()\n  y\n" + LongLine(unit, "z") + "End Sub\nSub B()\nEnd Sub\n";
-    EXPECT_LT(SecondsOf([&] {
+    EXPECT_LT(tests::SecondsOf([&] {
                 ModuleText text(bytes, 0);
                 ProcedureIndex index(text);
                 ASSERT_EQ(index.Procedures().size(), 2u) << unit;

@@ -4,7 +4,7 @@
 
 #include "environment/procedure_index.h"
 #include "tests/environment/opened.h"
-#include "tests/environment/processor_time.h"
+#include "tests/support/processor_time.h"
 
 namespace corvane::environment {
 namespace {
@@ -142,7 +142,7 @@ TEST(ManyEdits, ReplacingEveryHitCostsNoMoreThanTheHits) {
   auto opened = Opened::Module(lines);
   auto code = opened->Code();
   long hits = 0;
-  double seconds = SecondsOf([&] {
+  double seconds = tests::SecondsOf([&] {
     for (long line = 1, column = 1, end_line = -1, end_column = -1;
          code->Find("needle", line, column, end_line, end_column, false, false, false);
          ++line, column = 1, end_line = end_column = -1, ++hits)
@@ -159,7 +159,7 @@ TEST(ManyEdits, ASearchStartsAtItsFirstLine) {
   for (int i = 0; i < 100000; ++i) inserted += "needle\r\n";
   code->InsertLines(1, inserted);
   long hits = 0;
-  double seconds = SecondsOf([&] {
+  double seconds = tests::SecondsOf([&] {
     for (long line = 1, column = 1, end_line = -1, end_column = -1;
          code->Find("needle", line, column, end_line, end_column, false, false, false);
          ++line, column = 1, end_line = end_column = -1)
@@ -175,7 +175,7 @@ TEST(ManyEdits, ALineInEveryProcedureCostsNoMoreThanTheProcedures) {
     lines += "|Sub P" + std::to_string(i) + "()|  a = 1|  b = 2|  c = 3|  If a Then|    d = 4|  End If|End Sub|";
   auto opened = Opened::Module(lines);
   auto code = opened->Code();
-  double seconds = SecondsOf([&] {
+  double seconds = tests::SecondsOf([&] {
     for (int i = 0; i < 4000; ++i) {
       std::string name = "P" + std::to_string(i);
       code->InsertLines(code->ProcBodyLine(name, host::ProcKind::Proc), "' above");
