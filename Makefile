@@ -5,7 +5,8 @@ JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 packages = scripts/install-packages scripts/packages.txt
 program = build/corvane
 
-.PHONY: all run test bench screenshots format format-check lint sanitize fuzz fuzz-quick packages clean
+.PHONY: all run test addin addin-test addin-test-32 bench screenshots format format-check lint sanitize fuzz
+.PHONY: fuzz-quick packages clean
 
 all: $(program)
 
@@ -25,6 +26,37 @@ test: packages
 	cmake --preset release -Wno-dev --log-level=WARNING
 	cmake --build build -j $(JOBS)
 	scripts/tests build
+
+# The library for Visual Basic, 32 bit (the product) and 64 bit, and the zip for its users.
+addin: packages
+	@scripts/install-packages scripts/packages-addin.txt
+	cmake --preset addin32 -Wno-dev --log-level=WARNING
+	cmake --build build/addin32 -j $(JOBS) --target corvane_dll
+	cmake --preset addin64 -Wno-dev --log-level=WARNING
+	cmake --build build/addin64 -j $(JOBS) --target corvane_dll
+	scripts/check-library build/addin32/corvane.dll
+	scripts/check-library build/addin64/corvane.dll
+	scripts/addin-zip build/addin32 build/addin64 build
+
+# The Windows tests under Wine: those of 64 bit, and those of 32 bit where this machine has a Wine for them.
+addin-test: addin
+	@scripts/install-packages scripts/packages-addin-test.txt
+	cmake --build build/addin64 -j $(JOBS)
+	scripts/addin-tests build/addin64 build/wine64
+	scripts/test-install build/windows build/wine64 --64
+	@if wine=$$(scripts/wine-32); then \
+	  cmake --build build/addin32 -j $(JOBS) && \
+	  WINE=$$wine WINEARCH=win32 scripts/addin-tests build/addin32 build/wine32 && \
+	  WINE=$$wine WINEARCH=win32 scripts/test-install build/windows build/wine32; \
+	else \
+	  echo "The 32-bit tests were not run: this machine has no 32-bit Wine ('make addin-test-32' brings one)."; \
+	fi
+
+# The same for 32 bit in a 32-bit Debian beside the build folder; needs root, and 1.3 GB that are kept for the next time.
+addin-test-32: addin
+	@scripts/install-packages scripts/packages-addin-test-32.txt
+	cmake --build build/addin32 -j $(JOBS)
+	scripts/addin-tests-32 build/addin32 build/debian-i386
 
 bench: packages
 	@scripts/install-packages scripts/packages-bench.txt

@@ -1,0 +1,100 @@
+@echo off
+rem install.cmd [/machine] [/64] [/quiet]: copies Corvane and registers it with Visual Basic 6; see INSTALL.txt.
+rem Ends with 0, 1 when it could not be installed, 2 for a switch that it does not know.
+setlocal
+set "FROM=%~dp0"
+set "MACHINE="
+set "BITS=32"
+set "QUIET="
+
+:switches
+if "%~1"=="" goto place
+if /i "%~1"=="/machine" goto machine
+if /i "%~1"=="/64" goto wide
+if /i "%~1"=="/quiet" goto quiet
+echo There is no switch %1. Use install.cmd [/machine] [/64] [/quiet].
+exit /b 2
+:machine
+set "MACHINE=1"
+shift
+goto switches
+:wide
+set "BITS=64"
+shift
+goto switches
+:quiet
+set "QUIET=1"
+shift
+goto switches
+
+:place
+set "NAME=Corvane"
+if "%BITS%"=="64" set "NAME=Corvane64"
+if not defined LOCALAPPDATA set "LOCALAPPDATA=%APPDATA%"
+set "TO=%LOCALAPPDATA%\%NAME%"
+set "SCOPE=user"
+if not defined MACHINE goto registrar
+set "SCOPE=machine"
+set "TO=%ProgramFiles%\%NAME%"
+if "%BITS%"=="32" if defined ProgramFiles(x86) set "TO=%ProgramFiles(x86)%\%NAME%"
+
+:registrar
+set "LIBRARY=%FROM%corvane.dll"
+if "%BITS%"=="64" set "LIBRARY=%FROM%x64\corvane.dll"
+set "REGISTRAR=%SystemRoot%\System32\regsvr32.exe"
+if "%BITS%"=="32" if exist "%SystemRoot%\SysWOW64\regsvr32.exe" set "REGISTRAR=%SystemRoot%\SysWOW64\regsvr32.exe"
+if "%BITS%"=="64" if exist "%SystemRoot%\Sysnative\regsvr32.exe" set "REGISTRAR=%SystemRoot%\Sysnative\regsvr32.exe"
+
+if not exist "%FROM%files.txt" goto incomplete
+if not exist "%LIBRARY%" goto incomplete
+if not exist "%TO%\" mkdir "%TO%" 2>nul
+if not exist "%TO%\" goto nofolder
+
+rem First the library: while Visual Basic uses the old one nothing changes.
+copy /y "%LIBRARY%" "%TO%\corvane.dll" >nul 2>nul
+if errorlevel 1 goto inuse
+set "FAILED="
+for /f "usebackq delims=" %%F in ("%FROM%files.txt") do call :copyone "%%F"
+if defined FAILED goto notcopied
+echo %SCOPE%>"%TO%\scope.txt"
+if not exist "%TO%\scope.txt" set "FAILED=scope.txt"
+if defined FAILED goto notcopied
+
+if defined MACHINE start "" /wait "%REGISTRAR%" /s /n /i:machine "%TO%\corvane.dll"
+if not defined MACHINE start "" /wait "%REGISTRAR%" /s "%TO%\corvane.dll"
+if errorlevel 1 goto notregistered
+
+echo Corvane is installed in %TO%.
+echo Start Visual Basic 6 and choose "Corvane - 2000" in the Add-In Manager.
+call :stay
+exit /b 0
+
+:copyone
+if "%~1"=="corvane.dll" exit /b 0
+copy /y "%FROM%%~1" "%TO%\%~1" >nul 2>nul
+if errorlevel 1 set "FAILED=%~1"
+exit /b 0
+
+:stay
+if not defined QUIET pause
+exit /b 0
+
+:incomplete
+echo Files are missing beside install.cmd. Unpack the whole zip into a folder and run install.cmd from there.
+goto stop
+:nofolder
+echo The folder %TO% could not be made.
+goto stop
+:inuse
+echo %TO%\corvane.dll is in use or may not be written. Close Visual Basic and run install.cmd again.
+goto stop
+:notcopied
+echo %TO%\%FAILED% could not be written. Nothing was registered.
+goto stop
+:notregistered
+echo Corvane could not be registered.
+if defined MACHINE echo Run install.cmd /machine as an administrator.
+goto stop
+:stop
+call :stay
+exit /b 1
