@@ -135,11 +135,13 @@ void Connect::Hide() {
 // The user's program starts with the explorer out of the way. Asking for the state of a window that was never opened
 // loads it, out of sight.
 void Connect::mStart_EnterRunMode() {
-  PassOverErrors([&] {
-    explorer::frmAddIn& window = Window();
-    window.LoadForm();
-    bool minimised = window.WindowState() == forms::vbMinimized;
-    if (!minimised && FormDisplayed) window.SetWindowState(forms::vbMinimized);
+  toolkit.Guard([&] {
+    PassOverErrors([&] {
+      explorer::frmAddIn& window = Window();
+      window.LoadForm();
+      bool minimised = window.WindowState() == forms::vbMinimized;
+      if (!minimised && FormDisplayed) window.SetWindowState(forms::vbMinimized);
+    });
   });
 }
 

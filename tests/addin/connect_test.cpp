@@ -82,6 +82,20 @@ TEST_F(Connecting, DisconnectingDuringAYieldOfTheWindowIsSafe) {
   EXPECT_TRUE(WindowShown());
 }
 
+TEST_F(Connecting, DisconnectingWhileARunMinimisesTheWindowIsSafe) {
+  Connect(ConnectMode::Startup);
+  connect.Show(false);
+  bool resized = false;
+  connect.mfrmAddIn()->Resize = [&] {
+    resized = true;
+    EXPECT_TRUE(toolkit.IsInAct()) << "what keeps the window until its handlers have ended";
+    Disconnect();
+  };
+  environment->EnterRunMode();
+  EXPECT_TRUE(resized);
+  EXPECT_EQ(connect.mfrmAddIn(), nullptr);
+}
+
 TEST_F(Connecting, TheExternalModeMakesNoControlsAndShowsTheWindowAtOnce) {
   Connect(ConnectMode::External);
   EXPECT_THAT(Captions("Standard"), ElementsAre("Add Project", "Start", "Toolbox"));

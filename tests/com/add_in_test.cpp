@@ -198,13 +198,14 @@ TEST_F(AddInTest, ADisconnectionInAYieldWaitsForTheHandlerToEnd) {
 TEST_F(AddInTest, ADisconnectionInTheStartOfAProgramWaitsToo) {
   Connect();
   environment_.Click();
-  bool yielded = false;
-  rooms_.services.loop.on_do_events = [&] {
-    if (!yielded) Disconnect();
-    yielded = true;
+  bool resized = false;
+  add_in_->Current()->AddIn().mfrmAddIn()->Resize = [&] {
+    resized = true;
+    Disconnect();
+    EXPECT_NE(rooms_.toolkit, nullptr);
   };
   environment_.EnterRunMode();
-  if (!yielded) Disconnect();
+  EXPECT_TRUE(resized);
   RunMessages();
   EXPECT_EQ(rooms_.toolkit, nullptr);
   EXPECT_EQ(environment_.Held(), 0u);
