@@ -89,7 +89,7 @@ class DropDownPeer : public ControlPeer {
   }
 
   LRESULT OnOwnMessage(Window& window, const Message& message) override {
-    if (MeansNothing(message)) return 0;
+    if (MeansNothing(message) && !IsDropped()) return 0;
     if (message.id == WM_MOUSEWHEEL && !IsDropped()) return 0;
     if (combo_.Locked() && WouldChange(window, message)) return 0;
     const bool searches = message.id == WM_CHAR && !IsEdited();
@@ -130,23 +130,35 @@ class DropDownPeer : public ControlPeer {
     switch (what) {
       case CBN_DROPDOWN:
         return DropsDown();
-      case CBN_SELCHANGE: {
-        const long row = static_cast<long>(window_.Send(CB_GETCURSEL));
-        const Life self = LifeOfThis();
-        Report([this, row] { combo_.UserSelect(row); });
-        if (!self.expired()) ShowLater();
+      case CBN_SELCHANGE:
+        return IsDropped() ? static_cast<void>(walked_ = true) : Chosen();
+      case CBN_SELENDCANCEL:
+        walked_ = false;
         return;
-      }
       case CBN_EDITCHANGE:
         return ReportThenShow(forms::Property::ListIndex, [this] { combo_.UserEdit(BytesOf(window_.Text())); });
       case CBN_CLOSEUP:
-        return ShowLater();
+        return ClosesUp();
       default:
         return;
     }
   }
 
+  void Chosen() {
+    walked_ = false;
+    const long row = static_cast<long>(window_.Send(CB_GETCURSEL));
+    const Life self = LifeOfThis();
+    Report([this, row] { combo_.UserSelect(row); });
+    if (!self.expired()) ShowLater();
+  }
+
+  // Rows that are walked over by keys are not chosen before the list closes. A click in it comes behind its closing.
+  void ClosesUp() {
+    toolkit_.Post(LifeOfThis(), [this] { walked_ ? Chosen() : Changed(forms::Property::Text); });
+  }
+
   void DropsDown() {
+    walked_ = false;
     const Life self = LifeOfThis();
     Report([this] { combo_.UserDropDown(); });
     if (self.expired()) return;
@@ -201,6 +213,7 @@ class DropDownPeer : public ControlPeer {
   Window edit_;
   int filling_ = 0;
   bool stale_ = false;
+  bool walked_ = false;  // in the open list, by keys
 };
 
 class SimplePeer : public ControlPeer {
