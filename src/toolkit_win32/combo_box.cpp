@@ -53,9 +53,10 @@ class DropDownPeer : public ControlPeer {
   void ShowFont() override {
     ControlPeer::ShowFont();
     const int wanted = toolkit_.Fonts().Of(combo_.Font()).Height() + toolkit_.Scale().Scaled(kEditMargins);
-    for (int turn = 0; turn < 2; ++turn) {
-      const auto field = static_cast<int>(window_.Send(CB_GETITEMHEIGHT, static_cast<WPARAM>(-1)));
-      window_.Send(CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), field + wanted - ClosedHeight());
+    int field = wanted;
+    for (int turn = 0; turn < 2; ++turn) {  // the system adds borders of its own, how many only shows behind it
+      window_.Send(CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), field);
+      field += wanted - ClosedHeight();
     }
     ShowPlace();
   }

@@ -162,6 +162,7 @@ class SystemFiles : public host::Files {
     const DWORD attributes = GetFileAttributesW(named.c_str());
     const bool exists = attributes != INVALID_FILE_ATTRIBUTES;
     if (IsFolder(attributes)) throw runtime::Error(runtime::kPathFileAccessError);
+    if (exists && (attributes & FILE_ATTRIBUTE_READONLY) != 0) throw runtime::Error(runtime::kPermissionDenied);
     if (exists) RequireReplaceable(named);
     const bool linked = exists && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
     const std::wstring place = linked ? LinkedFile(named) : named;

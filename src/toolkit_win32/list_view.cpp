@@ -60,14 +60,17 @@ void ListView::RowsChanged(Life life) {
 void ListView::FitScrollBar() {
   stale_ = false;
   top_ = std::clamp(top_, 0L, std::max(0L, Count() - RowsInView()));
+  Repaint();
+  const BarState wanted{std::max(0L, Count() - 1), RowsInView(), top_};
+  if (bar_ == wanted) return;
+  bar_ = wanted;
   SCROLLINFO info{};
   info.cbSize = sizeof info;
   info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
-  info.nMax = static_cast<int>(std::max(0L, Count() - 1));
-  info.nPage = static_cast<UINT>(RowsInView());
-  info.nPos = static_cast<int>(top_);
+  info.nMax = static_cast<int>(wanted.last);
+  info.nPage = static_cast<UINT>(wanted.page);
+  info.nPos = static_cast<int>(wanted.top);
   SetScrollInfo(window_.Handle(), SB_VERT, &info, TRUE);
-  Repaint();
 }
 
 void ListView::ScrollTo(long row) {

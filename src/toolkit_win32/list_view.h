@@ -68,6 +68,11 @@ class ListView {
   Win32Toolkit& toolkit_;
   forms::ListControl& list_;
   Window& window_;
+  struct BarState {
+    long last = 0, page = 0, top = 0;
+    bool operator==(const BarState&) const = default;
+  };
+  BarState bar_;  // as it is shown
   long top_ = 0;
   long pressed_ = -1;  // the row under the held button
   int turned_ = 0;     // of the wheel, not yet scrolled

@@ -193,8 +193,8 @@ class LinePeer : public DrawnPeer {
   RECT ShownPlace() const override {
     const PixelScale& scale = toolkit_.Scale();
     const int width = Width();
-    const auto [left, right] = std::minmax(scale.Pixels(line_.X1()), scale.Pixels(line_.X2()));
-    const auto [top, bottom] = std::minmax(scale.Pixels(line_.Y1()), scale.Pixels(line_.Y2()));
+    const auto [left, right] = std::minmax({scale.Pixels(line_.X1()), scale.Pixels(line_.X2())});
+    const auto [top, bottom] = std::minmax({scale.Pixels(line_.Y1()), scale.Pixels(line_.Y2())});
     return {left, top, std::max(right, left + width), std::max(bottom, top + width)};
   }
   void ShowOwn(forms::Property property) override {
