@@ -6,15 +6,14 @@
 namespace corvane::toolkit_win32 {
 namespace {
 
-// From the screen, so that it is what a user sees.
-HBITMAP PictureOfScreen(const RECT& place) {
-  const HDC screen = GetDC(nullptr), memory = CreateCompatibleDC(screen);
-  const HBITMAP picture = CreateCompatibleBitmap(screen, WidthOf(place), HeightOf(place));
+HBITMAP PictureOf(HWND window, const RECT& place) {
+  const HDC shown = GetWindowDC(window), memory = CreateCompatibleDC(shown);
+  const HBITMAP picture = CreateCompatibleBitmap(shown, WidthOf(place), HeightOf(place));
   const HGDIOBJ before = SelectObject(memory, picture);
-  BitBlt(memory, 0, 0, WidthOf(place), HeightOf(place), screen, place.left, place.top, SRCCOPY);
+  BitBlt(memory, 0, 0, WidthOf(place), HeightOf(place), shown, 0, 0, SRCCOPY);
   SelectObject(memory, before);
   DeleteDC(memory);
-  ReleaseDC(nullptr, screen);
+  ReleaseDC(window, shown);
   return picture;
 }
 
@@ -25,7 +24,7 @@ bool SaveWindowPicture(HWND window, const std::wstring& path) {
   RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN | RDW_FRAME);
   RECT place{};
   GetWindowRect(window, &place);
-  const HBITMAP picture = PictureOfScreen(place);
+  const HBITMAP picture = PictureOf(window, place);
   const bool saved = ImageCodec().SavePng(picture, path);
   DeleteObject(picture);
   return saved;

@@ -56,16 +56,16 @@ class Pictures : public ::testing::Test {
     toolkit.DoEvents();
     Keep(toolkit.WindowOf(form), name);
   }
-  // Different colours along the middle of a window.
+  // Different colours along some lines of a window.
   static size_t ColorsOf(HWND window) {
     RECT place{};
     GetWindowRect(window, &place);
     std::set<COLORREF> colors;
-    const HDC screen = GetDC(nullptr);
-    for (int x = place.left; x < place.right; x += 3) {
-      for (int part = 1; part < 8; ++part) colors.insert(GetPixel(screen, x, place.top + HeightOf(place) * part / 8));
+    const HDC dc = GetWindowDC(window);
+    for (int x = 0; x < WidthOf(place); x += 3) {
+      for (int part = 1; part < 8; ++part) colors.insert(GetPixel(dc, x, HeightOf(place) * part / 8));
     }
-    ReleaseDC(nullptr, screen);
+    ReleaseDC(window, dc);
     return colors.size();
   }
 
