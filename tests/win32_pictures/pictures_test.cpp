@@ -21,8 +21,8 @@ namespace {
 
 using explorer::frmAddIn;
 
-std::string SampleProject() {
-  std::string path = std::string(CORVANE_SOURCE_DIR) + "/samples/stockroom/Stockroom.vbp";
+std::string InTree(const char* name) {
+  std::string path = std::string(CORVANE_SOURCE_DIR) + "/" + name;
   std::replace(path.begin(), path.end(), '/', '\\');
   return path;
 }
@@ -37,8 +37,9 @@ class Pictures : public ::testing::Test {
  protected:
   Pictures() {
     toolkit.OnFault = [this](const std::string& what) { faults.push_back(what); };
+    services.App.Path = InTree("data");  // as it would be installed: its files lie beside the library
     environment = environment::Environment::Create(services.Files);
-    environment->Open(SampleProject());
+    environment->Open(InTree("samples/stockroom/Stockroom.vbp"));
   }
   ~Pictures() override { EXPECT_EQ(faults, std::vector<std::string>{}); }
 
