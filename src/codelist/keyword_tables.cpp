@@ -49,8 +49,8 @@ constexpr KeywordRow kVbKeywords[] = {
     {"LOOP ",         kAny,   Closing, "Loop/-\\/+\\",     ' ',  5},
 };
 
-// "BEGIN TRAN " takes one character less than it matches and "BEGIN TRANSACTION" writes a blank that it did not take, so
-// both leave a blank more; "END" writes a blank for the comma that may follow it.
+// "BEGIN TRAN " takes one character less than it matches and "BEGIN TRANSACTION" writes a blank that it did not take,
+// so both leave a blank more; "END" writes a blank for the comma that may follow it.
 constexpr KeywordRow kSqlKeywords[] = {
     // match               next   marking  form                       last  consumed
     {"SELECT ",            kAny,  Opening, "Select/-\\/+\\",            ' ',  7, None, Effect::None, true},

@@ -33,7 +33,7 @@ class Collection {
   virtual Ref<T> Item(const Index& index) = 0;
 };
 
-// `for (Ref<VBComponent> component : Each(project->VBComponents()))`: the items in their own order, each fetched when it is
+// `for (Ref<VBComponent> component : Each(project->VBComponents()))`: the items in order, each fetched when it is
 // reached. The collection is held until the loop ends.
 template <class C>
 auto Each(Ref<C> collection) {

@@ -36,7 +36,7 @@ class CodeModule {
   virtual long ProcBodyLine(const std::string& name, ProcKind kind) = 0;
   virtual long ProcCountLines(const std::string& name, ProcKind kind) = 0;
 
-  // Searches forward from (start_line, start_column) to (end_line, end_column); -1 means the end. On a hit the four hold
+  // Searches forward from (start_line, start_column) to (end_line, end_column); -1 is the end. On a hit the four hold
   // its place, the end column one past its last character; without one they stay. A pattern knows ? * # [list] [!list].
   virtual bool Find(const std::string& target, long& start_line, long& start_column, long& end_line, long& end_column,
                     bool whole_word, bool match_case, bool pattern_search) = 0;

@@ -47,7 +47,7 @@ class VBControl {
 // All controls of a designer, nested ones and menus too, in the order of its file.
 class VBControls : public Collection<VBControl> {
  public:
-  // [prog_id] is "VB.Label" or "Label"; [container] may be Nothing. The new control gets the first free name of its kind.
+  // [prog_id] is "VB.Label" or "Label"; [container] may be Nothing. A new control gets the first free name of its kind.
   virtual Ref<VBControl> Add(const std::string& prog_id, const Ref<VBControl>& container) = 0;
   virtual void Remove(const Ref<VBControl>& control) = 0;
 };

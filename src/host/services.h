@@ -94,7 +94,7 @@ struct FileStamp {
 class Files {
  public:
   virtual ~Files() = default;
-  // The whole file. Throws Error 53 (no such file), 76 (no such folder), 70 (not allowed), 75 (a folder, or unreadable).
+  // The whole file. Throws Error 53 (no such file), 76 (no such folder), 70 (not allowed), 75 (a folder or unreadable).
   virtual std::string Read(const std::string& path) = 0;
   // Replaces or makes the file as a whole: either all of [bytes] is in it or it stays as it was. Throws 61, 70, 75, 76.
   virtual void Write(const std::string& path, std::string_view bytes) = 0;
