@@ -8,7 +8,7 @@ using enum Marking;
 using enum Condition;
 
 // Any character may follow.
-constexpr std::string_view kAny = "";
+constexpr std::string_view kAny;
 
 // clang-format off
 constexpr KeywordRow kVbKeywords[] = {

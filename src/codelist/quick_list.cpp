@@ -16,7 +16,8 @@ void ucListBox::ClearQuickList() {
 }
 
 void ucListBox::PlaceQuickList() {
-  const Twips top = static_cast<Twips>(visibleRows / 2 + 1) * rowHeight;
+  const long middle = visibleRows / 2 + 1;  // whole rows
+  const Twips top = static_cast<Twips>(middle) * rowHeight;
   lbx.Move(gutterWidth + 20, top, std::max<Twips>(0, pic.ScaleWidth() - gutterWidth - 30),
            std::max<Twips>(0, pic.ScaleHeight() - top));
   lbx.SetVisible(true);

@@ -108,7 +108,7 @@ DesignerBlockRef AddControl(DesignerState& state, const ControlClass& known, Des
       is_menu ? in_form || IsMenu(container) : !IsMenu(container) && (in_form || !holder || holder->is_container);
   if (!fits) throw host::Error(runtime::kInvalidProcedureCall);
 
-  const DesignerBlockRef control =
+  DesignerBlockRef control =
       state.Part().NewBlock(container, false, known.prog_id, FirstFreeName(state, known.base_name));
   WriteNewProperties(state, known, *control, container);
   PlaceControl(container, control);

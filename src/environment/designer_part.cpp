@@ -68,7 +68,7 @@ class DesignerPart::Reader {
 
   void ReadTail(std::string_view raw, const DesignerLine&) {
     part_.tail_.push_back(raw);
-    const bool first = TrimBlanks(raw).size() > 0 && !has_tail_;
+    const bool first = !TrimBlanks(raw).empty() && !has_tail_;
     has_tail_ = has_tail_ || first;
     if (first) Problem("behind the End of the designer part: " + Shown(TrimBlanks(raw)));
   }

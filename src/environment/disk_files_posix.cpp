@@ -40,13 +40,14 @@ Names Split(const std::string& windows) {
   }
   result.absolute = at < windows.size() && (windows[at] == '\\' || windows[at] == '/');
   std::string name;
-  for (size_t next = at; at < windows.size(); at = next) {
-    next = BehindCharacter(windows, at);
+  while (at < windows.size()) {
+    const size_t next = BehindCharacter(windows, at);
     if (windows[at] != '\\' && windows[at] != '/') {
       name += windows.substr(at, next - at);
     } else if (!name.empty()) {
       result.names.push_back(std::exchange(name, {}));
     }
+    at = next;
   }
   if (!name.empty()) result.names.push_back(std::move(name));
   return result;
