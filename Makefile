@@ -94,7 +94,6 @@ format-check:
 lint: packages
 	@scripts/install-packages scripts/packages-clang.txt
 	cmake --preset dev -Wno-dev --log-level=WARNING
-	cmake --build build/dev -j $(JOBS) --target autogen 2>/dev/null || true
 	scripts/lint build/dev
 
 clean:
