@@ -48,11 +48,11 @@ if "%BITS%"=="64" if exist "%SystemRoot%\Sysnative\regsvr32.exe" set "REGISTRAR=
 if not exist "%FROM%files.txt" goto incomplete
 if not exist "%LIBRARY%" goto incomplete
 if not exist "%TO%\" mkdir "%TO%" 2>nul
-if not exist "%TO%\" goto nofolder
 
 rem First the library: while Visual Basic uses the old one nothing changes.
 copy /y "%LIBRARY%" "%TO%\corvane.dll" >nul 2>nul
-if errorlevel 1 goto inuse
+if errorlevel 1 if exist "%TO%\corvane.dll" goto inuse
+if errorlevel 1 goto nofolder
 set "FAILED="
 for /f "usebackq delims=" %%F in ("%FROM%files.txt") do call :copyone "%%F"
 if defined FAILED goto notcopied
@@ -83,7 +83,7 @@ exit /b 0
 echo Files are missing beside install.cmd. Unpack the whole zip into a folder and run install.cmd from there.
 goto stop
 :nofolder
-echo The folder %TO% could not be made.
+echo The folder %TO% could not be made, or not be written.
 goto stop
 :inuse
 echo %TO%\corvane.dll is in use or may not be written. Close Visual Basic and run install.cmd again.
