@@ -43,7 +43,7 @@ class WrappedCodeModule : public host::CodeModule, public Wrapped {
         .ToBool();
   }
 
-  host::Ref<host::CodePane> CodePane() override { return Wrap<host::CodePane>(object_.Get(L"CodePane")); }
+  host::Ref<host::CodePane> CodePane() override { return WrapExisting<host::CodePane>(object_.Get(L"CodePane")); }
 
  private:
   long OfProcedure(const wchar_t* member, const std::string& name, ProcKind kind) {
@@ -54,8 +54,10 @@ class WrappedCodeModule : public host::CodeModule, public Wrapped {
 class WrappedCodePane : public host::CodePane, public Wrapped {
  public:
   using Wrapped::Wrapped;
-  host::Ref<host::CodeModule> CodeModule() override { return Wrap<host::CodeModule>(object_.Get(L"CodeModule")); }
-  host::Ref<host::Window> Window() override { return Wrap<host::Window>(object_.Get(L"Window")); }
+  host::Ref<host::CodeModule> CodeModule() override {
+    return WrapExisting<host::CodeModule>(object_.Get(L"CodeModule"));
+  }
+  host::Ref<host::Window> Window() override { return WrapExisting<host::Window>(object_.Get(L"Window")); }
   host::Selection GetSelection() override {
     host::Selection place;
     object_.Call(L"GetSelection", &place.start_line, &place.start_column, &place.end_line, &place.end_column);

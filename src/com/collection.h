@@ -12,7 +12,7 @@ class WrappedCollection : public Base, public Wrapped {
   using Wrapped::Wrapped;
   long Count() override { return object_.Get(L"Count").ToLong(); }
   host::Ref<Element> Item(const host::Index& index) override {
-    return Wrap<Element>(object_.Has(L"Item") ? object_.Get(L"Item", index) : object_.GetDefault(index));
+    return WrapExisting<Element>(object_.Has(L"Item") ? object_.Get(L"Item", index) : object_.GetDefault(index));
   }
 };
 

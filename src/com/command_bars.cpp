@@ -23,8 +23,8 @@ class WrappedBarControls : public WrappedCollection<host::CommandBarControls, ho
   // Type, Id, Parameter, Before.
   host::Ref<host::CommandBarControl> Add(host::ControlType type, long before) override {
     const long kind = static_cast<long>(type);
-    return Wrap<host::CommandBarControl>(before == 0 ? object_.Get(L"Add", kind)
-                                                     : object_.Get(L"Add", kind, Missing(), Missing(), before));
+    return WrapExisting<host::CommandBarControl>(before == 0 ? object_.Get(L"Add", kind)
+                                                             : object_.Get(L"Add", kind, Missing(), Missing(), before));
   }
 };
 
@@ -33,7 +33,7 @@ class WrappedBar : public host::CommandBar, public Wrapped {
   using Wrapped::Wrapped;
   std::string Name() override { return object_.Get(L"Name").ToText(); }
   host::Ref<host::CommandBarControls> Controls() override {
-    return Wrap<host::CommandBarControls>(object_.Get(L"Controls"));
+    return WrapExisting<host::CommandBarControls>(object_.Get(L"Controls"));
   }
 };
 

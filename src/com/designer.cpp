@@ -54,10 +54,12 @@ class WrappedControl : public host::VBControl, public Wrapped {
   using Wrapped::Wrapped;
   std::string ClassName() override { return object_.Get(L"ClassName").ToText(); }
   std::string ProgId() override { return object_.Get(L"ProgId").ToText(); }
-  host::Ref<host::Properties> Properties() override { return Wrap<host::Properties>(object_.Get(L"Properties")); }
+  host::Ref<host::Properties> Properties() override {
+    return WrapExisting<host::Properties>(object_.Get(L"Properties"));
+  }
   host::Ref<host::ControlObject> ControlObject() override {
     ComPointer<IDispatch> object = object_.Get(L"ControlObject").ToObject();
-    if (!object) return nullptr;
+    if (!object) throw host::Error(runtime::kObjectNotSet);
     return std::make_shared<WrappedControlObject>(std::move(object), ComPointer(Dispatched()));
   }
 };
@@ -66,7 +68,7 @@ class WrappedControls : public WrappedCollection<host::VBControls, host::VBContr
  public:
   using WrappedCollection::WrappedCollection;
   host::Ref<host::VBControl> Add(const std::string& prog_id, const host::Ref<host::VBControl>& container) override {
-    return Wrap<host::VBControl>(object_.Get(L"Add", prog_id, Argument(container)));
+    return WrapExisting<host::VBControl>(object_.Get(L"Add", prog_id, Argument(container)));
   }
   void Remove(const host::Ref<host::VBControl>& control) override { object_.Call(L"Remove", Argument(control)); }
 };
@@ -74,9 +76,11 @@ class WrappedControls : public WrappedCollection<host::VBControls, host::VBContr
 class WrappedForm : public host::VBForm, public Wrapped {
  public:
   using Wrapped::Wrapped;
-  host::Ref<host::VBControls> VBControls() override { return Wrap<host::VBControls>(object_.Get(L"VBControls")); }
+  host::Ref<host::VBControls> VBControls() override {
+    return WrapExisting<host::VBControls>(object_.Get(L"VBControls"));
+  }
   host::Ref<host::SelectedVBControls> SelectedVBControls() override {
-    return Wrap<host::SelectedVBControls>(object_.Get(L"SelectedVBControls"));
+    return WrapExisting<host::SelectedVBControls>(object_.Get(L"SelectedVBControls"));
   }
 };
 

@@ -68,6 +68,14 @@ host::Ref<host::VBBuildEvents> Wrap(const Value&);
 template <>
 host::Ref<host::Events> Wrap(const Value&);
 
+// The same for what an environment always has: Nothing is Error 91, as it would be at the first call of it.
+template <class T>
+host::Ref<T> WrapExisting(const Value& value) {
+  host::Ref<T> object = Wrap<T>(value);
+  if (!object) throw host::Error(runtime::kObjectNotSet);
+  return object;
+}
+
 // How each of them is made: of the class that forwards to the object.
 template <class Class>
 std::shared_ptr<Class> MakeWrapped(const Value& value) {

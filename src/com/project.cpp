@@ -11,28 +11,34 @@ class WrappedComponent : public host::VBComponent, public Wrapped {
   std::string Name() override { return object_.Get(L"Name").ToText(); }
   void SetName(const std::string& name) override { object_.Put(L"Name", name); }
   host::ComponentType Type() override { return static_cast<host::ComponentType>(object_.Get(L"Type").ToLong()); }
-  host::Ref<host::CodeModule> CodeModule() override { return Wrap<host::CodeModule>(object_.Get(L"CodeModule")); }
+  host::Ref<host::CodeModule> CodeModule() override {
+    return WrapExisting<host::CodeModule>(object_.Get(L"CodeModule"));
+  }
   host::Ref<host::VBForm> Designer() override { return Wrap<host::VBForm>(object_.Get(L"Designer")); }
   bool HasOpenDesigner() override { return object_.Get(L"HasOpenDesigner").ToBool(); }
-  host::Ref<host::Window> DesignerWindow() override { return Wrap<host::Window>(object_.Get(L"DesignerWindow")); }
-  host::Ref<host::Properties> Properties() override { return Wrap<host::Properties>(object_.Get(L"Properties")); }
+  host::Ref<host::Window> DesignerWindow() override {
+    return WrapExisting<host::Window>(object_.Get(L"DesignerWindow"));
+  }
+  host::Ref<host::Properties> Properties() override {
+    return WrapExisting<host::Properties>(object_.Get(L"Properties"));
+  }
   long FileCount() override { return object_.Get(L"FileCount").ToLong(); }
   std::string FileNames(long index) override { return object_.Get(L"FileNames", index).ToText(); }
   void SaveAs(const std::string& path) override { object_.Call(L"SaveAs", path); }
-  host::Ref<host::VBE> VBE() override { return Wrap<host::VBE>(object_.Get(L"VBE")); }
+  host::Ref<host::VBE> VBE() override { return WrapExisting<host::VBE>(object_.Get(L"VBE")); }
 };
 
 class WrappedComponents : public WrappedCollection<host::VBComponents, host::VBComponent> {
  public:
   using WrappedCollection::WrappedCollection;
   host::Ref<host::VBComponent> Add(host::ComponentType type) override {
-    return Wrap<host::VBComponent>(object_.Get(L"Add", static_cast<long>(type)));
+    return WrapExisting<host::VBComponent>(object_.Get(L"Add", static_cast<long>(type)));
   }
   host::Ref<host::VBComponent> AddFile(const std::string& path) override {
-    return Wrap<host::VBComponent>(object_.Get(L"AddFile", path));
+    return WrapExisting<host::VBComponent>(object_.Get(L"AddFile", path));
   }
   void Remove(const host::Ref<host::VBComponent>& component) override { object_.Call(L"Remove", Argument(component)); }
-  host::Ref<host::VBE> VBE() override { return Wrap<host::VBE>(object_.Get(L"VBE")); }
+  host::Ref<host::VBE> VBE() override { return WrapExisting<host::VBE>(object_.Get(L"VBE")); }
 };
 
 class WrappedProject : public host::VBProject, public Wrapped {
@@ -41,7 +47,7 @@ class WrappedProject : public host::VBProject, public Wrapped {
   std::string Name() override { return object_.Get(L"Name").ToText(); }
   std::string FileName() override { return object_.Get(L"FileName").ToText(); }
   host::Ref<host::VBComponents> VBComponents() override {
-    return Wrap<host::VBComponents>(object_.Get(L"VBComponents"));
+    return WrapExisting<host::VBComponents>(object_.Get(L"VBComponents"));
   }
 };
 

@@ -36,9 +36,11 @@ void CloseAll(forms::Toolkit& toolkit) {
 }  // namespace
 
 void Session::Connect(IDispatch* application, addin::ConnectMode mode) {
-  const Value root(application);
-  if (application) home_->SetHostWindow(MainWindowOf(root));
-  home_->Toolkit().Guard([&] { connect_.AddinInstance_OnConnection(Wrap<host::VBE>(root), mode); });
+  home_->Toolkit().Guard([&] {
+    const Value root(application);
+    home_->SetHostWindow(MainWindowOf(root));
+    connect_.AddinInstance_OnConnection(Wrap<host::VBE>(root), mode);
+  });
 }
 
 void Session::Disconnect(addin::DisconnectMode mode) {

@@ -18,11 +18,11 @@ class WrappedVBE : public host::VBE, public Wrapped {
  public:
   using Wrapped::Wrapped;
   host::Ref<host::VBProjects> VBProjects() override { return Member<host::VBProjects>(L"VBProjects"); }
-  host::Ref<host::VBProject> ActiveVBProject() override { return Member<host::VBProject>(L"ActiveVBProject"); }
+  host::Ref<host::VBProject> ActiveVBProject() override { return MemberOrNothing<host::VBProject>(L"ActiveVBProject"); }
   host::Ref<host::VBComponent> SelectedVBComponent() override {
-    return Member<host::VBComponent>(L"SelectedVBComponent");
+    return MemberOrNothing<host::VBComponent>(L"SelectedVBComponent");
   }
-  host::Ref<host::CodePane> ActiveCodePane() override { return Member<host::CodePane>(L"ActiveCodePane"); }
+  host::Ref<host::CodePane> ActiveCodePane() override { return MemberOrNothing<host::CodePane>(L"ActiveCodePane"); }
   host::Ref<host::CodePanes> CodePanes() override { return Member<host::CodePanes>(L"CodePanes"); }
   host::Ref<host::Windows> Windows() override { return Member<host::Windows>(L"Windows"); }
   host::Ref<host::Window> MainWindow() override { return Member<host::Window>(L"MainWindow"); }
@@ -32,6 +32,10 @@ class WrappedVBE : public host::VBE, public Wrapped {
  private:
   template <class T>
   host::Ref<T> Member(const wchar_t* name) {
+    return WrapExisting<T>(object_.Get(name));
+  }
+  template <class T>
+  host::Ref<T> MemberOrNothing(const wchar_t* name) {
     return Wrap<T>(object_.Get(name));
   }
 };

@@ -23,9 +23,16 @@ class Wrappers : public ScriptedTest {
   void ExpectNumber(const char* expected, const char* member, const std::function<long()>& act) {
     ExpectCall(expected, member, 7L, [&] { EXPECT_EQ(act(), 7) << member; });
   }
-  // An object comes back as an object, and Nothing as Nothing, which it also is where the answer is Empty.
+  // An object comes back as an object. What an environment always has is Error 91 where it answers Nothing.
   template <class T>
   void ExpectObject(const char* expected, const char* member, const std::function<Ref<T>()>& act) {
+    ExpectCall(expected, member, Of(New("answer")), [&] { EXPECT_TRUE(act()) << member; });
+    ExpectCall(expected, member, Value(static_cast<IDispatch*>(nullptr)),
+               [&] { EXPECT_EQ(ErrorOf(act), 91) << member; });
+  }
+  // Nothing comes back as Nothing, which it also is where the answer is Empty.
+  template <class T>
+  void ExpectObjectOrNothing(const char* expected, const char* member, const std::function<Ref<T>()>& act) {
     ExpectCall(expected, member, Of(New("answer")), [&] { EXPECT_TRUE(act()) << member; });
     ExpectCall(expected, member, Value(static_cast<IDispatch*>(nullptr)), [&] { EXPECT_FALSE(act()) << member; });
     ExpectCall(expected, member, Value(), [&] { EXPECT_FALSE(act()) << member; });
@@ -38,10 +45,12 @@ class Wrappers : public ScriptedTest {
 TEST_F(Wrappers, TheRootGivesItsObjects) {
   auto vbe = As<host::VBE>();
   ExpectObject<host::VBProjects>("get vbprojects()", "VBProjects", [&] { return vbe->VBProjects(); });
-  ExpectObject<host::VBProject>("get activevbproject()", "ActiveVBProject", [&] { return vbe->ActiveVBProject(); });
-  ExpectObject<host::VBComponent>("get selectedvbcomponent()", "SelectedVBComponent",
-                                  [&] { return vbe->SelectedVBComponent(); });
-  ExpectObject<host::CodePane>("get activecodepane()", "ActiveCodePane", [&] { return vbe->ActiveCodePane(); });
+  ExpectObjectOrNothing<host::VBProject>("get activevbproject()", "ActiveVBProject",
+                                         [&] { return vbe->ActiveVBProject(); });
+  ExpectObjectOrNothing<host::VBComponent>("get selectedvbcomponent()", "SelectedVBComponent",
+                                           [&] { return vbe->SelectedVBComponent(); });
+  ExpectObjectOrNothing<host::CodePane>("get activecodepane()", "ActiveCodePane",
+                                        [&] { return vbe->ActiveCodePane(); });
   ExpectObject<host::CodePanes>("get codepanes()", "CodePanes", [&] { return vbe->CodePanes(); });
   ExpectObject<host::Windows>("get windows()", "Windows", [&] { return vbe->Windows(); });
   ExpectObject<host::Window>("get mainwindow()", "MainWindow", [&] { return vbe->MainWindow(); });
@@ -111,7 +120,7 @@ TEST_F(Wrappers, AComponentIsAskedMemberByMember) {
   ExpectDone("put name = \"New\"", "Name", [&] { component->SetName("New"); });
   ExpectNumber("get type()", "Type", [&] { return static_cast<long>(component->Type()); });
   ExpectObject<host::CodeModule>("get codemodule()", "CodeModule", [&] { return component->CodeModule(); });
-  ExpectObject<host::VBForm>("get designer()", "Designer", [&] { return component->Designer(); });
+  ExpectObjectOrNothing<host::VBForm>("get designer()", "Designer", [&] { return component->Designer(); });
   ExpectCall("get hasopendesigner()", "HasOpenDesigner", true, [&] { EXPECT_TRUE(component->HasOpenDesigner()); });
   ExpectObject<host::Window>("get designerwindow()", "DesignerWindow", [&] { return component->DesignerWindow(); });
   ExpectObject<host::Properties>("get properties()", "Properties", [&] { return component->Properties(); });
