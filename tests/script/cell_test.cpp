@@ -17,5 +17,16 @@ TEST(Cell, ReadsAsText) {
   EXPECT_EQ(TextOf(false), "False");
 }
 
+TEST(Cell, CopiesOfATextDoNotSeeEachOthersChanges) {
+  for (size_t length : {3u, 60u, 64u, 65u, 5000u}) {
+    Text first(std::string(length, 'a'));
+    Text second = first;
+    second.Append("bcdefgh");
+    second.Append("i");
+    EXPECT_EQ(first.Get(), std::string(length, 'a'));
+    EXPECT_EQ(second.Get(), std::string(length, 'a') + "bcdefghi");
+  }
+}
+
 }  // namespace
 }  // namespace corvane::script
