@@ -1,0 +1,38 @@
+// The twenty arrays of a run: one-dimensional rows of cells that grow on assignment, addressed from 1.
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "script/script_state.h"
+
+namespace corvane::script {
+
+class Arrays {
+ public:
+  static constexpr long kSlots = 20;
+  // The highest index; beyond it an assignment fails as one fails when the memory is used up.
+  static constexpr double kHighest = 4'000'000;
+
+  Arrays(ScriptState& state, ErrorReport& errors) : state_(state), errors_(errors) {}
+
+  void Clear();
+
+  // [what] is "UBOUND", "ERASE" or an index as text; slots count from 1.
+  std::string ArrayAccess(long slot, std::string_view what);
+  // The element takes lastValue. Throws Error 6 or 7 for an index that no array can have.
+  void ArrayStore(long slot, double index);
+
+  long arrayCount = 0;  // arrays declared in the run
+
+ private:
+  std::string Element(const std::vector<Cell>& elements, std::string_view index);
+
+  ScriptState& state_;
+  ErrorReport& errors_;
+  std::array<std::vector<Cell>, kSlots> slots_;  // arraySlots
+};
+
+}  // namespace corvane::script

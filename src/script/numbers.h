@@ -1,0 +1,27 @@
+// Texts as numbers and booleans: the conversions of the language, none of which raises anything.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace corvane::script {
+
+// As the platform's CDbl reads [text], a "$" included; nothing for a text that is no number or does not fit.
+std::optional<double> NumberOf(std::string_view text);
+inline bool IsNumeric(std::string_view text) {
+  return NumberOf(text).has_value();
+}
+
+// "True" and "False" in any case; any number but 0 is true; nothing for other texts.
+std::optional<bool> BooleanOf(std::string_view text);
+
+// Whether a value may stand in an expression without marks: a number that, if longer than one character, ends in a
+// digit from 1 to 9.
+bool LooksNumeric(std::string_view text);
+
+inline std::string BooleanText(bool value) {
+  return value ? "True" : "False";
+}
+
+}  // namespace corvane::script
