@@ -44,6 +44,7 @@ class DropDownPeer : public ControlPeer {
       : ControlPeer(toolkit, combo), combo_(combo), edit_(toolkit, *this) {
     const DWORD kind = IsEdited() ? CBS_DROPDOWN : CBS_DROPDOWNLIST;
     Create({L"COMBOBOX", kind | CBS_AUTOHSCROLL | CBS_HASSTRINGS | WS_VSCROLL | WS_TABSTOP}, Mouse::Untold);
+    window_.Send(CB_SETMINVISIBLE, kRowsDropped);  // with visual styles the height of the window says nothing
     COMBOBOXINFO parts{};
     parts.cbSize = sizeof parts;
     if (IsEdited() && GetComboBoxInfo(Handle(), &parts)) edit_.Attach(parts.hwndItem);

@@ -7,7 +7,10 @@
 #include "toolkit_win32/keys.h"
 #include "toolkit_win32/painted.h"
 #include "toolkit_win32/texts.h"
+#include "toolkit_win32/theme.h"
 #include "toolkit_win32/toolkit.h"
+// Needs the Windows API in front of it.
+#include <vssym32.h>
 
 namespace corvane::toolkit_win32 {
 namespace {
@@ -124,8 +127,28 @@ void ListView::PaintBox(HDC dc, const RECT& place, bool ticked) const {
   const int size = toolkit_.Scale().Scaled(kBox), left = place.left + toolkit_.Scale().Scaled(kIndent);
   const int top = place.top + (HeightOf(place) - size) / 2;
   RECT box{left, top, left + size, top + size};
-  const UINT off = list_.IsActive() ? 0 : DFCS_INACTIVE;
-  DrawFrameControl(dc, &box, DFC_BUTTON, DFCS_BUTTONCHECK | DFCS_FLAT | (ticked ? DFCS_CHECKED : 0) | off);
+  const Theme theme(toolkit_, window_.Handle(), L"BUTTON");
+  const bool active = list_.IsActive();
+  if (theme) {
+    const int on = active ? CBS_CHECKEDNORMAL : CBS_CHECKEDDISABLED;
+    return theme.Draw(dc, BP_CHECKBOX, ticked ? on : active ? CBS_UNCHECKEDNORMAL : CBS_UNCHECKEDDISABLED, box);
+  }
+  const UINT look = DFCS_BUTTONCHECK | DFCS_FLAT | (ticked ? DFCS_CHECKED : 0);
+  DrawFrameControl(dc, &box, DFC_BUTTON, look | (active ? 0 : DFCS_INACTIVE));
+}
+
+// The frame of a text box with visual styles; the system gives a plain window the older one.
+void ListView::PaintFrame() const {
+  const Theme theme(toolkit_, window_.Handle(), L"EDIT");
+  if (!theme) return;
+  const HDC dc = GetWindowDC(window_.Handle());
+  RECT frame{};
+  GetWindowRect(window_.Handle(), &frame);
+  OffsetRect(&frame, -frame.left, -frame.top);
+  const RECT inside = InsideBorder(frame, GetSystemMetrics(SM_CXEDGE));
+  ExcludeClipRect(dc, inside.left, inside.top, inside.right, inside.bottom);
+  theme.Draw(dc, EP_EDITTEXT, list_.IsActive() ? ETS_NORMAL : ETS_DISABLED, frame);
+  ReleaseDC(window_.Handle(), dc);
 }
 
 void ListView::Press(POINT place) {
@@ -286,6 +309,10 @@ LRESULT ListView::OnMessage(const Message& message) {
   switch (message.id) {
     case WM_PAINT:
       PaintRows();
+      return 0;
+    case WM_NCPAINT:
+      window_.Default(message);
+      PaintFrame();
       return 0;
     case WM_ERASEBKGND:
       return 1;

@@ -53,6 +53,7 @@ class ListView {
   void PaintRows();
   void PaintRow(HDC dc, long row, const RECT& place) const;
   void PaintBox(HDC dc, const RECT& place, bool ticked) const;
+  void PaintFrame() const;
   void Press(POINT place);
   void Drag(POINT place, WPARAM held);
   void Release(POINT place);

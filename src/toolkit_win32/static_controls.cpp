@@ -7,9 +7,9 @@
 #include "toolkit_win32/painted.h"
 #include "toolkit_win32/peers.h"
 #include "toolkit_win32/texts.h"
+#include "toolkit_win32/theme.h"
 #include "toolkit_win32/toolkit.h"
 // Needs the Windows API in front of it.
-#include <uxtheme.h>
 #include <vssym32.h>
 
 namespace corvane::toolkit_win32 {
@@ -112,13 +112,9 @@ class FramePeer : public CaptionedPeer<forms::Frame> {
 
  private:
   void PaintBox(HDC dc, RECT box) {
-    const HTHEME theme = toolkit_.Styles().AreThere() ? OpenThemeData(Handle(), L"BUTTON") : nullptr;
-    if (!theme) {
-      DrawEdge(dc, &box, EDGE_ETCHED, BF_RECT);
-      return;
-    }
-    DrawThemeBackground(theme, dc, BP_GROUPBOX, shown_.IsActive() ? GBS_NORMAL : GBS_DISABLED, &box, nullptr);
-    CloseThemeData(theme);
+    const Theme theme(toolkit_, Handle(), L"BUTTON");
+    if (theme) return theme.Draw(dc, BP_GROUPBOX, shown_.IsActive() ? GBS_NORMAL : GBS_DISABLED, box);
+    DrawEdge(dc, &box, EDGE_ETCHED, BF_RECT);
   }
 
   int CaptionWidth(HDC dc) {

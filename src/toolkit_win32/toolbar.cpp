@@ -26,15 +26,16 @@ BYTE StyleOf(const forms::ToolButton& button) {
          (button.Style == ToolButtonStyle::DropDown ? BTNS_DROPDOWN : 0) | (button.Caption.empty() ? 0 : BTNS_SHOWTEXT);
 }
 
-// The pictures of a bar in the system's image lists: as they are, and faded for buttons that are disabled. Older
-// systems know no transparency of degrees: the pictures stand on the bar's own ground.
+// The pictures of a bar in the system's image lists: as they are, and faded for buttons that are disabled. Without
+// visual styles the lists know no degrees of transparency: there the pictures stand on the bar's own ground.
 class ButtonImages {
  public:
-  ButtonImages(Win32Toolkit& toolkit, int size)
-      : toolkit_(toolkit),
-        size_(size),
-        plain_(ImageList_Create(size, size, ILC_COLOR24, 0, 8)),
-        faded_(ImageList_Create(size, size, ILC_COLOR24, 0, 8)) {}
+  ButtonImages(Win32Toolkit& toolkit, int size) : toolkit_(toolkit), size_(size) {
+    const VisualStyles::Use styled(toolkit.Styles());
+    const UINT kind = toolkit.Styles().AreThere() ? ILC_COLOR32 | ILC_MASK : ILC_COLOR24;
+    plain_ = ImageList_Create(size, size, kind, 0, 8);
+    faded_ = ImageList_Create(size, size, ILC_COLOR24, 0, 8);
+  }
   ~ButtonImages() {
     ImageList_Destroy(plain_);
     ImageList_Destroy(faded_);
@@ -51,12 +52,14 @@ class ButtonImages {
     const auto found = std::find(pictures_.begin(), pictures_.end(), picture);
     if (found != pictures_.end()) return static_cast<int>(found - pictures_.begin());
     pictures_.push_back(picture);
-    Add(faded_, picture, true);
-    return Add(plain_, picture, false);
+    const VisualStyles::Use styled(toolkit_.Styles());
+    AddOnGround(faded_, picture, true);
+    if (!toolkit_.Styles().AreThere()) return AddOnGround(plain_, picture, false);
+    return ImageList_ReplaceIcon(plain_, -1, toolkit_.Pictures().IconOf(picture, {size_, size_}));
   }
 
  private:
-  int Add(HIMAGELIST list, const forms::PictureRef& picture, bool faded) {
+  int AddOnGround(HIMAGELIST list, const forms::PictureRef& picture, bool faded) {
     const HDC screen = GetDC(nullptr), dc = CreateCompatibleDC(screen);
     const HBITMAP bitmap = CreateCompatibleBitmap(screen, size_, size_);
     const HGDIOBJ before = SelectObject(dc, bitmap);
@@ -73,7 +76,7 @@ class ButtonImages {
 
   Win32Toolkit& toolkit_;
   int size_;
-  HIMAGELIST plain_, faded_;
+  HIMAGELIST plain_ = nullptr, faded_ = nullptr;
   std::vector<forms::PictureRef> pictures_;
 };
 
