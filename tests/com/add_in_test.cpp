@@ -242,29 +242,41 @@ TEST_F(AddInTest, ADisconnectionWhileAMessageIsOpen) {
   EXPECT_EQ(environment_.Held(), 0u);
 }
 
+// Presses OK in boxes of the add-in's title, from another thread.
+class BoxCloser {
+ public:
+  BoxCloser() : thread_(CreateThread(nullptr, 0, &Run, this, 0, nullptr)) {}
+  ~BoxCloser() { Stop(); }
+  bool HasClosedOne() {
+    Stop();
+    return closed_;
+  }
+
+ private:
+  static DWORD WINAPI Run(void* closer) {
+    auto& self = *static_cast<BoxCloser*>(closer);
+    for (int i = 0; i < 1000 && !self.done_; ++i, Sleep(10))
+      if (HWND box = FindWindowW(L"#32770", L"Corvane - 2000")) {
+        PostMessageW(box, WM_COMMAND, IDOK, 0);
+        self.closed_ = true;
+      }
+    return 0;
+  }
+  void Stop() {
+    done_ = true;
+    if (!thread_) return;
+    WaitForSingleObject(thread_, INFINITE);
+    CloseHandle(std::exchange(thread_, nullptr));
+  }
+  std::atomic<bool> done_ = false, closed_ = false;
+  HANDLE thread_;
+};
+
 TEST_F(AddInTest, AHomeThatCannotBeMadeIsToldInAPlainBox) {
   rooms_.fails = true;
-  std::atomic<bool> done = false, seen = false;
-  struct Flags {
-    std::atomic<bool>&done, &seen;
-  } flags{done, seen};
-  const HANDLE closer = CreateThread(
-      nullptr, 0,
-      [](void* given) -> DWORD {
-        Flags& flags = *static_cast<Flags*>(given);
-        for (int i = 0; i < 1000 && !flags.done; ++i, Sleep(10)) {
-          const HWND box = FindWindowW(L"#32770", L"Corvane - 2000");
-          if (box) flags.seen = true;
-          if (box) PostMessageW(box, WM_COMMAND, IDOK, 0);
-        }
-        return 0;
-      },
-      &flags, 0, nullptr);
+  BoxCloser closer;
   Connect();
-  done = true;
-  WaitForSingleObject(closer, INFINITE);
-  CloseHandle(closer);
-  EXPECT_TRUE(seen);
+  EXPECT_TRUE(closer.HasClosedOne());
   EXPECT_EQ(add_in_->Current(), nullptr);
   Disconnect();
 }
