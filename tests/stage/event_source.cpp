@@ -192,7 +192,7 @@ std::unique_ptr<host::Subscription> BindClick(EventSource& source) {
     arguments[2].vt = VT_DISPATCH;
     arguments[2].pdispVal = clicked.Get();
     DISPPARAMS parameters{arguments, nullptr, 3, 0};
-    source.Raise(kClick, parameters);
+    source.Raise(source.TheStage().types ? TypeLibrary::kClick : DISPID(kClick), parameters);
     cancel = flags[0] != VARIANT_FALSE;
     handled = flags[1] != VARIANT_FALSE;
   });
@@ -202,7 +202,7 @@ std::unique_ptr<host::Subscription> BindBuild(EventSource& source) {
   auto& events = *std::static_pointer_cast<host::VBBuildEvents>(source.Target());
   return events.OnEnterRunMode([&source] {
     DISPPARAMS none{};
-    source.Raise(kEnterRunMode, none);
+    source.Raise(source.TheStage().types ? TypeLibrary::kEnterRunMode : DISPID(kEnterRunMode), none);
   });
 }
 

@@ -26,13 +26,34 @@ Handler HandlerOf(const Member& member, WORD flags) {
 
 }  // namespace
 
-HRESULT Raise(const Failure& failure, EXCEPINFO* exception) {
+namespace {
+
+// What the latest call whose text is deferred failed with.
+Failure deferred;
+
+void FillIn(const Failure& failure, EXCEPINFO& exception) {
+  exception.scode = failure.code;
+  exception.bstrSource = SysAllocString(L"Stage");
+  exception.bstrDescription = NewBstr(failure.text);
+}
+
+HRESULT CALLBACK FillInDeferred(EXCEPINFO* exception) {
+  exception->pfnDeferredFillIn = nullptr;
+  FillIn(deferred, *exception);
+  return S_OK;
+}
+
+}  // namespace
+
+HRESULT Raise(const Failure& failure, EXCEPINFO* exception, bool defer_text) {
   if (!failure.IsError()) return failure.code;
-  if (exception != nullptr) {
-    *exception = {};
-    exception->scode = failure.code;
-    exception->bstrSource = SysAllocString(L"Stage");
-    exception->bstrDescription = NewBstr(failure.text);
+  if (exception == nullptr) return DISP_E_EXCEPTION;
+  *exception = {};
+  if (defer_text) {
+    deferred = failure;
+    exception->pfnDeferredFillIn = &FillInDeferred;
+  } else {
+    FillIn(failure, *exception);
   }
   return DISP_E_EXCEPTION;
 }
@@ -67,6 +88,8 @@ HRESULT Published::QueryInterface(REFIID id, void** object) {
   if (IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_IDispatch)) {
     AddRef();
     *object = static_cast<IDispatch*>(this);
+  } else if (stage_.types && &table_ == &TableOf<host::Events>() && IsEqualIID(id, kEvents2)) {
+    *object = static_cast<IDispatch*>(new Published(stage_, target_, TableOfLaterEvents()));
   } else {
     *object = More(id);
   }
@@ -86,25 +109,29 @@ ULONG Published::Release() {
 }
 
 HRESULT Published::GetTypeInfoCount(UINT* count) {
-  if (count) *count = 0;
+  if (count) *count = stage_.types && stage_.types->TypeOf(table_.name) ? 1 : 0;
   return S_OK;
 }
 
-HRESULT Published::GetTypeInfo(UINT, LCID, ITypeInfo** info) {
-  if (info) *info = nullptr;
-  return DISP_E_BADINDEX;
+HRESULT Published::GetTypeInfo(UINT index, LCID, ITypeInfo** info) {
+  if (info == nullptr) return E_POINTER;
+  *info = stage_.types && index == 0 ? stage_.types->TypeOf(table_.name).Detach() : nullptr;
+  return *info ? S_OK : DISP_E_BADINDEX;
+}
+
+bool Published::IsMissing(const Member& member) const {
+  return Book().Lacks(table_.name + "." + member.name) || (stage_.types && member.is_of_later_interface);
 }
 
 const Member* Published::ByName(const wchar_t* name) const {
   for (const Member& member : table_.members)
-    if (_wcsicmp(Wide(member.name).c_str(), name) == 0 && !Book().Lacks(table_.name + "." + member.name))
-      return &member;
+    if (_wcsicmp(Wide(member.name).c_str(), name) == 0 && !IsMissing(member)) return &member;
   return nullptr;
 }
 
 const Member* Published::ByNumber(DISPID id) const {
   for (const Member& member : table_.members)
-    if (member.id == id && !Book().Lacks(table_.name + "." + member.name)) return &member;
+    if (member.id == id && !IsMissing(member)) return &member;
   return nullptr;
 }
 
@@ -127,7 +154,7 @@ HRESULT Published::Invoke(DISPID id, REFIID iid, LCID, WORD flags, DISPPARAMS* p
   const Member* member = ByNumber(id);
   const std::string name = table_.name + "." + (member ? member->name : std::to_string(id));
   const auto failure = Book().Enter(name);
-  if (failure) return Raise(*failure, exception);
+  if (failure) return Raise(*failure, exception, stage_.defers_error_texts);
   if (table_.of_project && born_ <= stage_.ClosedBefore()) return static_cast<HRESULT>(DISP_E_BADCALLEE);
   if (member == nullptr) return DISP_E_MEMBERNOTFOUND;
   const auto keep = ComPointer<Published>::Shared(this);  // the call may let go of the last reference
@@ -153,7 +180,7 @@ HRESULT Published::Answer(const Member& member, WORD flags, DISPPARAMS& paramete
     call.MoveResultTo(result);
     return S_OK;
   } catch (const host::Error& error) {
-    return Raise(Failure::Error(error.Number(), error.Description()), exception);
+    return Raise(Failure::Error(error.Number(), error.Description()), exception, stage_.defers_error_texts);
   } catch (const BadArguments& bad) {
     if (bad_argument) *bad_argument = static_cast<UINT>(parameters.cArgs - 1 - bad.position);
     return bad.code;

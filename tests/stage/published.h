@@ -37,6 +37,7 @@ class Published : public IDispatch {
   Ledger& Book() const;
 
  private:
+  bool IsMissing(const Member& member) const;
   const Member* ByName(const wchar_t* name) const;
   const Member* ByNumber(DISPID id) const;
   HRESULT Answer(const Member& member, WORD flags, DISPPARAMS& parameters, VARIANT* result, EXCEPINFO* exception,
@@ -53,6 +54,6 @@ class Published : public IDispatch {
 Published* NewPublished(Stage& stage, const std::shared_ptr<void>& target, const ObjectTable& table);
 
 // Puts the Error into [exception], where there is one; returns the code of the call.
-HRESULT Raise(const Failure& failure, EXCEPINFO* exception);
+HRESULT Raise(const Failure& failure, EXCEPINFO* exception, bool defer_text = false);
 
 }  // namespace corvane::stage

@@ -217,6 +217,35 @@ TEST_F(Publishing, RunModeIsToldThroughItsOwnNumber) {
   point->Unadvise(cookie);
 }
 
+TEST_F(Publishing, TextsOfErrorsMayComeLater) {
+  stage.defers_error_texts = true;
+  Late code = Code();
+  code.Get("Lines", {V(99L), V(1L)});
+  EXPECT_EQ(static_cast<unsigned long>(code.Last().error), 0x800A0009u);
+  EXPECT_EQ(code.Last().text, "Subscript out of range");
+}
+
+TEST_F(Publishing, ALibraryOfTypesTellsTheNumbersOfEvents) {
+  stage.types = std::make_unique<TypeLibrary>();
+  Late events = Root().Get("Events").Object();
+  events.IdOf("VBBuildEvents");
+  EXPECT_EQ(events.Last().code, DISP_E_UNKNOWNNAME);
+  ComPointer<IDispatch> later;
+  ASSERT_EQ(events.Object()->QueryInterface(kEvents2, later.OutVoid()), S_OK);
+  Late source = Late(later).Get("VBBuildEvents").Object();
+  ComPointer<ITypeInfo> type, told;
+  ComPointer<ITypeLib> library;
+  UINT position = 0;
+  ASSERT_EQ(source.Object()->GetTypeInfo(0, LOCALE_USER_DEFAULT, type.Out()), S_OK);
+  ASSERT_EQ(type->GetContainingTypeLib(library.Out(), &position), S_OK);
+  ASSERT_EQ(library->GetTypeInfoOfGuid(kBuildEvents, told.Out()), S_OK);
+  std::wstring name = L"EnterRunMode";
+  LPOLESTR names = name.data();
+  MEMBERID id = 0;
+  ASSERT_EQ(told->GetIDsOfNames(&names, 1, &id), S_OK);
+  EXPECT_EQ(id, TypeLibrary::kEnterRunMode);
+}
+
 TEST_F(Publishing, ValuesOfPropertiesGoBothWays) {
   Late controls = Components().Get("Item", {"frmMain"}).Object().Get("Designer").Object().Get("VBControls").Object();
   Late label = controls.Get("Add", {V("VB.Label")}).Object();

@@ -1,9 +1,10 @@
 #include "tests/stage/resources.h"
 
 #include <cstdint>
-#include <psapi.h>
 #include <vector>
 #include <windows.h>
+// Behind it, as it needs it.
+#include <psapi.h>
 
 namespace corvane::stage {
 

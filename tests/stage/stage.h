@@ -9,6 +9,7 @@
 #include "tests/stage/com_pointer.h"
 #include "tests/stage/ledger.h"
 #include "tests/stage/published.h"
+#include "tests/stage/type_library.h"
 
 namespace corvane::stage {
 
@@ -22,6 +23,11 @@ class Stage {
   Ledger ledger;
   const std::shared_ptr<environment::Environment> environment;
   const HWND main_window;
+
+  // What is fetched of a failed call's text only when it is asked for.
+  bool defers_error_texts = false;
+  // A library of types, with numbers of its own for events and VBBuildEvents in an interface of their own. Null: none.
+  std::unique_ptr<TypeLibrary> types;
 
   // The VBE.
   ComPointer<IDispatch> Root();

@@ -19,6 +19,8 @@ struct Member {
   int required, allowed;
   // Those that it does not offer are null.
   Handler get, method, put;
+  // An environment with a library of types has it in an interface of its own.
+  bool is_of_later_interface = false;
 };
 
 struct ObjectTable {
@@ -30,5 +32,8 @@ struct ObjectTable {
 // One for each interface of the host contract.
 template <class T>
 const ObjectTable& TableOf();
+
+// Events as their later interface.
+const ObjectTable& TableOfLaterEvents();
 
 }  // namespace corvane::stage

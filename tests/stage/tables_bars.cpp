@@ -64,11 +64,17 @@ const ObjectTable& TableOf<CommandBarControl>() {
 
 template <>
 const ObjectTable& TableOf<Events>() {
-  static const ObjectTable table = {"Events",
-                                    {
-                                        Get("CommandBarEvents", 0xcd, kForward<Events, &Events::CommandBarEvents>, 1),
-                                        Get("VBBuildEvents", 0xd2, kForward<Events, &Events::VBBuildEvents>),
-                                    }};
+  static const ObjectTable table = {
+      "Events",
+      {
+          Get("CommandBarEvents", 0xcd, kForward<Events, &Events::CommandBarEvents>, 1),
+          {"VBBuildEvents", 0xd2, 0, 0, kForward<Events, &Events::VBBuildEvents>, nullptr, nullptr, true},
+      }};
+  return table;
+}
+
+const ObjectTable& TableOfLaterEvents() {
+  static const ObjectTable table = {"Events2", {Get("VBBuildEvents", 0xd2, kForward<Events, &Events::VBBuildEvents>)}};
   return table;
 }
 
