@@ -1,6 +1,7 @@
 #include "tests/stage/installed_library.h"
 
 #include <algorithm>
+#include <objbase.h>
 #include <vector>
 
 namespace corvane::stage {
@@ -34,6 +35,38 @@ void RemoveFolder(const std::wstring& folder) {
   RemoveDirectoryW(folder.c_str());
 }
 
+// Windows looks up classes among those of the user first. Wine 8 knows the machine's alone: there the user's are put
+// among them.
+constexpr wchar_t kClasses[] = L"Software\\Classes\\";
+constexpr const wchar_t* kOurClasses[] = {L"corvane.Connect", L"CLSID\\{8C3B7E52-4D1F-4B7A-9E65-2F0C61A7D94B}"};
+
+bool SeesClassesOfTheUser() {
+  constexpr wchar_t kProbe[] = L"corvane.StageProbe", kAnyClass[] = L"{00020424-0000-0000-C000-000000000046}";
+  const std::wstring key = std::wstring(kClasses) + kProbe;
+  RegSetKeyValueW(HKEY_CURRENT_USER, (key + L"\\CLSID").c_str(), nullptr, REG_SZ, kAnyClass, sizeof(kAnyClass));
+  CLSID found;
+  const bool seen = SUCCEEDED(CLSIDFromProgID(kProbe, &found));
+  RegDeleteTreeW(HKEY_CURRENT_USER, key.c_str());
+  return seen;
+}
+
+void RemoveClasses() {
+  for (const wchar_t* name : kOurClasses) RegDeleteTreeW(HKEY_LOCAL_MACHINE, (std::wstring(kClasses) + name).c_str());
+}
+
+void CopyClasses() {
+  RemoveClasses();
+  for (const wchar_t* name : kOurClasses) {
+    const std::wstring path = std::wstring(kClasses) + name;
+    HKEY from = nullptr, to = nullptr;
+    if (RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, KEY_READ, &from) != ERROR_SUCCESS) continue;
+    if (RegCreateKeyExW(HKEY_LOCAL_MACHINE, path.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &to, nullptr) == 0)
+      RegCopyTreeW(from, nullptr, to);
+    RegCloseKey(from);
+    RegCloseKey(to);
+  }
+}
+
 }  // namespace
 
 std::wstring ProgramFolder() {
@@ -63,6 +96,17 @@ InstalledLibrary::~InstalledLibrary() {
   Unregister();
   RemoveFolder(folder_);
   RemoveDirectoryW(folder_.substr(0, folder_.rfind(L'\\')).c_str());
+}
+
+HRESULT InstalledLibrary::Register() {
+  const HRESULT code = CallEntry("DllRegisterServer");
+  if (!SeesClassesOfTheUser()) CopyClasses();
+  return code;
+}
+
+HRESULT InstalledLibrary::Unregister() {
+  if (!SeesClassesOfTheUser()) RemoveClasses();
+  return CallEntry("DllUnregisterServer");
 }
 
 HRESULT InstalledLibrary::CallEntry(const char* entry) const {

@@ -17,8 +17,8 @@ class InstalledLibrary {
 
   const std::wstring& Folder() const { return folder_; }
   std::wstring Path() const { return folder_ + L"\\corvane.dll"; }
-  HRESULT Register() { return CallEntry("DllRegisterServer"); }
-  HRESULT Unregister() { return CallEntry("DllUnregisterServer"); }
+  HRESULT Register();
+  HRESULT Unregister();
   // Whether the process has it loaded.
   bool IsLoaded() const { return GetModuleHandleW(Path().c_str()) != nullptr; }
 

@@ -8,7 +8,7 @@ namespace {
 
 constexpr wchar_t kClass[] = L"StageMainWindow";
 constexpr UINT_PTR kWakeUp = 1;
-constexpr DWORD kSettled = 60;  // milliseconds without a message
+constexpr DWORD kSettled = 20;  // milliseconds without a message
 
 ACCEL kAccelerators[] = {{FVIRTKEY, VK_F5, 1}, {FVIRTKEY | FCONTROL, 'F', 2}, {FVIRTKEY, VK_DELETE, 3}};
 
@@ -75,7 +75,7 @@ void MainWindow::Dispatch(MSG& message) {
 // The timer ends the wait for a message that never comes.
 bool MainWindow::PumpUntil(const std::function<bool()>& done, DWORD milliseconds) {
   const DWORD start = GetTickCount();
-  SetTimer(window_, kWakeUp, 10, nullptr);
+  SetTimer(window_, kWakeUp, 5, nullptr);
   bool reached = done();
   MSG message;
   while (!reached && GetTickCount() - start < milliseconds && GetMessageW(&message, nullptr, 0, 0) > 0) {

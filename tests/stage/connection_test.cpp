@@ -1,0 +1,244 @@
+// The library inside the environment: connection and disconnection, its two controls, its window, its setting.
+#include "tests/stage/story.h"
+
+namespace corvane::stage {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+
+class Connecting : public Story {};
+
+TEST_F(Connecting, TheLibraryIsLoadedFromTheRegistryAndUnloadedAgain) {
+  ASSERT_EQ(host.Create(), S_OK);
+  EXPECT_NE(GetModuleHandleW(L"corvane.dll"), nullptr);
+  AddInHost::FreeLibraries();
+  EXPECT_NE(GetModuleHandleW(L"corvane.dll"), nullptr) << "while its object lives";
+  host.Release();
+  AddInHost::FreeLibraries();
+  EXPECT_EQ(GetModuleHandleW(L"corvane.dll"), nullptr);
+}
+
+TEST_F(Connecting, AtStartupTheControlsComeAndTheWindowDoesNot) {
+  SetSetting("1");
+  ASSERT_EQ(host.StartUp(), S_OK);
+  window.Settle();
+  EXPECT_NE(FindOnBar("Standard", kButton), nullptr);
+  EXPECT_NE(FindOnBar("Add-Ins", kMenuItem), nullptr);
+  EXPECT_THAT(ShownWindows(window.Handle()), IsEmpty());
+  EXPECT_THAT(boxes.Boxes(), IsEmpty());
+}
+
+TEST_F(Connecting, TheButtonStandsInFrontOfTheLastOneWithItsFace) {
+  const auto before = Captions("Standard");
+  ASSERT_EQ(host.StartUp(), S_OK);
+  const auto after = Captions("Standard");
+  ASSERT_EQ(after.size(), before.size() + 1);
+  EXPECT_EQ(after.back(), before.back());
+  EXPECT_EQ(after[after.size() - 2], kButton);
+  const environment::BarControl* button = FindOnBar("Standard", kButton);
+  EXPECT_EQ(button->type, 1);
+  EXPECT_TRUE(button->visible);
+  EXPECT_EQ(button->state, 0);
+  EXPECT_EQ(button->style, 1);
+  ASSERT_NE(button->face, nullptr);
+  EXPECT_EQ(button->face->bytes.substr(0, 2), "BM");
+  EXPECT_GT(button->face->bytes.size(), 100u);
+  EXPECT_EQ(Captions("Add-Ins").back(), kMenuItem);
+}
+
+TEST_F(Connecting, LoadedByTheUserTheWindowComesWhereItWasOpenLast) {
+  SetSetting("1");
+  ASSERT_EQ(host.LoadByUser(), S_OK);
+  window.Settle();
+  EXPECT_NE(Explorer(), nullptr);
+}
+
+TEST_F(Connecting, LoadedByTheUserWithoutTheSettingTheWindowStaysAway) {
+  ASSERT_EQ(host.LoadByUser(), S_OK);
+  window.Settle();
+  EXPECT_EQ(Explorer(), nullptr);
+  EXPECT_NE(FindOnBar("Standard", kButton), nullptr);
+}
+
+TEST_F(Connecting, TheExternalModeMakesNoControlsAndShowsTheWindowAtOnce) {
+  const auto standard = Captions("Standard"), add_ins = Captions("Add-Ins");
+  ASSERT_EQ(host.Create(), S_OK);
+  ASSERT_EQ(host.OnConnection(kExternal), S_OK);
+  window.Settle();
+  EXPECT_NE(Explorer(), nullptr);
+  EXPECT_EQ(Captions("Standard"), standard);
+  EXPECT_EQ(Captions("Add-Ins"), add_ins);
+}
+
+TEST_F(Connecting, TheCommandLineModeMakesTheControlsAndIgnoresTheSetting) {
+  SetSetting("1");
+  ASSERT_EQ(host.Create(), S_OK);
+  ASSERT_EQ(host.OnConnection(kCommandLine), S_OK);
+  window.Settle();
+  EXPECT_NE(FindOnBar("Standard", kButton), nullptr);
+  EXPECT_EQ(Explorer(), nullptr);
+}
+
+TEST_F(Connecting, TheButtonOpensTheExplorerWithItsListsFilled) {
+  ASSERT_EQ(host.StartUp(), S_OK);
+  ASSERT_TRUE(Click("Standard", kButton));
+  ASSERT_NE(Explorer(), nullptr);
+  EXPECT_EQ(CaptionOf(Explorer()), std::string(kExplorer) + " ( C:\\Projects\\stockroom\\Stockroom.vbp )");
+  EXPECT_EQ(stage.ledger.Calls("VBComponents.Item"), 23) << "each component was asked for";
+  EXPECT_GT(stage.ledger.Calls("CodeModule.ProcOfLine"), 3) << "and the procedures of one of them";
+  EXPECT_EQ(boxes.Menus(), 0);
+}
+
+TEST_F(Connecting, EnterOnAProcedureGoesToItsCode) {
+  ASSERT_EQ(host.StartUp(), S_OK);
+  Click("Standard", kButton);
+  ASSERT_EQ(environment->ActiveCodePane(), nullptr);
+  Press(Components(), {VK_DOWN, VK_DOWN, VK_DOWN});
+  Press(Procedures(), {VK_HOME, VK_DOWN, VK_DOWN, VK_RETURN});
+  ASSERT_NE(environment->ActiveCodePane(), nullptr);
+  EXPECT_EQ(environment->ActiveCodePane()->CodeModule()->Name(), "BinMap");
+  EXPECT_GT(environment->ActiveCodePane()->GetSelection().start_line, 1);
+}
+
+TEST_F(Connecting, ButtonThenButtonOffersNoMenu) {
+  ASSERT_EQ(host.StartUp(), S_OK);
+  Click("Standard", kButton);
+  Click("Standard", kButton);
+  EXPECT_EQ(boxes.Menus(), 0);
+}
+
+TEST_F(Connecting, TheMenuItemOffersTheMenuFromItsSecondUseOn) {
+  ASSERT_EQ(host.StartUp(), S_OK);
+  ASSERT_TRUE(Click("Add-Ins", kMenuItem));
+  EXPECT_NE(Explorer(), nullptr);
+  EXPECT_EQ(boxes.Menus(), 0);
+  ASSERT_TRUE(Click("Add-Ins", kMenuItem));
+  EXPECT_EQ(boxes.Menus(), 1);
+}
+
+TEST_F(Connecting, ButtonThenMenuItemOffersTheMenu) {
+  ASSERT_EQ(host.StartUp(), S_OK);
+  Click("Standard", kButton);
+  Click("Add-Ins", kMenuItem);
+  EXPECT_EQ(boxes.Menus(), 1);
+}
+
+TEST_F(Connecting, RunModeMinimisesTheWindow) {
+  ASSERT_EQ(host.StartUp(), S_OK);
+  Click("Standard", kButton);
+  const HWND explorer = Explorer();
+  ASSERT_NE(explorer, nullptr);
+  environment->EnterRunMode();
+  window.Settle();
+  EXPECT_TRUE(IsIconic(explorer));
+}
+
+TEST_F(Connecting, RunModeWithAWindowNeverOpenedShowsNothing) {
+  ASSERT_EQ(host.StartUp(), S_OK);
+  environment->EnterRunMode();
+  window.Settle();
+  EXPECT_THAT(ShownWindows(window.Handle()), IsEmpty());
+  ASSERT_TRUE(Click("Standard", kButton));
+  EXPECT_NE(Explorer(), nullptr);
+  EXPECT_FALSE(IsIconic(Explorer()));
+}
+
+TEST_F(Connecting, AnEnvironmentWithoutBuildEventsIsServedWithoutThem) {
+  environment->SetOffersBuildEvents(false);
+  ASSERT_EQ(host.StartUp(), S_OK);
+  EXPECT_THAT(boxes.Boxes(), IsEmpty());
+  Click("Standard", kButton);
+  environment->EnterRunMode();
+  window.Settle();
+  ASSERT_NE(Explorer(), nullptr);
+  EXPECT_FALSE(IsIconic(Explorer()));
+}
+
+TEST_F(Connecting, DisconnectingRemovesControlsAndWindow) {
+  const auto standard = Captions("Standard"), add_ins = Captions("Add-Ins");
+  ASSERT_EQ(host.StartUp(), S_OK);
+  Click("Standard", kButton);
+  EXPECT_EQ(host.UnloadByUser(), S_OK);
+  EXPECT_EQ(Captions("Standard"), standard);
+  EXPECT_EQ(Captions("Add-Ins"), add_ins);
+  EXPECT_EQ(Explorer(), nullptr);
+  environment->EnterRunMode();
+}
+
+TEST_F(Connecting, DisconnectingWithTheWindowOpenStores1) {
+  ASSERT_EQ(host.StartUp(), S_OK);
+  Click("Standard", kButton);
+  EXPECT_EQ(host.ShutDown(), S_OK);
+  EXPECT_EQ(Setting(), "1");
+}
+
+TEST_F(Connecting, DisconnectingWithoutItStores0) {
+  SetSetting("1");
+  ASSERT_EQ(host.StartUp(), S_OK);
+  EXPECT_EQ(host.ShutDown(), S_OK);
+  EXPECT_EQ(Setting(), "0");
+}
+
+TEST_F(Connecting, DisconnectingWithTheWindowClosedByEscStores1) {
+  ASSERT_EQ(host.StartUp(), S_OK);
+  Click("Standard", kButton);
+  ASSERT_NE(Explorer(), nullptr);
+  ASSERT_TRUE(GetFocus() == Explorer() || IsChild(Explorer(), GetFocus()));
+  Press(Procedures(), {VK_ESCAPE});
+  EXPECT_EQ(Explorer(), nullptr);
+  EXPECT_EQ(host.ShutDown(), S_OK);
+  EXPECT_EQ(Setting(), "1");
+}
+
+TEST_F(Connecting, DisconnectingWithTheWindowClosedByItsBoxStores1) {
+  ASSERT_EQ(host.StartUp(), S_OK);
+  Click("Standard", kButton);
+  PostMessageW(Explorer(), WM_CLOSE, 0, 0);
+  window.Settle();
+  EXPECT_EQ(Explorer(), nullptr);
+  ASSERT_TRUE(Click("Standard", kButton)) << "it opens again";
+  EXPECT_NE(Explorer(), nullptr);
+  PostMessageW(Explorer(), WM_CLOSE, 0, 0);
+  window.Settle();
+  EXPECT_EQ(host.ShutDown(), S_OK);
+  EXPECT_EQ(Setting(), "1");
+}
+
+TEST_F(Connecting, AConnectionThatFailsHalfWayIsEndedLikeAnyOther) {
+  environment->Bars().RemoveBar("Standard");
+  ASSERT_EQ(host.StartUp(), S_OK);
+  EXPECT_THAT(boxes.Boxes(), ElementsAre("Object variable or With block variable not set"));
+  EXPECT_NE(FindOnBar("Add-Ins", kMenuItem), nullptr);
+  EXPECT_EQ(host.ShutDown(), S_OK);
+  EXPECT_EQ(FindOnBar("Add-Ins", kMenuItem), nullptr);
+  EXPECT_EQ(Setting(), "0");
+}
+
+TEST_F(Connecting, ItIsLoadedAndUnloadedManyTimesInOneSession) {
+  for (int i = 0; i < 5; ++i) {
+    ASSERT_EQ(host.LoadByUser(), S_OK) << i;
+    ASSERT_TRUE(Click("Standard", kButton)) << i;
+    ASSERT_NE(Explorer(), nullptr) << i;
+    ASSERT_EQ(host.UnloadByUser(), S_OK) << i;
+    ASSERT_EQ(Explorer(), nullptr) << i;
+    AddInHost::FreeLibraries();
+    EXPECT_EQ(GetModuleHandleW(L"corvane.dll"), nullptr) << i;
+    EXPECT_EQ(stage.ledger.references, 0) << i;
+  }
+}
+
+TEST_F(Connecting, TheEnvironmentsKeysAreItsOwnWhileItHasTheFocus) {
+  ASSERT_EQ(host.StartUp(), S_OK);
+  Click("Standard", kButton);
+  SetForegroundWindow(window.Handle());
+  SetFocus(window.CodeArea());
+  PostKey(window.CodeArea(), VK_F5);
+  window.Settle();
+  EXPECT_THAT(window.commands, ElementsAre(1));
+}
+
+}  // namespace
+}  // namespace corvane::stage
