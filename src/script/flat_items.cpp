@@ -1,0 +1,79 @@
+#include "script/flat_items.h"
+
+#include "runtime/error.h"
+#include "runtime/strings.h"
+#include "runtime/variant.h"
+#include "script/marks.h"
+
+namespace corvane::script {
+
+namespace {
+
+constexpr size_t kHeader = 7;
+
+bool IsDigits(std::string_view field) {
+  return field.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+// By the rules of conversion: "-1" and " 7" are numbers, "2x" is none.
+std::optional<long> NumberOf(std::string_view field) {
+  if (IsDigits(field)) {
+    long number = 0;
+    for (const char digit : field) number = number * 10 + (digit - '0');
+    return number;
+  }
+  std::optional<long> number;
+  runtime::PassOverErrors([&] { number = runtime::ToLong(std::string(field)); });
+  return number;
+}
+
+FlatItem ReadLabel(std::string_view flat) {
+  FlatItem label;
+  const size_t colon = flat.find(':');
+  label.kind = colon == std::string_view::npos ? FlatItem::kOpenLabel : FlatItem::kLabel;
+  if (label.kind == FlatItem::kOpenLabel) return label;
+  label.text = flat.substr(1, colon);
+  label.size = colon + 1;
+  return label;
+}
+
+}  // namespace
+
+std::string FormatField2(long number) {
+  const std::string digits = std::to_string(number);
+  return digits.size() < 2 ? "0" + digits : digits;
+}
+
+std::string FormatField3(size_t number) {
+  const std::string digits = std::to_string(number);
+  return digits.size() < 3 ? std::string(3 - digits.size(), '0') + digits : digits;
+}
+
+void AppendStatement(std::string& flat, long eq, long paren, std::string_view text) {
+  flat += FormatField2(eq);
+  flat += FormatField2(paren);
+  flat += FormatField3(text.size());
+  flat += text;
+}
+
+void AppendLabel(std::string& flat, std::string_view name) {
+  flat += labelMark;
+  flat += name;
+  flat += ':';
+}
+
+FlatItem ReadFlatItem(std::string_view flat) {
+  if (flat.front() == labelMark) return ReadLabel(flat);
+  if (flat.size() < kHeader) return {};
+  const std::optional<long> length = NumberOf(flat.substr(4, 3));
+  if (!length || *length < 0) return {};
+  const std::string_view text = flat.substr(kHeader, static_cast<size_t>(*length));
+  return {FlatItem::kStatement, NumberOf(flat.substr(0, 2)), NumberOf(flat.substr(2, 2)), text, kHeader + text.size()};
+}
+
+std::string_view WithoutSeparators(std::string_view flat) {
+  const size_t front = flat.find_first_not_of(": ");
+  return front == std::string_view::npos ? std::string_view() : flat.substr(front);
+}
+
+}  // namespace corvane::script
