@@ -1,0 +1,41 @@
+#include <ctime>
+#include <gtest/gtest.h>
+
+#include "tests/script/translated.h"
+
+namespace corvane::script {
+namespace {
+
+std::string Repeated(const std::string& code, int count) {
+  std::string all;
+  for (int i = 0; i < count; ++i) all += code;
+  return all;
+}
+
+double Seconds(const std::string& code) {
+  const std::clock_t start = std::clock();
+  const Translated translated(code);
+  EXPECT_FALSE(translated.flat.empty());
+  return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+}
+
+// A bound for slow machines and sanitizers; in a release build it takes a small part of it.
+TEST(TranslatorSpeed, TenThousandLinesAreTranslatedAtOnce) {
+  const std::string code =
+      "total=total+f(\"a\",i)\nIF total>100 THEN x=\"big\"\nFOR i=1 TO 10\nPRINT(i & \" of \" & n)\n"
+      "NEXT\nIF a THEN\nb=1 ' note\nELSE\nc=2\nEND IF\n";
+  EXPECT_LT(Seconds(Repeated(code, 1000)), 0.5);
+}
+
+// With a copy of the rest at each statement this would take hours.
+TEST(TranslatorSpeed, GrowsWithTheLengthOfThePiece) {
+  EXPECT_LT(Seconds(Repeated("FOR i=1 TO 10\nx=x+1\nNEXT\n", 100'000)), 20);
+}
+
+TEST(TranslatorSpeed, APieceOfHalvesOfConstructsIsNoSlower) {
+  for (const char* code : {"VAR(x=1\n", "x=[[a\n", "x=1 'a\n", "y=/*", "f(\n"})
+    EXPECT_LT(Seconds(Repeated("abc=1\n", 10) + Repeated(code, 20'000) + Repeated("abc=12345\n", 20'000)), 10) << code;
+}
+
+}  // namespace
+}  // namespace corvane::script
