@@ -44,8 +44,10 @@ explorer::frmAddIn& Connect::Window() {
   return *form;
 }
 
-// A disconnection may come during a yield of the window's own handlers, which still go on behind it.
+// A disconnection may come during a yield of the window's own handlers, which still go on behind it, but find no
+// environment any more.
 void Connect::LetGoOfWindow() {
+  if (form) form->VBInstance = nullptr;
   if (form && toolkit.IsInAct()) left.push_back(std::move(form));
   form.reset();
 }
@@ -163,6 +165,7 @@ void Connect::AddinInstance_OnDisconnection(DisconnectMode) {
     if (form && form->IsLoaded()) form->Unload();
   });
   LetGoOfWindow();
+  mcbToolButton = mcbMenuItem = nullptr;
 }
 
 }  // namespace corvane::addin
