@@ -50,7 +50,7 @@ const Row kRows[] = {
     {STG_E_MEDIUMFULL, 61, nullptr},
 };
 
-constexpr long kLastNumber = 0xFFFF;
+constexpr long kLastNumber = 0xFFFF, kAutomationError = 440;
 
 const Row* FindRow(HRESULT code) {
   for (const Row& row : kRows)
@@ -87,7 +87,8 @@ std::string DescriptionOf(HRESULT code) {
 host::Error ErrorOf(HRESULT code, const EXCEPINFO* told) {
   if (code != DISP_E_EXCEPTION || !told) return host::Error(NumberOf(code), DescriptionOf(code));
   // An object gives a code or, in the old way, a number.
-  const HRESULT cause = told->scode ? told->scode : MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, told->wCode);
+  const WORD number = told->wCode ? told->wCode : kAutomationError;
+  const HRESULT cause = told->scode ? told->scode : MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, number);
   const std::string text = TextOf(told->bstrDescription);
   return host::Error(NumberOf(cause), text.empty() ? DescriptionOf(cause) : text);
 }

@@ -122,10 +122,20 @@ TEST_F(DispatchTest, ACodeWithoutANumberHasTheTextOfTheSystem) {
             "Wrong number of arguments or invalid property assignment");
 }
 
-TEST_F(DispatchTest, OldObjectsTellANumberAloneAndFillItInLate) {
-  EXCEPINFO told{};
-  told.wCode = 380;
-  EXPECT_EQ(com::ErrorOf(DISP_E_EXCEPTION, &told).Number(), 380);
+TEST_F(DispatchTest, AnObjectMayTellWhatFailedLate) {
+  object_->FailLate("Name");
+  try {
+    Object().Get(L"Name");
+    FAIL();
+  } catch (const host::Error& error) {
+    EXPECT_EQ(error.Number(), 380);
+    EXPECT_EQ(error.Description(), "told late");
+  }
+}
+
+TEST_F(DispatchTest, AnObjectThatTellsNothingIsError440) {
+  object_->FailWith("Name", DISP_E_EXCEPTION);
+  EXPECT_EQ(ErrorOf([&] { Object().Get(L"Name"); }), 440);
 }
 
 TEST_F(DispatchTest, ErrorsGoBackAsCodes) {
@@ -133,6 +143,13 @@ TEST_F(DispatchTest, ErrorsGoBackAsCodes) {
   EXPECT_EQ(CodeOf(host::Error(E_FAIL)), E_FAIL);
   EXPECT_EQ(CodeOf(host::Error(0)), E_FAIL);
   EXPECT_EQ(com::ErrorOf(CodeOf(host::Error(32813))).Number(), 32813);
+}
+
+TEST_F(DispatchTest, AClassOfTheSystemIsMadeByItsName) {
+  Dispatch dictionary = CreateObject("Scripting.Dictionary");
+  dictionary.Call(L"Add", std::string("key"), 7L);
+  EXPECT_EQ(dictionary.Get(L"Count").ToLong(), 1);
+  EXPECT_EQ(dictionary.GetDefault(std::string("key")).ToLong(), 7);
 }
 
 TEST_F(DispatchTest, AClassThatIsNotThereIsError429) {

@@ -53,6 +53,12 @@ std::string InWords(const std::string& member, WORD how, const DISPPARAMS& param
   return verb + member + "(" + text + ")";
 }
 
+HRESULT STDAPICALLTYPE TellLate(EXCEPINFO* told) {
+  told->wCode = 380;
+  told->bstrDescription = NewBstr("told late");
+  return S_OK;
+}
+
 }  // namespace
 
 ScriptedObject* Scripted(IDispatch* object) {
@@ -99,6 +105,12 @@ void ScriptedObject::Fail(const std::string& name, long number, const std::strin
 
 void ScriptedObject::FailWith(const std::string& member, HRESULT code) {
   Of(member).code = code;
+}
+
+void ScriptedObject::FailLate(const std::string& name) {
+  Member& member = Of(name);
+  member.code = DISP_E_EXCEPTION;
+  member.told.pfnDeferredFillIn = &TellLate;
 }
 
 void ScriptedObject::Do(const std::string& member, std::function<void(DISPPARAMS&)> act) {

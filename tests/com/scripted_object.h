@@ -28,6 +28,8 @@ class ScriptedObject : public IDispatch, public IConnectionPointContainer {
   // [number]: an Error of the environment, with [text].
   void Fail(const std::string& member, long number, const std::string& text = {});
   void FailWith(const std::string& member, HRESULT code);
+  // Says what failed only when it is asked to: Error 380, "told late".
+  void FailLate(const std::string& member);
   // Runs before the answer; arguments as COM hands them over, from the last to the first.
   void Do(const std::string& member, std::function<void(DISPPARAMS&)> act);
   // Properties that take no object by reference.
