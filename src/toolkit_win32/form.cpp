@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "toolkit_win32/colors.h"
+#include "toolkit_win32/key_hook.h"
 #include "toolkit_win32/keys.h"
 #include "toolkit_win32/texts.h"
 #include "toolkit_win32/toolkit.h"
@@ -64,7 +65,7 @@ forms::Rect FrameOfForm(const Win32Toolkit& toolkit, const forms::Form& form) {
 }
 
 FormWindowPeer::FormWindowPeer(Win32Toolkit& toolkit, forms::Form& form)
-    : toolkit_(toolkit), form_(form), window_(toolkit, *this), menus_(toolkit, form, window_) {
+    : toolkit_(toolkit), form_(form), window_(toolkit, *this), menus_(toolkit, form, window_), keys_(toolkit.Keys()) {
   const Win32Toolkit::ByCode by_code(toolkit_);
   const Border& border = BorderOf(form);
   window_.Create({nullptr, border.style | WS_CLIPCHILDREN, border.extended}, toolkit.HostWindow());
@@ -107,8 +108,10 @@ void FormWindowPeer::ShowPlace() {
   const RECT wanted = toolkit_.Scale().PixelsOf(form_.Place());
   POINT corner{wanted.left, wanted.top};
   if (!IsPlaced(form_)) corner = MiddleOfScreen(toolkit_.HostWindow(), {WidthOf(wanted), HeightOf(wanted)});
+  placing_ = true;
   SetWindowPos(Handle(), nullptr, corner.x, corner.y, WidthOf(wanted), HeightOf(wanted),
                SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+  placing_ = false;
 }
 
 int FormWindowPeer::ShownState() const {
@@ -197,7 +200,7 @@ LRESULT FormWindowPeer::OnMessage(Window& window, const Message& message) {
     case WM_SYSKEYUP: {
       const Life self = life_;
       toolkit_.Guard([&] { form_.UserKeyUp(static_cast<int>(message.w), ShiftNow()); });
-      if (self.expired()) return 0;
+      if (self.expired() || KeyHook::EndsUsedAlt(toolkit_, message)) return 0;
       break;
     }
     default: {
@@ -218,6 +221,11 @@ bool FormWindowPeer::OnKey(Window&, int key_code, int shift) {
     if (!used && !self.expired() && !form_.ActiveControl()) used = form_.UserKeyDown(key_code, shift);
   });
   return used || self.expired();
+}
+
+// Nobody could end a modal form that is not there.
+void FormWindowPeer::OnGone(Window&) {
+  if (modal_) modal_->End();
 }
 
 bool FormWindowPeer::CharacterTyped(wchar_t character) {
@@ -257,10 +265,9 @@ void FormWindowPeer::WindowResized(WPARAM how) {
   if (showing_ == 0 && state != form_.WindowState()) {
     toolkit_.Guard([&] { form_.UserWindowState(state); });
   }
-  if (self.expired() || how == SIZE_MINIMIZED) return;
+  if (self.expired() || placing_ || how == SIZE_MINIMIZED) return;
   const RECT wanted = toolkit_.Scale().PixelsOf(form_.Place()), now = OuterPlace(Handle());
   if (WidthOf(now) == WidthOf(wanted) && HeightOf(now) == HeightOf(wanted)) return;
-  if (showing_ > 0 && state == forms::vbNormal) return;
   toolkit_.Guard(
       [&] { form_.UserResize(toolkit_.Scale().TwipsOf(WidthOf(now)), toolkit_.Scale().TwipsOf(HeightOf(now))); });
 }

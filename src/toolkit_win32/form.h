@@ -10,6 +10,7 @@
 
 namespace corvane::toolkit_win32 {
 
+class KeyHook;
 class Win32Toolkit;
 
 // What the border of a form takes, in twips, with a menu bar's height where it shows one.
@@ -33,6 +34,7 @@ class FormWindowPeer : public forms::FormPeer, public MessageSink {
  private:
   LRESULT OnMessage(Window& window, const Message& message) override;
   bool OnKey(Window& window, int key_code, int shift) override;
+  void OnGone(Window& window) override;
   bool CharacterTyped(wchar_t character);
   void Activated(bool active);
   void WindowResized(WPARAM how);
@@ -52,7 +54,9 @@ class FormWindowPeer : public forms::FormPeer, public MessageSink {
   MenuBar menus_;
   std::shared_ptr<ModalRun> modal_;
   std::shared_ptr<const void> life_ = std::make_shared<int>();
+  std::shared_ptr<KeyHook> keys_;  // while there are windows of ours
   int showing_ = 0;
+  bool placing_ = false;
 };
 
 }  // namespace corvane::toolkit_win32

@@ -1,7 +1,7 @@
 #include "toolkit_win32/key_hook.h"
 
 #include "toolkit_win32/keys.h"
-#include "toolkit_win32/window.h"
+#include "toolkit_win32/toolkit.h"
 
 namespace corvane::toolkit_win32 {
 namespace {
@@ -20,7 +20,13 @@ bool GoesDown(UINT id) {
 
 // The key as the logic sees it, then as the native window does.
 void Run(const MSG& message, Window& window) {
-  if (GoesDown(message.message) && window.Sink().OnKey(window, static_cast<int>(message.wParam), ShiftNow())) return;
+  if (GoesDown(message.message)) {
+    Win32Toolkit& toolkit = window.Toolkit();
+    const std::shared_ptr<WindowYard> yard = toolkit.Yard();
+    const bool used = window.Sink().OnKey(window, static_cast<int>(message.wParam), ShiftNow());
+    if (!yard->IsClosed()) toolkit.SetAltUsed(used && message.message == WM_SYSKEYDOWN);
+    if (used) return;
+  }
   if (!IsWindow(message.hwnd)) return;
   TranslateMessage(&message);
   DispatchMessageW(&message);
@@ -41,6 +47,12 @@ LRESULT CALLBACK Hear(int code, WPARAM removed, LPARAM l) {
 }
 
 }  // namespace
+
+bool KeyHook::EndsUsedAlt(Win32Toolkit& toolkit, const Message& message) {
+  if (message.w != VK_MENU || !toolkit.AltUsed()) return false;
+  toolkit.SetAltUsed(false);
+  return true;
+}
 
 KeyHook::KeyHook() : hook_(SetWindowsHookExW(WH_GETMESSAGE, Hear, nullptr, GetCurrentThreadId())) {}
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "toolkit_win32/win.h"
+#include "toolkit_win32/window.h"
 
 namespace corvane::toolkit_win32 {
 
@@ -12,6 +13,10 @@ class KeyHook {
   ~KeyHook();
   KeyHook(const KeyHook&) = delete;
   KeyHook& operator=(const KeyHook&) = delete;
+
+  // Whether [message] lets Alt go behind a key that was used up with it: the system, which never saw that key, would
+  // open the menu bar.
+  static bool EndsUsedAlt(Win32Toolkit& toolkit, const Message& message);
 
  private:
   HHOOK hook_;

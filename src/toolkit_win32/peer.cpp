@@ -5,6 +5,7 @@
 #include "forms/form.h"
 #include "toolkit_win32/colors.h"
 #include "toolkit_win32/form.h"
+#include "toolkit_win32/key_hook.h"
 #include "toolkit_win32/keys.h"
 #include "toolkit_win32/texts.h"
 #include "toolkit_win32/toolkit.h"
@@ -177,6 +178,7 @@ LRESULT ControlPeer::OnMessage(Window& window, const Message& message) {
     case WM_KEYUP:
     case WM_SYSKEYUP:
       if (!Tell([&] { control_.UserKeyUp(static_cast<int>(message.w), ShiftNow()); })) return 0;
+      if (KeyHook::EndsUsedAlt(toolkit_, message)) return 0;
       break;
     case WM_SETFOCUS:
       if (!FocusCame()) return 0;

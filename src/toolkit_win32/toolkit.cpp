@@ -57,13 +57,11 @@ Win32Toolkit::Win32Toolkit(HINSTANCE instance, int dpi)
       fonts_(scale_.Dpi()),
       metrics_(*this),
       tips_(*this),
-      desk_(*this, *this),
-      key_hook_(std::make_unique<KeyHook>()) {
+      desk_(*this, *this) {
   desk_.Create({nullptr}, HWND_MESSAGE);
 }
 
 Win32Toolkit::~Win32Toolkit() {
-  key_hook_.reset();
   posted_.clear();
   clocks_.clear();
   desk_.Release();
@@ -181,7 +179,7 @@ void Win32Toolkit::SetScreenPointer(int mouse_pointer) {
 
 UINT_PTR Win32Toolkit::StartClock(unsigned milliseconds, std::function<void()> tick) {
   const UINT_PTR number = ++last_clock_;
-  clocks_[number] = std::move(tick);
+  clocks_[number].tick = std::move(tick);
   SetTimer(desk_.Handle(), number, milliseconds, nullptr);
   return number;
 }
@@ -189,6 +187,23 @@ UINT_PTR Win32Toolkit::StartClock(unsigned milliseconds, std::function<void()> t
 void Win32Toolkit::StopClock(UINT_PTR number) {
   KillTimer(desk_.Handle(), number);
   clocks_.erase(number);
+}
+
+// It may stop itself, or end the toolkit; what it waits for does not bring its next turn.
+void Win32Toolkit::Tick(UINT_PTR number) {
+  const auto found = clocks_.find(number);
+  if (found == clocks_.end() || found->second.runs) return;
+  found->second.runs = true;
+  const std::shared_ptr<WindowYard> yard = yard_;
+  std::function<void()>(found->second.tick)();
+  if (yard->IsClosed()) return;
+  if (const auto still = clocks_.find(number); still != clocks_.end()) still->second.runs = false;
+}
+
+std::shared_ptr<KeyHook> Win32Toolkit::Keys() {
+  std::shared_ptr<KeyHook> keys = keys_.lock();
+  if (!keys) keys_ = keys = std::make_shared<KeyHook>();
+  return keys;
 }
 
 void Win32Toolkit::Post(Life wanted_by, std::function<void()> act) {
@@ -210,8 +225,7 @@ LRESULT Win32Toolkit::OnMessage(Window& window, const Message& message) {
     return 0;
   }
   if (message.id == WM_TIMER) {
-    const auto found = clocks_.find(message.w);
-    if (found != clocks_.end()) std::function<void()>(found->second)();  // a copy: it may stop itself
+    Tick(message.w);
     return 0;
   }
   return window.Default(message);

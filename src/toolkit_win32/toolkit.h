@@ -60,7 +60,12 @@ class Win32Toolkit : public forms::Toolkit, private MessageSink {
   ToolTips& Tips() { return tips_; }
   const VisualStyles& Styles() const { return styles_; }
   const std::shared_ptr<WindowYard>& Yard() const { return yard_; }
-  // Calls [tick] each [milliseconds] until it is stopped by its number.
+  // Takes keys out of message loops while somebody holds it.
+  std::shared_ptr<KeyHook> Keys();
+  // Whether a key was used up while Alt is down: its release opens no menu then.
+  bool AltUsed() const { return alt_used_; }
+  void SetAltUsed(bool value) { alt_used_ = value; }
+  // Calls [tick] each [milliseconds] until it is stopped by its number; not while it runs.
   UINT_PTR StartClock(unsigned milliseconds, std::function<void()> tick);
   void StopClock(UINT_PTR number);
   // Runs [act] at the next turn of the message loop, if [wanted_by] is still there.
@@ -98,11 +103,17 @@ class Win32Toolkit : public forms::Toolkit, private MessageSink {
     std::function<void()> act;
   };
   std::vector<Posted> posted_;
-  std::map<UINT_PTR, std::function<void()>> clocks_;
+  struct Clock {
+    std::function<void()> tick;
+    bool runs = false;
+  };
+  void Tick(UINT_PTR number);
+  std::map<UINT_PTR, Clock> clocks_;
   UINT_PTR last_clock_ = 0;
   ToolTips tips_;
   Window desk_;  // never shown: clocks and posted acts come to it
-  std::unique_ptr<KeyHook> key_hook_;
+  std::weak_ptr<KeyHook> keys_;
+  bool alt_used_ = false;
 };
 
 }  // namespace corvane::toolkit_win32

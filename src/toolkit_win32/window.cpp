@@ -80,8 +80,12 @@ struct WindowSlot {
 
   static LRESULT End(WindowSlot* slot, HWND handle, WPARAM w, LPARAM l) {
     const std::unique_ptr<WindowSlot> last(slot);
-    if (slot->window) slot->window->handle_ = nullptr, slot->window->slot_ = nullptr;
     slot->yard->Forget(handle);
+    if (Window* window = slot->window) {
+      window->handle_ = nullptr;
+      window->slot_ = nullptr;
+      window->sink_.OnGone(*window);
+    }
     RemovePropW(handle, kSlotOfWindow);
     SetWindowLongPtrW(handle, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(slot->original));
     return CallWindowProcW(slot->original, handle, WM_NCDESTROY, w, l);
@@ -135,6 +139,7 @@ LRESULT Window::Tell(const Message& message) {
 }
 
 LRESULT Window::Default(const Message& message) {
+  if (!slot_) return 0;
   return CallWindowProcW(slot_->original, message.window, message.id, message.w, message.l);
 }
 

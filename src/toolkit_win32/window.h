@@ -32,6 +32,8 @@ class MessageSink {
   virtual std::optional<LRESULT> OnNotice(Window&, const Message&) { return std::nullopt; }
   // A key goes down, before anything is made of it: true when it was used up.
   virtual bool OnKey(Window&, int /*key_code*/, int /*shift*/) { return false; }
+  // The system destroyed the window, with its parent or its owner.
+  virtual void OnGone(Window&) {}
 };
 
 // Tells whether what it was made for is still there.

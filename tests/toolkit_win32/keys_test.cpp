@@ -139,6 +139,42 @@ TEST_F(InForeignLoop, AnAccessKeyOpensAMenuOfTheBar) {
   EXPECT_EQ(told, (Log{"Open"}));
 }
 
+// The system never sees the letter: to it Alt alone goes down and up.
+TEST_F(InForeignLoop, LettingAltGoFirstOpensNoMenu) {
+  Focus(txt);
+  bool opened = false;
+  const UINT_PTR clock = toolkit.StartClock(10, [&] {
+    if (!(ThreadState().flags & GUI_INMENUMODE)) return;
+    opened = true;
+    EndMenu();
+  });
+  const auto post = [&](UINT id, int key, LPARAM state) {
+    PostMessageW(GetFocus(), id, static_cast<WPARAM>(key), 1 | state);
+    host.Run();
+  };
+  constexpr LPARAM kAlt = 1 << 29, kUp = static_cast<LPARAM>(0xC0000000);
+  {
+    const Held alt({VK_MENU});
+    post(WM_SYSKEYDOWN, VK_MENU, kAlt);
+    post(WM_SYSKEYDOWN, 'O', kAlt);
+  }
+  post(WM_SYSKEYUP, VK_MENU, kUp);
+  post(WM_KEYUP, 'O', kUp);
+  PumpFor(60);
+  EXPECT_FALSE(opened);
+  EXPECT_EQ(told, (Log{"OK"}));
+  Focus(txt);
+  host.Key('Q');
+  {
+    const Held alt({VK_MENU});
+    post(WM_SYSKEYDOWN, VK_MENU, kAlt);
+  }
+  post(WM_SYSKEYUP, VK_MENU, kUp);
+  PumpFor(60);
+  toolkit.StopClock(clock);
+  EXPECT_TRUE(opened) << "Alt alone goes to the menu bar";
+}
+
 TEST_F(InForeignLoop, LettersAreTypedAndEnterBreaksLines) {
   cmdOK.SetDefault(false);
   Focus(memo);

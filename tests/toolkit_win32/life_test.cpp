@@ -9,6 +9,13 @@ using Log = std::vector<std::string>;
 struct Handles {
   DWORD user = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
   DWORD gdi = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+  DWORD kernel = KernelHandles();
+
+  static DWORD KernelHandles() {
+    DWORD count = 0;
+    GetProcessHandleCount(GetCurrentProcess(), &count);
+    return count;
+  }
 };
 
 std::vector<HWND> WindowsOfThread() {
@@ -59,6 +66,7 @@ TEST(Life, TwoHundredWindowsLeaveNoHandle) {
   const Handles after;
   EXPECT_EQ(after.user, before.user);
   EXPECT_EQ(after.gdi, before.gdi);
+  EXPECT_EQ(after.kernel, before.kernel);
 }
 
 TEST(Life, ToolkitsComeAndGoWithoutATrace) {
@@ -73,6 +81,7 @@ TEST(Life, ToolkitsComeAndGoWithoutATrace) {
   const Handles after;
   EXPECT_EQ(after.user, before.user);
   EXPECT_EQ(after.gdi, before.gdi);
+  EXPECT_EQ(after.kernel, before.kernel);
   EXPECT_EQ(WindowsOfThread().size(), windows);
 }
 
@@ -153,6 +162,23 @@ TEST_F(InTheMiddle, ATimerThatUnloadsItsFormStops) {
   Show();
   PumpFor(80);
   EXPECT_EQ(ticks, 1);
+}
+
+TEST_F(InTheMiddle, ATimerThatYieldsIsNotEnteredAgain) {
+  forms::Timer timer(form, "timer");
+  int ticks = 0, inside = 0, deepest = 0;
+  timer.Tick = [&] {
+    ++ticks;
+    deepest = std::max(deepest, ++inside);
+    PumpFor(40);
+    --inside;
+  };
+  timer.SetInterval(10);
+  Show();
+  PumpFor(150);
+  timer.SetEnabled(false);
+  EXPECT_GE(ticks, 2);
+  EXPECT_EQ(deepest, 1);
 }
 
 TEST_F(InTheMiddle, AFaultInAnyActStaysInside) {

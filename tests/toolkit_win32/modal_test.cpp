@@ -182,6 +182,20 @@ TEST_F(Modal, AToolkitThatGoesInTheLoopTakesItsWindowsAlong) {
   EXPECT_FALSE(IsWindow(window));
 }
 
+TEST_F(Modal, AWindowDestroyedByItsOwnerEndsTheLoop) {
+  const HWND owner = CreateWindowExW(0, L"STATIC", L"Owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200, nullptr,
+                                     nullptr, nullptr, nullptr);
+  SetActiveWindow(owner);
+  Dialog dialog(*toolkit);
+  Soon([&] { DestroyWindow(owner); });
+  dialog.ShowModal();
+  EXPECT_EQ(toolkit->WindowOf(dialog), nullptr);
+  EXPECT_TRUE(IsWindowEnabled(host));
+  dialog.SetCaption("gone"), dialog.Move(0, 0, 3000, 3000), dialog.txt.SetText("gone"), dialog.SetWindowState(2);
+  dialog.Unload();
+  EXPECT_EQ(faults, Log{});
+}
+
 TEST_F(Modal, TheEndOfTheProgramEndsTheLoopAndIsPassedOn) {
   Dialog dialog(*toolkit);
   Soon([] { PostQuitMessage(7); });

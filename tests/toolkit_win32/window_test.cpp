@@ -115,6 +115,17 @@ TEST_F(Window, StatesGoBothWays) {
   EXPECT_EQ(form.WindowState(), forms::vbNormal);
 }
 
+TEST_F(Window, RestoredByCodeHasItsNormalSizeAgain) {
+  Show();
+  form.SetWindowState(forms::vbMaximized);
+  Pump();
+  ASSERT_GT(form.Width(), 6000);
+  form.SetWindowState(forms::vbNormal);
+  Pump();
+  EXPECT_EQ(form.Width(), 6000);
+  EXPECT_EQ(form.Height(), 4500);
+}
+
 TEST_F(Window, MaximisedFromTheStartHasItsSizeInTheFirstResize) {
   form.SetWindowState(forms::vbMaximized);
   forms::Twips width = 0;
