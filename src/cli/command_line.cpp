@@ -198,6 +198,16 @@ class CommandLine {
         });
       };
     });
+    CLI::App* flat = inspect->add_subcommand("flat", "the flat program of a piece of script code, as JSON");
+    flat->add_option("FILE", path_, "code, as it stands between <% and %>")->required();
+    AddCodePage(flat, "1252");
+    flat->callback([this] {
+      run_ = [this] {
+        return WithFile(command_, path_, [this](const std::string& bytes) {
+          return InspectFlat(bytes, command_.code_page, command_.out);
+        });
+      };
+    });
   }
 
   Command command_;

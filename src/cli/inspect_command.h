@@ -1,4 +1,5 @@
-// `corvane inspect lines FILE`: the lines of a file as a list stores them.
+// `corvane inspect`: what the system makes of a file. `lines`: as a list stores it; `flat`: as the script engine
+// translates it.
 #pragma once
 
 #include <ostream>
@@ -11,6 +12,11 @@ namespace corvane::cli {
 // decides case and the way to UTF-8; 0 leaves the one in force. Returns 0.
 int InspectLines(const std::string& file_bytes, const std::string& mode, int list_role, int code_page,
                  std::ostream& out);
+
+// Takes the file's text as one piece of script code over many lines, cleans and translates it with fresh counters, and
+// writes one line of JSON: {"flat":"...","messages":["..."]}, all marks in the flat program. Each error is answered
+// with OK, so that the translation goes on. Returns 0.
+int InspectFlat(const std::string& file_bytes, int code_page, std::ostream& out);
 
 // Whether text of that Windows code page can be read.
 bool IsKnownCodePage(int number);

@@ -48,6 +48,35 @@ TEST(InspectLines, TheCodePagesOfWindowsAreKnown) {
   for (int page : {0, -1, 437, 1249, 1259, 65001}) EXPECT_FALSE(IsKnownCodePage(page)) << page;
 }
 
+std::string Flat(const std::string& bytes) {
+  std::ostringstream out;
+  EXPECT_EQ(InspectFlat(bytes, 1252, out), 0);
+  return out.str();
+}
+
+TEST(InspectFlat, GivesTheFlatProgramOfAPiece) {
+  EXPECT_EQ(Flat("x=1\r\nIF a THEN\r\nEND IF\r\n"),
+            "{\"flat\":\"0200004x=1:0000010IF a THEN:-100007GO _I1:::0000007END IF:\\u0001_I1:::\",\"messages\":[]}\n");
+}
+
+TEST(InspectFlat, GoesOnBehindEachError) {
+  EXPECT_EQ(Flat("NEXT\nx=f(\ny=2"),
+            "{\"flat\":\"0200004y=2:::\",\"messages\":[\"NEXT: without For or While operators\","
+            "\"Brackets Error.\"]}\n");
+}
+
+TEST(InspectFlat, TakesCommentsOffFurtherLines) {
+  EXPECT_EQ(Flat("x=1\n' note\nREM note\ny=2 ' note\n"), "{\"flat\":\"0200004x=1:0200004y=2:::\",\"messages\":[]}\n");
+}
+
+TEST(InspectFlat, WritesUtf8ThroughTheCodePage) {
+  EXPECT_EQ(Flat("x=\"\xE4\""), "{\"flat\":\"0200007x=\\\"\xC3\xA4\\\"::::\",\"messages\":[]}\n");
+}
+
+TEST(InspectFlat, AnEmptyFileIsTwoColons) {
+  EXPECT_EQ(Flat(""), "{\"flat\":\"::\",\"messages\":[]}\n");
+}
+
 TEST(InspectLines, AnEmptyFileHasNoLines) {
   EXPECT_EQ(Inspect("", "vb"), "");
 }

@@ -22,7 +22,7 @@ const std::map<std::string, Rooms> kMayInclude = {
     {"explorer", {"runtime", "host", "forms", "codelist"}},
     {"addin", {"runtime", "host", "forms", "codelist", "explorer"}},
     {"environment", {"runtime", "host"}},
-    {"cli", {"runtime", "host", "forms", "codelist", "explorer", "environment"}},
+    {"cli", {"runtime", "host", "forms", "codelist", "script", "explorer", "environment"}},
     {"toolkit_qt", {"runtime", "forms"}},
     {"toolkit_win32", {"runtime", "host", "forms"}},
     {"com", {"runtime", "host", "forms", "codelist", "explorer", "addin", "toolkit_win32"}},
