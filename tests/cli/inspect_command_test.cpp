@@ -70,7 +70,7 @@ TEST(InspectFlat, TakesCommentsOffFurtherLines) {
 }
 
 TEST(InspectFlat, WritesUtf8ThroughTheCodePage) {
-  EXPECT_EQ(Flat("x=\"\xE4\""), "{\"flat\":\"0200007x=\\\"\xC3\xA4\\\"::::\",\"messages\":[]}\n");
+  EXPECT_EQ(Flat("x=\"\xE4\""), "{\"flat\":\"0200006x=\\\"\xC3\xA4\\\":::\",\"messages\":[]}\n");
 }
 
 TEST(InspectFlat, AnEmptyFileIsTwoColons) {
