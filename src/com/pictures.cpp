@@ -42,8 +42,7 @@ runtime::PictureRef BytesOf(IPicture& picture) {
   if (FAILED(picture.get_Type(&kind)) || kind == PICTYPE_NONE || kind == PICTYPE_UNINITIALIZED) return nullptr;
   const ComPointer<IStream> stream = NewStream({});
   LONG size = 0;
-  // The file it was loaded from, where it still has that.
-  Check(picture.SaveAsFile(stream.Get(), FALSE, &size));
+  Check(picture.SaveAsFile(stream.Get(), TRUE, &size));
   auto bytes = std::make_shared<runtime::Picture>();
   bytes->bytes.resize(static_cast<size_t>(size));
   const LARGE_INTEGER start{};

@@ -68,8 +68,7 @@ class Sink : public IDispatch {
   HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT*, EXCEPINFO*,
                                    UINT*) override {
     if (id != event_ || !parameters) return S_OK;
-    // The handler may end its own subscription, and with it the last reference to this object.
-    const ComPointer<Sink> alive(this);
+    // The handler may end its own subscription, and with it this object.
     const std::shared_ptr<EventHandler> handler = handler_;
     if (!handler) return S_OK;
     EventArguments arguments(*parameters);

@@ -138,7 +138,9 @@ TEST_F(AddInTest, ItConnectsAndDisconnectsAnyNumberOfTimes) {
 
 TEST_F(AddInTest, ASecondConnectionEndsTheFirst) {
   Connect();
+  TakeCalls();
   Connect();
+  EXPECT_EQ(TakeCalls().find("call delete(); call delete(); "), 0u);
   EXPECT_EQ(environment_.vbe->References(), 2u);
   Disconnect();
   Disconnect();

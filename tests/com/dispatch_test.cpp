@@ -52,10 +52,12 @@ TEST_F(DispatchTest, NothingIsError91) {
 TEST_F(DispatchTest, AnObjectMayLoseItsLastOtherReferenceInACall) {
   auto wrapped = As<host::Window>();
   object_->Answer("Close", Value());
-  object_->Do("Close", [&](DISPPARAMS&) { wrapped = nullptr; });
-  host::Window& window = *wrapped;
-  object_ = {};
-  window.Close();
+  object_->Do("Close", [&](DISPPARAMS&) {
+    wrapped = nullptr;
+    object_ = {};
+    EXPECT_EQ(ScriptedObject::Alive(), alive_before_ + 1) << "the call itself holds it";
+  });
+  wrapped->Close();
   EXPECT_EQ(ScriptedObject::Alive(), alive_before_);
 }
 

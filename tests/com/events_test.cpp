@@ -76,6 +76,19 @@ TEST_F(EventsTest, AHandlerMayUnbindItself) {
   EXPECT_FALSE(object_->sink);
 }
 
+TEST_F(EventsTest, AHandlerThatUnbindsItselfLivesToItsEnd) {
+  const auto token = std::make_shared<int>();
+  std::unique_ptr<host::Subscription> bound;
+  long owners = 0;
+  bound = As<host::VBBuildEvents>()->OnEnterRunMode([&, held = token] {
+    bound.reset();
+    owners = token.use_count();
+  });
+  object_->Raise(2, {});
+  EXPECT_EQ(owners, 2) << "the test's and the running handler's";
+  EXPECT_EQ(token.use_count(), 1);
+}
+
 TEST_F(EventsTest, WhatFailsInAHandlerStaysInside) {
   auto bound = Bind();
   act_ = [] { throw host::Error(5); };

@@ -118,7 +118,7 @@ void ScriptedObject::Do(const std::string& member, std::function<void(DISPPARAMS
 }
 
 HRESULT ScriptedObject::Raise(DISPID event, std::vector<VARIANT> last_to_first) {
-  const ComPointer<IDispatch> to = sink;
+  IDispatch* to = sink.Get();  // without a reference of the call's own
   if (!to) return CodeOf(host::Error(runtime::kObjectNotSet));
   DISPPARAMS parameters{last_to_first.data(), nullptr, static_cast<UINT>(last_to_first.size()), 0};
   return to->Invoke(event, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, nullptr, nullptr, nullptr);
@@ -164,7 +164,6 @@ HRESULT ScriptedObject::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID,
 
 HRESULT ScriptedObject::Invoke(DISPID id, REFIID, LCID, WORD how, DISPPARAMS* parameters, VARIANT* result,
                                EXCEPINFO* told, UINT*) {
-  const ComPointer<ScriptedObject> alive(this);
   std::string name;
   Member* member = Find(id, name);
   if (!member) return DISP_E_MEMBERNOTFOUND;
