@@ -30,7 +30,7 @@ class ListBoxPeer : public ControlPeer {
       view_.RowsChanged(LifeOfThis());
     }
     if (is(Property::List)) view_.RowsChanged(LifeOfThis());
-    if (is(Property::TopIndex)) view_.ScrollTo(list_.TopIndex());
+    if (is(Property::TopIndex) && !keeping_) view_.ScrollTo(list_.TopIndex());
     if (is(Property::ListIndex)) view_.Follow(list_.ListIndex());
     if (property != Property::List) view_.Repaint();
     if (is(Property::TopIndex, Property::ListIndex)) KeepTopIndex();
@@ -39,9 +39,13 @@ class ListBoxPeer : public ControlPeer {
   LRESULT OnOwnMessage(Window&, const Message& message) override { return view_.OnMessage(message); }
 
  private:
-  // What is shown on top is known here alone: a TopIndex on the last page and a row that was scrolled into view.
+  // What is shown on top is known here alone: a TopIndex on the last page and a row that was scrolled into view. Rows
+  // with boxes are higher than the control reckons: what is shown stays.
   void KeepTopIndex() {
-    if (view_.TopRow() != list_.TopIndex()) list_.SetTopIndex(view_.TopRow());
+    if (keeping_ || view_.TopRow() == list_.TopIndex()) return;
+    keeping_ = true;
+    list_.SetTopIndex(view_.TopRow());
+    keeping_ = false;
   }
   void Extend(long from, long to) {
     const int step = from < to ? 1 : -1;
@@ -52,6 +56,7 @@ class ListBoxPeer : public ControlPeer {
 
   forms::ListBox& list_;
   ListView view_;
+  bool keeping_ = false;
 };
 
 }  // namespace

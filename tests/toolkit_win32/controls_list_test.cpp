@@ -171,6 +171,19 @@ TEST_F(ListTest, CheckBoxesTickAndTheRestOfTheRowChooses) {
   EXPECT_TRUE(list.Selected(2));
 }
 
+TEST_F(ListTest, TheLastRowWithABoxCanBeReached) {
+  list.SetStyle(1);
+  Fill(100);
+  Show();
+  list.SetListIndex(99);
+  RECT row{}, client{};
+  Ask(LB_GETITEMRECT, 99, reinterpret_cast<LPARAM>(&row));
+  GetClientRect(WindowOf(list), &client);
+  EXPECT_LE(row.bottom, client.bottom);
+  list.SetTopIndex(10);
+  EXPECT_EQ(Ask(LB_GETTOPINDEX), 10);
+}
+
 TEST_F(ListTest, ManyRowsAreSelectedByControlAndShift) {
   list.SetMultiSelect(2);
   Fill(6);
