@@ -2,13 +2,11 @@
 
 #include <cstring>
 
-#include "runtime/error.h"
-#include "toolkit_win32/win.h"
+#include "toolkit_win32/pictures.h"
 
 namespace corvane::toolkit_win32 {
 namespace {
 
-constexpr long kFormatNotSupported = 461;
 constexpr WORD kFileMark = 0x4D42;  // "BM"
 constexpr DWORD kMostColors = 256;
 
@@ -54,10 +52,36 @@ std::string PackedBitmapOf(const runtime::PictureRef& picture) {
   const bool is_bitmap = ReadHeader(file, header) && header.bfType == kFileMark;
   const std::string_view packed = is_bitmap ? file.substr(sizeof header) : std::string_view();
   const size_t pixels = PixelsOf(packed);
-  if (pixels == 0) throw runtime::Error(kFormatNotSupported, "Specified format doesn't match format of data");
+  if (pixels == 0) return {};
   const size_t told = header.bfOffBits - sizeof header;
   const bool gap = header.bfOffBits > sizeof header && told > pixels && told < packed.size();
   return std::string(packed.substr(0, pixels)) + std::string(packed.substr(gap ? told : pixels));
+}
+
+std::string PaintedBitmapOf(PictureStore& pictures, const runtime::PictureRef& picture) {
+  const SIZE size = pictures.SizeOf(picture);
+  if (size.cx <= 0 || size.cy <= 0) return {};
+  BITMAPINFO info{};
+  info.bmiHeader.biSize = sizeof info.bmiHeader;
+  info.bmiHeader.biWidth = size.cx;
+  info.bmiHeader.biHeight = size.cy;
+  info.bmiHeader.biPlanes = 1;
+  info.bmiHeader.biBitCount = 32;
+  void* pixels = nullptr;
+  const HBITMAP bitmap = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &pixels, nullptr, 0);
+  if (!bitmap) return {};
+  const HDC dc = CreateCompatibleDC(nullptr);
+  const HGDIOBJ before = SelectObject(dc, bitmap);
+  const RECT whole{0, 0, size.cx, size.cy};
+  FillRect(dc, &whole, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+  pictures.Draw(dc, whole, picture);
+  GdiFlush();
+  std::string packed(reinterpret_cast<const char*>(&info.bmiHeader), sizeof info.bmiHeader);
+  packed.append(static_cast<const char*>(pixels), static_cast<size_t>(size.cx) * static_cast<size_t>(size.cy) * 4);
+  SelectObject(dc, before);
+  DeleteDC(dc);
+  DeleteObject(bitmap);
+  return packed;
 }
 
 runtime::PictureRef PictureOfPacked(std::string_view packed) {

@@ -8,8 +8,12 @@
 
 namespace corvane::toolkit_win32 {
 
-// Throws Error 461 for a picture that is no bitmap file.
+class PictureStore;
+
+// Of a bitmap file, byte for byte; empty for a picture that is none.
 std::string PackedBitmapOf(const runtime::PictureRef& picture);
+// Of a picture of any kind, on a white ground; empty for one that cannot be decoded.
+std::string PaintedBitmapOf(PictureStore& pictures, const runtime::PictureRef& picture);
 // Nothing for bytes that are no packed bitmap.
 runtime::PictureRef PictureOfPacked(std::string_view packed);
 

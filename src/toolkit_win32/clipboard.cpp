@@ -9,7 +9,7 @@
 namespace corvane::toolkit_win32 {
 namespace {
 
-constexpr long kCannotOpenClipboard = 521;
+constexpr long kFormatNotSupported = 461, kCannotOpenClipboard = 521;
 constexpr int kTries = 25;
 constexpr DWORD kBetweenTries = 10;  // milliseconds
 
@@ -72,6 +72,8 @@ class Opened {
 
 class SystemClipboard : public host::Clipboard {
  public:
+  explicit SystemClipboard(PictureStore& pictures) : pictures_(pictures) {}
+
   void Clear() override { Opened(owner_.Get()).Empty(); }
 
   std::string GetText() override {
@@ -93,7 +95,11 @@ class SystemClipboard : public host::Clipboard {
 
   void SetData(const runtime::PictureRef& picture) override {
     if (!picture) return Clear();
-    const std::string bitmap = PackedBitmapOf(picture);
+    std::string bitmap = PackedBitmapOf(picture);
+    if (bitmap.empty()) bitmap = PaintedBitmapOf(pictures_, picture);
+    if (bitmap.empty()) {
+      throw runtime::Error(kFormatNotSupported, "Specified format doesn't match format of data");
+    }
     Opened opened(owner_.Get());
     opened.Empty();
     opened.Put(CF_DIB, bitmap.data(), bitmap.size());
@@ -109,13 +115,14 @@ class SystemClipboard : public host::Clipboard {
   }
 
  private:
+  PictureStore& pictures_;
   OwnerWindow owner_;
 };
 
 }  // namespace
 
-std::unique_ptr<host::Clipboard> NewClipboard() {
-  return std::make_unique<SystemClipboard>();
+std::unique_ptr<host::Clipboard> NewClipboard(PictureStore& pictures) {
+  return std::make_unique<SystemClipboard>(pictures);
 }
 
 }  // namespace corvane::toolkit_win32

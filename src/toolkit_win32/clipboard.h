@@ -7,8 +7,10 @@
 
 namespace corvane::toolkit_win32 {
 
+class PictureStore;
+
 // A clipboard that another program keeps open is asked for again for a while; then a call throws Error 521. A picture
-// that is no bitmap cannot be decoded or an icon: Error 461.
-std::unique_ptr<host::Clipboard> NewClipboard();
+// that cannot be decoded is Error 461. [pictures] must outlive it.
+std::unique_ptr<host::Clipboard> NewClipboard(PictureStore& pictures);
 
 }  // namespace corvane::toolkit_win32

@@ -62,10 +62,14 @@ std::string FolderOfThisCode() {
 }  // namespace
 
 struct Win32Services::State {
-  explicit State(Win32Toolkit& toolkit) : prompts(NewPrompts(app, toolkit)), screen(toolkit), loop(toolkit) {}
+  explicit State(Win32Toolkit& toolkit)
+      : clipboard(NewClipboard(toolkit.Pictures())),
+        prompts(NewPrompts(app, toolkit)),
+        screen(toolkit),
+        loop(toolkit) {}
 
   host::App app{FolderOfThisCode(), kTitle, ""};
-  std::unique_ptr<host::Clipboard> clipboard = NewClipboard();
+  std::unique_ptr<host::Clipboard> clipboard;
   std::unique_ptr<host::Prompts> prompts;
   std::unique_ptr<host::Settings> settings = NewSettings();
   ToolkitScreen screen;

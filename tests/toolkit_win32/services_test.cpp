@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "forms/icons.h"
 #include "runtime/error.h"
 #include "tests/toolkit_win32/scratch_folder.h"
 #include "tests/toolkit_win32/window_fixture.h"
@@ -144,9 +145,26 @@ TEST_F(ClipboardTest, ClearAndNothingEmptyIt) {
   EXPECT_EQ(services.Clipboard.GetText(), "");
 }
 
+TEST_F(ClipboardTest, AnIconIsPaintedOnWhite) {
+  const forms::PictureRef icon = forms::Icon("search");
+  const SIZE size = toolkit.Pictures().SizeOf(icon);
+  services.Clipboard.SetData(icon);
+  const runtime::PictureRef got = services.Clipboard.GetData();
+  ASSERT_TRUE(got);
+  EXPECT_EQ(toolkit.Pictures().SizeOf(got).cx, size.cx);
+  const std::string pixels = got->bytes.substr(sizeof(BITMAPFILEHEADER) + sizeof(BITMAPINFOHEADER));
+  const auto is_white = [&](size_t pixel) { return pixels.compare(pixel * 4, 3, "\xFF\xFF\xFF") == 0; };
+  size_t white = 0;
+  for (size_t pixel = 0; pixel < pixels.size() / 4; ++pixel) white += is_white(pixel) ? 1 : 0;
+  EXPECT_TRUE(is_white(0));
+  EXPECT_LT(white, pixels.size() / 4 - 20);
+  EXPECT_GT(white, 50u);
+}
+
 TEST_F(ClipboardTest, WhatIsNoBitmapIsError461AndLeavesWhatIsThere) {
   services.Clipboard.SetText("text");
-  for (std::string bytes : {std::string("GIF89a"), std::string("BM"), std::string("BM") + std::string(60, '\xFF')})
+  for (std::string bytes :
+       {std::string("GIF89a"), std::string("<svg/>"), std::string("BM"), std::string("BM") + std::string(60, '\xFF')})
     EXPECT_EQ(NumberOf([&] { services.Clipboard.SetData(PictureOf(bytes)); }), 461) << bytes;
   EXPECT_EQ(services.Clipboard.GetText(), "text");
 }
@@ -254,6 +272,29 @@ TEST_F(PromptsTest, AMessageBoxBelongsToTheActiveFormAndKeepsTheOthersFromInput)
   EXPECT_EQ(title, L"Titel \u00FC");
   EXPECT_EQ(GetActiveWindow(), WindowOf(form));
   other.Unload();
+}
+
+TEST_F(PromptsTest, WithoutAFormTheBoxBelongsToTheEnvironmentsWindow) {
+  const HWND host = CreateWindowExW(0, L"STATIC", L"host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 50, 50, 300, 200, nullptr,
+                                    nullptr, nullptr, nullptr);
+  toolkit.SetHostWindow(host);
+  Pump();
+  for (bool input : {false, true}) {
+    HWND owner = nullptr;
+    bool enabled = true;
+    InDialog([&](HWND dialog) {
+      owner = GetWindow(dialog, GW_OWNER);
+      enabled = IsWindowEnabled(host) != FALSE;
+      PostMessageW(dialog, WM_COMMAND, IDOK, 0);
+    });
+    input ? static_cast<void>(services.Prompts.InputBox("text")) : static_cast<void>(services.Prompts.MsgBox("text"));
+    EXPECT_EQ(owner, host);
+    EXPECT_FALSE(enabled);
+    EXPECT_TRUE(IsWindowEnabled(host));
+    EXPECT_EQ(GetActiveWindow(), host);
+  }
+  toolkit.SetHostWindow(nullptr);
+  DestroyWindow(host);
 }
 
 TEST_F(PromptsTest, EscInAMessageBoxIsCancel) {
