@@ -1,22 +1,12 @@
 // Nothing is left behind: windows, handles, classes, hooks; and what goes in the middle of its own message.
+#include "tests/stage/resources.h"
 #include "tests/toolkit_win32/window_fixture.h"
 
 namespace corvane::toolkit_win32 {
 namespace {
 
 using Log = std::vector<std::string>;
-
-struct Handles {
-  DWORD user = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
-  DWORD gdi = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
-  DWORD kernel = KernelHandles();
-
-  static DWORD KernelHandles() {
-    DWORD count = 0;
-    GetProcessHandleCount(GetCurrentProcess(), &count);
-    return count;
-  }
-};
+using stage::Resources;
 
 std::vector<HWND> WindowsOfThread() {
   std::vector<HWND> found;
@@ -61,9 +51,9 @@ void ShowAndUnload(Win32Toolkit& toolkit) {
 TEST(Life, TwoHundredWindowsLeaveNoHandle) {
   Win32Toolkit toolkit;
   for (int i = 0; i < 3; ++i) ShowAndUnload(toolkit);
-  const Handles before;
+  const Resources before = Resources::Now();
   for (int i = 0; i < 200; ++i) ShowAndUnload(toolkit);
-  const Handles after;
+  const Resources after = Resources::Now();
   EXPECT_EQ(after.user, before.user);
   EXPECT_EQ(after.gdi, before.gdi);
   EXPECT_EQ(after.kernel, before.kernel);
@@ -75,10 +65,10 @@ TEST(Life, ToolkitsComeAndGoWithoutATrace) {
     ShowAndUnload(toolkit);
   };
   for (int i = 0; i < 3; ++i) one();
-  const Handles before;
+  const Resources before = Resources::Now();
   const size_t windows = WindowsOfThread().size();
   for (int i = 0; i < 50; ++i) one();
-  const Handles after;
+  const Resources after = Resources::Now();
   EXPECT_EQ(after.user, before.user);
   EXPECT_EQ(after.gdi, before.gdi);
   EXPECT_EQ(after.kernel, before.kernel);
