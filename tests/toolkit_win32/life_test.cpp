@@ -160,7 +160,7 @@ TEST_F(InTheMiddle, ATimerThatYieldsIsNotEnteredAgain) {
   timer.Tick = [&] {
     ++ticks;
     deepest = std::max(deepest, ++inside);
-    PumpFor(40);
+    if (inside < 3) PumpFor(40);
     --inside;
   };
   timer.SetInterval(10);
