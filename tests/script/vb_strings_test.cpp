@@ -1,0 +1,99 @@
+#include "script/vb_strings.h"
+
+#include <gtest/gtest.h>
+
+#include "script/arguments.h"
+#include "script/marks.h"
+
+namespace corvane::script {
+namespace {
+
+TEST(VbStrings, TextsBecomeSource) {
+  const struct {
+    std::string text, source;
+  } cases[] = {
+      {"", "\"\""},
+      {"abc", "\"abc\""},
+      {"say \"x\"", "\"say \"\"x\"\"\""},
+      {"\"abc", "abc\""},
+      {"a\r\nb", "\"a\" + vbCrLf _\r\n+\"b\""},
+      {std::string(70, 'x'), "\"" + std::string(66, 'x') + "\" _\r\n+\"xxxx\""},
+      {std::string(54, 'x') + " y", "\"" + std::string(54, 'x') + " \" _\r\n+\"y\""},
+      {std::string(53, 'x') + " y", "\"" + std::string(53, 'x') + " y\""},
+      {"a:b", "\"a:b\""},
+  };
+  for (const auto& c : cases) EXPECT_EQ(VBSTR(c.text, false), c.source) << c.text;
+}
+
+TEST(VbStrings, NamesOfAnSqlTextAreJoined) {
+  const struct {
+    std::string text, source;
+  } cases[] = {
+      {"id=:nId", "\"id=\"+CStr(nId)"},
+      {"id=:nId,b", "\"id=\"+CStr(nId)+\",b\""},
+      {"in (:nId)", "\"in (\"+CStr(nId)+\")\""},
+      {":nId", "\":nId\""},
+      {"id=:aNameThatIsTooLong", "\"id=:aNameThatIsTooLong\""},
+      {"a b:", "\"a b:\""},
+      {"id =:sIndex,", "\"id =\"+CStr(sIndex)+\",\""},
+      {"id =:txtA.Value,", "\"id =\"+CStr(txtA.Value)+\",\""},
+  };
+  for (const auto& c : cases) EXPECT_EQ(VBSTR(c.text, true), c.source) << c.text;
+}
+
+TEST(VbStrings, ANameOfATextIsQuotedAndTidied) {
+  EXPECT_EQ(VBSTR("like :sName,", true), "\"like \"+\"'\"+sName\"',\"");
+  EXPECT_EQ(VBSTR("name=:sName,", true), "\"name='\"sName\"',\"");
+  EXPECT_EQ(VBSTR("name=:txtA.Text,", true), "\"name='\"txtA.Text\"',\"");
+}
+
+TEST(VbStrings, SourceBecomesText) {
+  const struct {
+    std::string source, text;
+  } cases[] = {
+      {"\"abc\"", "abc"},
+      {"\"a\"\"b\"", "a\"b"},
+      {"\"a\" & vbCrLf & \"b\"", "a\r\nb"},
+      {"\"a\" + VBCRLF _\r\n+ \"b\"", "a\r\nb"},
+      {"\"a\" + name + \"b\"", "anameb"},
+      {"\"open", "open"},
+      {"", ""},
+      {"_a_", "a"},
+  };
+  for (const auto& c : cases) EXPECT_EQ(UNVBSTR(c.source), c.text) << c.source;
+}
+
+TEST(VbStrings, ATextComesBackFromItsSource) {
+  for (const std::string text :
+       {"abc", "a, b\r\nc d", "select * from t where a = 1 and b = 2 and c = 3 and d = 4 order by 5"})
+    EXPECT_EQ(UNVBSTR(VBSTR(text, false)), text);
+}
+
+TEST(Arguments, ListsAreSplitAtTheirSeparators) {
+  const std::string sep(1, listSep);
+  using Parts = std::vector<std::string>;
+  EXPECT_EQ(SplitArguments("a" + sep + sep + "b"), (Parts{"a", "", "b"}));
+  EXPECT_EQ(SplitArguments(""), Parts{""});
+  std::string list = "a" + sep + "b c";
+  EXPECT_EQ(NextArgument(list), "a");
+  EXPECT_EQ(NextArgument(list), "b");
+  EXPECT_EQ(list, " c");
+  list = "\"x, y\",z";
+  EXPECT_EQ(NextArgument(list), "\"x, y\"");
+}
+
+TEST(Arguments, ExpressionsEndAtSeparatorsOutsideBrackets) {
+  std::string text = "f(a,b)+\"x:y\",c:d";
+  EXPECT_EQ(NextExprPart(text, false), "f(a,b)+\"x:y\"");
+  EXPECT_EQ(NextExprPart(text, false), "c");
+  EXPECT_EQ(text, "d");
+  text = "f(a+b)&c+d)e";
+  EXPECT_EQ(NextExprPart(text, true), "f(a+b)");
+  EXPECT_EQ(NextExprPart(text, true), "c");
+  EXPECT_EQ(NextExprPart(text, true), "d");
+  EXPECT_EQ(NextExprPart(text, true), "e");
+  EXPECT_EQ(NextExprPart(text, true), "");
+}
+
+}  // namespace
+}  // namespace corvane::script
