@@ -1,0 +1,60 @@
+// FlatProgram: a flat program that is decoded once, however often it runs.
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "script/flat_items.h"
+
+namespace corvane::script {
+
+class FlatProgram;
+
+// The parts of an IF statement's text: where its condition ends and what stands behind THEN.
+struct IfParts {
+  std::string condition;
+  std::shared_ptr<FlatProgram> tail;  // of a one-line IF; none where the GO behind decides
+};
+
+// An item with what the loop finds out about it, which holds for as long as the program does.
+struct ProgramItem : FlatItem {
+  bool cut = false;    // reaches beyond the program's end: what follows it must be read with it
+  size_t behind = 0;   // place behind it and the separators that follow
+  std::string upper;   // the text in upper case
+  int row = 0;         // first row of the table of statements that it may belong to
+  std::string target;  // of a jump: what is sought
+  std::optional<IfParts> if_parts;
+};
+
+class FlatProgram {
+ public:
+  static constexpr size_t kNowhere = std::string::npos;
+
+  explicit FlatProgram(std::string text);
+  FlatProgram(const FlatProgram&) = delete;
+  FlatProgram& operator=(const FlatProgram&) = delete;
+
+  const std::string& Text() const { return text_; }
+  // From [at] on, counted from 0, without separators.
+  size_t SkipSeparators(size_t at) const;
+  // The item that begins at [at], where no separator stands.
+  ProgramItem& ItemAt(size_t at);
+  // First place of [sought] at or behind [from], counted from 0, or kNowhere.
+  size_t Find(const std::string& sought, size_t from);
+
+ private:
+  ProgramItem& Decode(size_t at);
+
+  const std::string text_;
+  std::deque<ProgramItem> items_;
+  std::vector<uint32_t> item_at_;                                // by place: number in items_, from 1
+  std::unordered_map<std::string, std::vector<size_t>> places_;  // of what was sought, rising
+};
+
+}  // namespace corvane::script

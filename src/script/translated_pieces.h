@@ -1,0 +1,38 @@
+// TranslatedPieces: pieces of code as programs. A piece that comes again under the same counters is not translated
+// again.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "script/flat_program.h"
+#include "script/script_state.h"
+
+namespace corvane::script {
+
+class TranslatedPieces {
+ public:
+  TranslatedPieces(ScriptState& state, ErrorReport& errors) : state_(state), errors_(errors) {}
+
+  // Cleaned and translated; nothing for a piece without content. Moves the counters.
+  std::shared_ptr<FlatProgram> Translate(const std::string& text);
+  // A generated statement, which needs no cleaning.
+  std::shared_ptr<FlatProgram> TranslateStatement(std::string text);
+
+ private:
+  struct Translated {
+    Counters before, after;
+    std::shared_ptr<FlatProgram> program;
+  };
+  const Translated* Find(const std::string& text) const;
+  void Keep(const std::string& text, Translated translated);
+
+  ScriptState& state_;
+  ErrorReport& errors_;
+  std::unordered_map<std::string, std::vector<Translated>> kept_;
+  size_t kept_size_ = 0;
+};
+
+}  // namespace corvane::script
