@@ -37,6 +37,7 @@ struct ScriptState {
   std::string scriptParams;  // parameters between scripts
   bool dialogActive = false;
   std::string dialogValues, savedDialogValues, indexValue;
+  std::string formStore;        // kept FORM blocks: for each labelMark, its name, labelMark, its text, listSep
   std::vector<Cell> pushSlots;  // values of SELECT CASE, by nesting number
 };
 
