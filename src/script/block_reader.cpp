@@ -1,0 +1,181 @@
+#include "script/block_reader.h"
+
+#include "runtime/strings.h"
+#include "script/code_lines.h"
+#include "script/form_pages.h"
+#include "script/marks.h"
+#include "script/script_path.h"
+
+namespace corvane::script {
+
+using runtime::BeginsWith;
+using runtime::kCrLf;
+
+namespace {
+
+constexpr size_t kOpener = 5;  // "CODE{" and the like
+constexpr std::string_view kCodeOpens = "<%", kCodeCloses = "%>";
+constexpr size_t kMostOpenFiles = 50;
+
+enum LabelSearch : int { kNone = 0, kGoOn = 1, kRestart = 2, kRestartAtEnd = 3 };
+
+constexpr char kNoScriptFile[] =
+    "Script file doesn't exists in specified directory.\r\nMay be you have not saved Project yet.";
+
+// A template line that is a comment.
+bool IsRemark(std::string_view line) {
+  const std::string text = runtime::UCase(runtime::Trim(line));
+  return text == "REM" || BeginsWith(text, "REM ");
+}
+
+}  // namespace
+
+void BlockReader::Read(std::string script, bool show) {
+  show_ = show;
+  text_.Replace(std::move(script));
+  while (!ended_ && !state_.stopFlag) {
+    const auto line = text_.NextLine();
+    if (line) {
+      const ScriptText::Place held = text_.Here();
+      in_code_ ? ReadTemplateLine(*line) : ReadOutside(*line);
+    } else if (in_code_) {
+      EndBlock();
+    } else {
+      ended_ = true;
+    }
+  }
+}
+
+void BlockReader::ReadOutside(std::string_view line) {
+  const std::string text = runtime::Trim(line);
+  const std::string opener = runtime::UCase(text.substr(0, kOpener));
+  if (opener == "FILE:") return Include(text);
+  if (opener == "CODE{") return BeginCode();
+  if (opener != "FORM{") return;
+  met_block_ = true;
+  if (!around_.forms.Form(lib_, text_, text, show_)) ended_ = true;
+}
+
+void BlockReader::Include(std::string_view line) {
+  const std::string name = runtime::Trim(line.substr(line.find(':') + 1));
+  const bool read = runtime::PassOverErrors([&] {
+    const std::string path = IncludePath(name, around_);
+    if (path.size() < 2) throw runtime::Error(runtime::kFileNotFound);
+    state_.scriptFile = path;
+    const std::string file = WithLineEnds(around_.services.Files.Read(path));
+    open_files_.push_back(text_.Unread().size());
+    text_.Push(file + kCrLf);
+  });
+  if (read && !IncludesItself()) return;
+  ended_ = failed_ = true;
+  state_.restartFlag = false;
+  if (!read) around_.services.Prompts.MsgBox(kNoScriptFile);
+}
+
+// A file is open until what stood behind its line is all that is left.
+bool BlockReader::IncludesItself() {
+  const size_t unread = text_.Unread().size();
+  while (!open_files_.empty() && open_files_.back() >= unread) open_files_.pop_back();
+  if (open_files_.size() <= kMostOpenFiles) return false;
+  engine_.errors.ReportError("Script files include one another without end: " + state_.scriptFile);
+  return true;
+}
+
+void BlockReader::BeginCode() {
+  met_block_ = in_code_ = true;
+  resume_ = text_.Here();
+  resume_counters_ = state_.counters;
+}
+
+// A "}" is text for as long as a "]]" follows anywhere.
+bool BlockReader::ClosesBlock(std::string_view line) const {
+  return BeginsWith(line, "}") && !text_.UnreadHolds("]]");
+}
+
+void BlockReader::EndBlock() {
+  if (state_.labelSearch == kRestartAtEnd) return Restart();
+  if (state_.labelSearch > kNone) {
+    std::string label = state_.labelTarget;
+    std::erase(label, labelMark);
+    engine_.errors.ReportError("Label " + label + " not found");
+  }
+  ended_ = true;
+}
+
+// Loops over template text come here again and again: the user's acts come in.
+void BlockReader::Restart() {
+  around_.services.Loop.DoEvents();
+  text_.GoTo(resume_);
+  state_.counters = resume_counters_;
+  state_.labelSearch = kGoOn;
+}
+
+void BlockReader::PutOut(std::string_view text) {
+  if (state_.labelSearch == kNone) state_.resultText += text;
+}
+
+void BlockReader::ReadTemplateLine(std::string_view line) {
+  if (ClosesBlock(line)) return EndBlock();
+  if (IsRemark(line)) return;
+  std::string rest = std::string(line) + kCrLf;
+  for (size_t mark; (mark = rest.find(kCodeOpens)) != std::string::npos;) {
+    PutOut(std::string_view(rest).substr(0, mark));
+    const Piece piece = ReadPiece(std::string_view(rest).substr(mark + kCodeOpens.size()));
+    RunPiece(piece);
+    if (state_.stopFlag) return;
+    if (piece.closed) return EndBlock();
+    if (piece.many_lines && state_.labelSearch == kRestart) return Restart();
+    rest = piece.rest;
+  }
+  PutOut(rest);
+}
+
+// The line end behind the mark is no part of the code.
+BlockReader::Piece BlockReader::ReadPiece(std::string_view behind_mark) {
+  Piece piece;
+  const size_t end = behind_mark.find(kCodeCloses);
+  if (end != std::string_view::npos) {
+    piece.code = behind_mark.substr(0, end);
+    piece.rest = behind_mark.substr(end + kCodeCloses.size());
+    if (!runtime::Holds(piece.rest, kCrLf)) piece.rest += kCrLf;
+    return piece;
+  }
+  ReadLines(piece, behind_mark.substr(0, behind_mark.size() - std::string_view(kCrLf).size()));
+  return piece;
+}
+
+// Further lines up to the mark. Where the block's closing line comes first, the piece ends with it.
+void BlockReader::ReadLines(Piece& piece, std::string_view first) {
+  piece.many_lines = true;
+  piece.code = first;
+  bool in_literal = LiteralIsOpen(first, false);
+  for (;;) {
+    const auto line = text_.NextLine();
+    piece.closed = !line || (!in_literal && ClosesBlock(*line));
+    if (piece.closed) return;
+    const auto code = in_literal ? std::string(*line) : WithoutComment(*line);
+    if (!code) continue;
+    const std::string upper = runtime::UCase(*code);
+    if (runtime::Holds(upper, "END SUB") && !runtime::Holds(upper, "\"")) {
+      resume_ = text_.Here();
+      piece.moves_resume = true;
+    }
+    const size_t end = code->find(kCodeCloses);
+    piece.code.append(1, lineMark).append(*code, 0, end);
+    if (end != std::string::npos) {
+      piece.rest = runtime::Trim(code->substr(end + kCodeCloses.size()));
+      if (!piece.rest.empty()) piece.rest += kCrLf;
+      return;
+    }
+    in_literal = LiteralIsOpen(*code, in_literal);
+  }
+}
+
+// What a piece with an END SUB leaves unread behind that line is not translated again: the counters are those behind
+// the piece.
+void BlockReader::RunPiece(const Piece& piece) {
+  runner_.RunCode(piece.code + ':');
+  if (piece.moves_resume) resume_counters_ = state_.counters;
+}
+
+}  // namespace corvane::script

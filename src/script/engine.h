@@ -1,0 +1,37 @@
+// Engine: what one frmLib is made of, as the execution loop and the commands see it.
+#pragma once
+
+#include "script/arrays.h"
+#include "script/assignment.h"
+#include "script/debug_step.h"
+#include "script/expressions.h"
+#include "script/outside.h"
+#include "script/report_error.h"
+#include "script/result_window.h"
+#include "script/script_state.h"
+#include "script/sub_store.h"
+#include "script/translated_pieces.h"
+#include "script/variable_store.h"
+
+namespace corvane::script {
+
+class Commands;
+
+struct Engine {
+  ScriptState& state;
+  ErrorBoxes& errors;
+  Outside& outside;
+  VariableStore& store;
+  Expressions& expressions;
+  Assignment& assignment;
+  SubStore& subs;
+  TranslatedPieces& pieces;
+  DebugStepper& debugger;
+  ResultWindow& result;
+  Commands& commands;
+
+  int nested_runs = 0;            // runs of code that are under way
+  long statements_unyielded = 0;  // over all of them
+};
+
+}  // namespace corvane::script

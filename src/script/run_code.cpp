@@ -1,0 +1,132 @@
+#include "script/run_code.h"
+
+#include <new>
+
+#include "runtime/strings.h"
+#include "script/marks.h"
+
+namespace corvane::script {
+
+namespace {
+
+constexpr int kStatementsBeforeYield = 150;
+// Runs that are too short to yield may follow one another without end.
+constexpr long kMostUnyielded = 15'000;
+// Each run of a function inside an expression takes about 3 KB of the stack, which is 1 MB in the environment.
+constexpr int kDeepestRun = 100;
+constexpr size_t kLongestText = 256u << 20;
+constexpr size_t kShownOfLine = 60, kShownInDebug = 160;
+
+struct Nesting {
+  explicit Nesting(int& depth) : depth_(depth) { ++depth_; }
+  ~Nesting() { --depth_; }
+  int& depth_;
+};
+
+bool IsTooLong(const Cell& value) {
+  const auto* text = std::get_if<Text>(&value);
+  return text != nullptr && text->Get().size() > kLongestText;
+}
+
+}  // namespace
+
+void CodeRun::Run(const std::string& text) {
+  const Nesting nesting(engine_.nested_runs);
+  state_.lvalueMode = false;
+  if (engine_.nested_runs > kDeepestRun) {
+    if (!state_.stopFlag) Report("Calls are nested too deep.");
+    state_.stopFlag = true;
+    return;
+  }
+  if (auto program = engine_.pieces.Translate(text)) RunFlat(std::move(program));
+}
+
+// A failed call ends the piece without a message.
+void CodeRun::RunFlat(std::shared_ptr<FlatProgram> program) {
+  unread_ = whole_ = UnreadProgram(std::move(program));
+  runtime::PassOverErrors([&] {
+    try {
+      if (state_.labelSearch > 0) SearchLabel();
+      Loop();
+    } catch (const std::bad_alloc&) {
+      Report("Out of memory.");
+      state_.stopFlag = true;
+    }
+  });
+}
+
+void CodeRun::Loop() {
+  while (!ended_ && !state_.stopFlag) {
+    Yield();
+    if (AtEnd()) return;
+    unread_.ReadFront(state_.currentLine, kShownOfLine);
+    ProgramItem& item = unread_.TakeItem(current_);
+    if (item.kind == FlatItem::kLabel) {
+      TakeLabel(item);
+    } else if (item.kind == FlatItem::kOpenLabel) {
+      Report("Syntax Error");
+      state_.stopFlag = true;
+    } else {
+      TakeStatement(item);
+    }
+  }
+}
+
+// The only place where the user's acts come in, as one on a Stop button.
+void CodeRun::Yield() {
+  const bool many_runs = ++engine_.statements_unyielded > kMostUnyielded;
+  if (counter_ > kStatementsBeforeYield || many_runs) {
+    engine_.statements_unyielded = 0;
+    engine_.outside.services.Loop.DoEvents();
+    counter_ = 0;
+  }
+  ++counter_;
+}
+
+bool CodeRun::AtEnd() {
+  bool end = !unread_.Holds(2);
+  if (!end) {
+    unread_.CutSeparators();
+    end = !unread_.Holds(2);
+  }
+  if (end && defining_) Report("End Sub not found.");
+  return end;
+}
+
+void CodeRun::TakeLabel(const ProgramItem& label) {
+  if (state_.planOn) state_.resultText.append(label.text).append("  ");
+  if (defining_) engine_.subs.Append(std::string(1, labelMark).append(label.text));
+}
+
+void CodeRun::TakeStatement(ProgramItem& statement) {
+  if (statement.kind != FlatItem::kStatement || !statement.eq || !statement.paren)
+    throw runtime::Error(runtime::kTypeMismatch);
+  if (state_.planOn) {
+    state_.resultText.append(statement.text).append(runtime::kCrLf);
+    return;
+  }
+  if (state_.debugOn) {
+    unread_.ReadFront(state_.currentLine, kShownInDebug);
+    engine_.debugger.DebugStep(std::string(statement.text));
+    if (state_.stopFlag) return;
+  }
+  Dispatch(statement);
+  if (IsTooLong(state_.lastValue) || state_.resultText.size() > kLongestText) {
+    Report("A text is too long.");
+    state_.stopFlag = true;
+  }
+}
+
+void CodeRun::Dispatch(ProgramItem& statement) {
+  if (defining_) return CopyToDefinition(statement);
+  for (;; ++statement.row) {
+    const Row& row = kRows[statement.row];
+    if (!row.fits(statement)) continue;
+    if (!row.in_sub_only || state_.subDepth >= 1) return (this->*row.act)(statement);
+    break;
+  }
+  for (const Row* row = &kRows[statement.row + 1];; ++row)
+    if (row->fits(statement) && (!row->in_sub_only || state_.subDepth >= 1)) return (this->*row->act)(statement);
+}
+
+}  // namespace corvane::script
