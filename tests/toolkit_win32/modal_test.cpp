@@ -166,20 +166,30 @@ TEST_F(Modal, EverythingMayGoWhileTheLoopRuns) {
   EXPECT_EQ(faults, Log{});
 }
 
+// The environment's own window hears the user's wish to disconnect, in the loop of our dialog.
 TEST_F(Modal, AToolkitThatGoesInTheLoopTakesItsWindowsAlong) {
   auto dialog = std::make_unique<Dialog>(*toolkit);
+  struct Wish {
+    std::function<void()> act;
+    static void CALLBACK Hear(HWND window, UINT, UINT_PTR number, DWORD) {
+      KillTimer(window, number);
+      auto* wish = reinterpret_cast<Wish*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+      wish->act();
+    }
+  };
   HWND window = nullptr;
-  Soon([&] {
+  Wish wish{[&] {
     window = toolkit->WindowOf(*dialog);
-    dialog->Unload();
-    // The loop that still runs belongs to nobody now.
-    PostMessageW(host, WM_NULL, 0, 0);
-  });
+    dialog.reset();
+    toolkit.reset();
+  }};
+  SetWindowLongPtrW(host, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&wish));
+  SetTimer(host, 1, 10, Wish::Hear);
   dialog->ShowModal();
-  dialog.reset();
-  toolkit.reset();
   EXPECT_NE(window, nullptr);
   EXPECT_FALSE(IsWindow(window));
+  EXPECT_TRUE(IsWindowEnabled(host));
+  EXPECT_EQ(faults, Log{});
 }
 
 TEST_F(Modal, AWindowDestroyedByItsOwnerEndsTheLoop) {
