@@ -66,6 +66,19 @@ std::string BuiltIns::EvalPrimary(std::string& token) {
   return negative ? Negated(value) : value;
 }
 
+bool BuiltIns::EvalVariable(const NameReference& name, std::string& value) {
+  if (state_.stopFlag) return true;
+  if (name.generation != store_.Generation() || name.depth != state_.subDepth) {
+    const long place = store_.FindVisible(name.upper, state_.subDepth);
+    name.cell = place == 0 ? 0 : store_.CellNumberAt(place);
+    name.generation = store_.Generation();
+    name.depth = state_.subDepth;
+  }
+  if (name.cell == 0) return false;
+  value = TextOf(store_.Value(name.cell));
+  return true;
+}
+
 std::string BuiltIns::ValueOf(std::string& token) {
   if (IsQuoted(token)) return Inside(token);
   std::replace(token.begin(), token.end(), quoteMark, '"');

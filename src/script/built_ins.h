@@ -24,6 +24,7 @@ class BuiltIns : public Primary {
   void UseExpressions(Expressions& expressions) { expressions_ = &expressions; }
 
   std::string EvalPrimary(std::string& token) override;
+  bool EvalVariable(const NameReference& name, std::string& value) override;
 
  private:
   std::string ValueOf(std::string& token);

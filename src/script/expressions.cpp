@@ -10,15 +10,6 @@ namespace corvane::script {
 
 namespace {
 
-bool Joins(std::string_view text) {
-  bool quoted = false;
-  for (char c : text) {
-    if (c == '"') quoted = !quoted;
-    if (c == '&' && !quoted) return true;
-  }
-  return false;
-}
-
 bool HoldsTakenOut(std::string_view text) {
   return runtime::Holds(text, kTakenOut);
 }
@@ -69,27 +60,116 @@ bool Expressions::EvalPart(Rewriting& rewriting, std::string part) {
   }
 }
 
-bool Expressions::EvalLiterally(std::string working) {
-  Rewriting rewriting{.joins = Joins(working), .rounds_left = 4 * working.size() + 64};
-  while (!working.empty()) {
-    const std::string before = working;
-    std::string part = ExtractSubExpression(working, errors_);
-    rewriting.result = EvalPart(rewriting, std::move(part));
-    if (!HoldsTakenOut(working)) break;
-    if (working.size() < 3) {
-      working.clear();
-      break;
-    }
-    PutBack(rewriting, working);
-    if (working == before || rewriting.rounds_left == 0) break;
+// Puts the value of a part back into the working text. False if nothing is left to take out.
+bool Expressions::GoesOn(Rewriting& rewriting, std::string& working, const std::string& before) {
+  if (!HoldsTakenOut(working)) return false;
+  if (working.size() < 3) {
+    working.clear();
+    return false;
   }
+  PutBack(rewriting, working);
+  return working != before && rewriting.rounds_left > 0;
+}
+
+bool Expressions::Finish(Rewriting& rewriting, const std::string& working) {
   if (!working.empty()) rewriting.result = EvalSimple(working);
   if (rewriting.truth) state_.lastValue = rewriting.result;
   return rewriting.result;
 }
 
+bool Expressions::Rewrite(Rewriting& rewriting, std::string working) {
+  while (!working.empty()) {
+    const std::string before = working;
+    rewriting.result = EvalPart(rewriting, ExtractSubExpression(working, errors_));
+    if (!GoesOn(rewriting, working, before)) break;
+  }
+  return Finish(rewriting, working);
+}
+
+bool Expressions::EvalLiterally(std::string text) {
+  Rewriting rewriting{.joins = HoldsJoin(text), .rounds_left = 4 * text.size() + 64};
+  return Rewrite(rewriting, std::move(text));
+}
+
 bool Expressions::EvalExpression(std::string_view text) {
-  return EvalLiterally(std::string(text));
+  const ExpressionPlan* plan = PlanOf(text);
+  return plan ? Follow(*plan) : EvalLiterally(std::string(text));
+}
+
+const ExpressionPlan* Expressions::PlanOf(std::string_view text) {
+  if (following_ == 0) plans_.Trim();
+  return plans_.Find(text);
+}
+
+bool Expressions::Follow(const ExpressionPlan& plan) {
+  struct Following {
+    int& depth;
+    explicit Following(int& depth) : depth(depth) { ++depth; }
+    ~Following() { --depth; }
+  } following(following_);
+  Rewriting rewriting{.joins = plan.joins, .rounds_left = plan.rounds};
+  std::vector<SlotValue> values;
+  values.reserve(plan.slots);
+  for (const PlannedStep& step : plan.steps) {
+    const bool result = EvalTerms(step, values);
+    if (step.counts) rewriting.result = result;
+    if (step.into == PlannedStep::kNowhere) continue;
+    std::string value = TextOf(state_.lastValue);
+    const bool truth = value == "True" || value == "False";
+    const bool quoted = !truth && !LooksNumeric(value);
+    if (!FitsPlan(value, quoted)) return LeavePlan(rewriting, step, values);
+    if (truth && !rewriting.joins) rewriting.truth = true;
+    values.push_back({std::move(value), quoted});
+    --rewriting.rounds_left;
+  }
+  if (rewriting.truth) state_.lastValue = rewriting.result;
+  return rewriting.result;
+}
+
+bool Expressions::EvalTerms(const PlannedStep& step, const std::vector<SlotValue>& values) {
+  SimpleEvaluation evaluation(state_);
+  for (const PlannedTerm& term : step.terms) {
+    if (term.kind == PlannedTerm::kWord)
+      evaluation.Word(term.text);
+    else
+      evaluation.Operand(ValueOf(term, values), term.op, term.last);
+  }
+  return evaluation.Finish();
+}
+
+// A stopped run has no values.
+std::string Expressions::ValueOf(const PlannedTerm& term, const std::vector<SlotValue>& values) {
+  if (state_.stopFlag && term.kind <= PlannedTerm::kSlot) return {};
+  std::string value;
+  switch (term.kind) {
+    case PlannedTerm::kText:
+      return term.text;
+    case PlannedTerm::kSlot:
+      return values[term.slot].text;
+    case PlannedTerm::kName:
+      if (primary_.EvalVariable(term.name, value)) return value;
+      [[fallthrough]];
+    case PlannedTerm::kToken:
+      value = term.text;
+      return primary_.EvalPrimary(value);
+    default:
+      value = AsPrimary(WithValues(term.text, values));
+      return primary_.EvalPrimary(value);
+  }
+}
+
+// The plain form goes on where the plan does not hold: the value of [step] is in lastValue and not put back yet.
+bool Expressions::LeavePlan(Rewriting& rewriting, const PlannedStep& step, const std::vector<SlotValue>& values) {
+  std::string working = WithValues(step.working, values);
+  if (step.into == PlannedStep::kPart) {
+    std::string part = WithValues(step.part, values);
+    const std::string before = WithValues(step.part_before, values);
+    PutBack(rewriting, part);
+    rewriting.result =
+        part == before || rewriting.rounds_left == 0 ? EvalSimple(part) : EvalPart(rewriting, std::move(part));
+  }
+  const std::string before = WithValues(step.working_before, values);
+  return GoesOn(rewriting, working, before) ? Rewrite(rewriting, working) : Finish(rewriting, working);
 }
 
 }  // namespace corvane::script

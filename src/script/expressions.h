@@ -4,7 +4,10 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "script/expression_plan.h"
+#include "script/plan_cache.h"
 #include "script/script_state.h"
 
 namespace corvane::script {
@@ -14,6 +17,11 @@ class Primary {
  public:
   virtual ~Primary() = default;
   virtual std::string EvalPrimary(std::string& token) = 0;
+  // The value of a variable without more ado; false if EvalPrimary has to be asked.
+  virtual bool EvalVariable(const NameReference& name, std::string& value) {
+    (void)name, (void)value;
+    return false;
+  }
 };
 
 class Expressions {
@@ -21,7 +29,7 @@ class Expressions {
   Expressions(ScriptState& state, ErrorReport& errors, Primary& primary)
       : state_(state), errors_(errors), primary_(primary) {}
 
-  // The truth of the expression; its value goes to lastValue.
+  // The truth of the expression; its value goes to lastValue. An expression met again follows its plan.
   bool EvalExpression(std::string_view text);
   // The same for an expression without inner structure.
   bool EvalSimple(std::string_view text);
@@ -33,10 +41,21 @@ class Expressions {
   struct Rewriting;
   void PutBack(Rewriting& rewriting, std::string& text);
   bool EvalPart(Rewriting& rewriting, std::string part);
+  bool GoesOn(Rewriting& rewriting, std::string& working, const std::string& before);
+  bool Rewrite(Rewriting& rewriting, std::string working);
+  bool Finish(Rewriting& rewriting, const std::string& working);
+
+  const ExpressionPlan* PlanOf(std::string_view text);
+  bool Follow(const ExpressionPlan& plan);
+  bool EvalTerms(const PlannedStep& step, const std::vector<SlotValue>& values);
+  std::string ValueOf(const PlannedTerm& term, const std::vector<SlotValue>& values);
+  bool LeavePlan(Rewriting& rewriting, const PlannedStep& step, const std::vector<SlotValue>& values);
 
   ScriptState& state_;
   ErrorReport& errors_;
   Primary& primary_;
+  PlanCache plans_;
+  int following_ = 0;  // plans being followed, in one another
 };
 
 }  // namespace corvane::script
