@@ -8,13 +8,14 @@ namespace {
 using Log = std::vector<std::string>;
 using stage::Resources;
 
+BOOL CALLBACK Note(HWND window, LPARAM list) {
+  reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+  return TRUE;
+}
+
 std::vector<HWND> WindowsOfThread() {
   std::vector<HWND> found;
-  const auto note = [](HWND window, LPARAM list) -> BOOL {
-    reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
-    return TRUE;
-  };
-  EnumThreadWindows(GetCurrentThreadId(), note, reinterpret_cast<LPARAM>(&found));
+  EnumThreadWindows(GetCurrentThreadId(), Note, reinterpret_cast<LPARAM>(&found));
   return found;
 }
 
