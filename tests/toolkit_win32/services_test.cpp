@@ -41,17 +41,15 @@ class ServicesTest : public WindowTest {
       return dialog != nullptr;
     });
   }
+  static BOOL CALLBACK KeepDialog(HWND window, LPARAM result) {
+    wchar_t name[16];
+    GetClassNameW(window, name, 16);
+    if (std::wstring(name) == L"#32770" && IsWindowVisible(window)) *reinterpret_cast<HWND*>(result) = window;
+    return TRUE;
+  }
   static HWND FindDialog() {
     HWND found = nullptr;
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND window, LPARAM result) -> BOOL {
-          wchar_t name[16];
-          GetClassNameW(window, name, 16);
-          if (std::wstring(name) == L"#32770" && IsWindowVisible(window)) *reinterpret_cast<HWND*>(result) = window;
-          return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&found));
+    EnumThreadWindows(GetCurrentThreadId(), KeepDialog, reinterpret_cast<LPARAM>(&found));
     return found;
   }
 
