@@ -35,8 +35,10 @@ set "TO=%LOCALAPPDATA%\%NAME%"
 set "SCOPE=user"
 if not defined MACHINE goto registrar
 set "SCOPE=machine"
-set "TO=%ProgramFiles%\%NAME%"
-if "%BITS%"=="32" if defined ProgramFiles(x86) set "TO=%ProgramFiles(x86)%\%NAME%"
+set "PROGRAMS=%ProgramFiles(x86)%"
+if "%BITS%"=="64" set "PROGRAMS=%ProgramFiles%"
+if not defined PROGRAMS set "PROGRAMS=%ProgramFiles%"
+set "TO=%PROGRAMS%\%NAME%"
 
 :registrar
 set "LIBRARY=%FROM%corvane.dll"

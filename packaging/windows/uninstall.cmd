@@ -33,8 +33,10 @@ if exist "%TO%scope.txt" goto found
 if not defined LOCALAPPDATA set "LOCALAPPDATA=%APPDATA%"
 set "TO=%LOCALAPPDATA%\%NAME%\"
 if not defined MACHINE goto check
-set "TO=%ProgramFiles%\%NAME%\"
-if "%NAME%"=="Corvane" if defined ProgramFiles(x86) set "TO=%ProgramFiles(x86)%\%NAME%\"
+set "PROGRAMS=%ProgramFiles(x86)%"
+if "%NAME%"=="Corvane64" set "PROGRAMS=%ProgramFiles%"
+if not defined PROGRAMS set "PROGRAMS=%ProgramFiles%"
+set "TO=%PROGRAMS%\%NAME%\"
 :check
 if not exist "%TO%scope.txt" goto nothing
 
