@@ -8,6 +8,7 @@
 #include "cli/inspect_command.h"
 #include "cli/list_command.h"
 #include "cli/plain_services.h"
+#include "cli/script_command.h"
 #include "cli/shown_path.h"
 #include "cli/view_command.h"
 #include "environment/disk_files.h"
@@ -101,6 +102,7 @@ class CommandLine {
     DefineView();
     DefineCheck();
     DefineInspect();
+    DefineScript();
     try {
       app_.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
@@ -210,12 +212,24 @@ class CommandLine {
     });
   }
 
+  void DefineScript() {
+    CLI::App* script = Define("script", "check a script for places that do what its author hardly meant", [this] {
+      return WithFile(command_, path_, [this](const std::string& bytes) {
+        return CheckScriptFile(bytes, path_, command_.code_page, command_.out, command_.errors);
+      });
+    });
+    script->add_option("FILE", path_, "a script; what it includes is not read")->required();
+    script->add_flag("--check", check_, "list these places: line, what it does, how to write it; 1 if there is any")
+        ->required();
+    AddCodePage(script, "1252");
+  }
+
   Command command_;
   CLI::App app_{"Corvane, a project explorer for Visual Basic 6"};
   DeskOptions desk_;
   ListOptions list_;
   std::string path_, filter_, mode_;
-  bool html_ = false;
+  bool html_ = false, check_ = false;
   int role_ = 0;
   std::function<int()> run_;
 };

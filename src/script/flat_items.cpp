@@ -16,7 +16,7 @@ bool IsDigits(std::string_view field) {
 }
 
 // By the rules of conversion: "-1" and " 7" are numbers, "2x" is none.
-std::optional<long> NumberOf(std::string_view field) {
+std::optional<long> FieldNumber(std::string_view field) {
   if (IsDigits(field)) {
     long number = 0;
     for (const char digit : field) number = number * 10 + (digit - '0');
@@ -65,10 +65,11 @@ void AppendLabel(std::string& flat, std::string_view name) {
 FlatItem ReadFlatItem(std::string_view flat) {
   if (flat.front() == labelMark) return ReadLabel(flat);
   if (flat.size() < kHeader) return {};
-  const std::optional<long> length = NumberOf(flat.substr(4, 3));
+  const std::optional<long> length = FieldNumber(flat.substr(4, 3));
   if (!length || *length < 0) return {};
   const std::string_view text = flat.substr(kHeader, static_cast<size_t>(*length));
-  return {FlatItem::kStatement, NumberOf(flat.substr(0, 2)), NumberOf(flat.substr(2, 2)), text, kHeader + text.size()};
+  return {FlatItem::kStatement, FieldNumber(flat.substr(0, 2)), FieldNumber(flat.substr(2, 2)), text,
+          kHeader + text.size()};
 }
 
 std::string_view WithoutSeparators(std::string_view flat) {

@@ -15,6 +15,8 @@ class LineComments {
   void Begin(std::string_view line) { Heed(line); }
   // A further line without its comment; nothing where it is one altogether.
   std::optional<std::string_view> CodeOf(std::string_view line);
+  // Behind the last line given.
+  bool InLiteral() const { return literal_open_; }
 
  private:
   void Heed(std::string_view line);

@@ -5,6 +5,7 @@
 #include "runtime/strings.h"
 #include "script/flat_items.h"
 #include "script/marks.h"
+#include "script/operators.h"
 
 namespace corvane::script {
 
@@ -14,8 +15,7 @@ using runtime::Left;
 using runtime::Trim;
 
 constexpr std::string_view kDeciding = "+-<>*/\\()|:& =";  // the first one of them decides what the statement is
-constexpr std::string_view kWordEnds = "+-<>*/\\=&, ";
-constexpr std::string_view kAssigning = "+-*/&";  // before "=": y+=2 is an assignment
+constexpr std::string_view kAssigning = "+-*/&";           // before "=": y+=2 is an assignment
 constexpr char kContinuation[] = {'_', lineMark, '\0'};
 
 bool IsIn(std::string_view set, char c) {
@@ -75,6 +75,7 @@ class Scan {
     text_.clear();
     at_ += 2;
     if (Stands(":") || Stands({&lineMark, 1})) ++at_;
+    statement_.start = at_;
     if (at_ < source_.size()) Take();
   }
 
@@ -85,7 +86,7 @@ class Scan {
     size_t next = at_ + 1;
     if (c == '+' || c == '&')
       while (StandsAt(next, kContinuation)) next += 2;
-    statement_.operatorMet = statement_.operatorMet || IsIn(kWordEnds, c);
+    statement_.operatorMet = statement_.operatorMet || IsOperator(c);
     if (statement_.eqPos == 0 && Decide(c, next)) return;
     text_ += c;
     at_ = next;

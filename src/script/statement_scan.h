@@ -14,6 +14,7 @@ struct Statement {
   long eqPos = 0;            // column of the assignment's "="; -1: an operator came before any; 0: nothing decided
   long parenPos = 0;         // column of the first "(", if no operator came before it
   bool operatorMet = false;  // a character that ends a word
+  size_t start = 0;          // place in the unread text behind the comments before it
 };
 
 enum class ScanEnd {

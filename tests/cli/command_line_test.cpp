@@ -54,7 +54,8 @@ std::string Simplified(const std::string& text) {
 TEST(CommandLine, HelpNamesTheCommandsAndIsDone) {
   const Ended result = RunCorvane({"--help"});
   EXPECT_EQ(result.status, 0);
-  for (const char* command : {"list", "view", "check", "inspect"}) EXPECT_THAT(result.out, HasSubstr(command));
+  for (const char* command : {"list", "view", "check", "inspect", "script"})
+    EXPECT_THAT(result.out, HasSubstr(command));
 }
 
 TEST(CommandLine, WrongUsageIsTwo) {

@@ -1,0 +1,241 @@
+#include "script/script_check.h"
+
+#include <iterator>
+#include <set>
+#include <utility>
+
+#include "runtime/strings.h"
+#include "script/for_statement.h"
+#include "script/marks.h"
+#include "script/numbers.h"
+#include "script/operators.h"
+#include "script/source_statements.h"
+
+namespace corvane::script {
+
+namespace {
+
+using runtime::BeginsWith;
+using runtime::Holds;
+using std::string_view;
+
+bool IsIn(string_view set, char c) {
+  return set.find(c) != string_view::npos;
+}
+
+// What the statements before a statement leave behind, as the translator's counters have it.
+class Surroundings {
+ public:
+  explicit Surroundings(const std::vector<SourceStatement>& all) {
+    for (const SourceStatement& source : all)
+      if (BeginsWith(source.upper, "GOTO ")) labels_.insert(source.upper.substr(5));
+  }
+
+  void Pass(const SourceStatement& source) {
+    const string_view text = source.upper;
+    opened_twin_ = false;
+    if (BeginsWith(text, "WHILE ") || (BeginsWith(text, "FOR ") && ReadFor(source.statement.text))) {
+      if (++depth_ == 1) ++loop_;
+      opened_twin_ = !heads_.insert({loop_, depth_}).second;
+    }
+    for (const char* closer : {"NEXT ", "NEXT:", "WEND:", "LOOP:"})
+      if (BeginsWith(text, closer) && depth_ > 0) --depth_;
+  }
+
+  bool InLoop() const { return depth_ > 0; }
+  bool OpenedTwin() const { return opened_twin_; }  // a loop whose label another one has already
+  bool IsSought(const std::string& label) const { return labels_.contains(label); }
+
+ private:
+  std::set<std::string> labels_;
+  std::set<std::pair<int, int>> heads_;
+  int depth_ = 0, loop_ = 0;
+  bool opened_twin_ = false;
+};
+
+bool CountsDown(const SourceStatement& source, const Surroundings&) {
+  const auto parts = BeginsWith(source.upper, "FOR ") ? ReadFor(source.statement.text) : std::nullopt;
+  return parts && BeginsWith(parts->step, "-");
+}
+
+bool IsTwinLoop(const SourceStatement&, const Surroundings& around) {
+  return around.OpenedTwin();
+}
+
+bool IsBareWord(const SourceStatement& source) {
+  const Statement& statement = source.statement;
+  if (statement.eqPos >= 1 || statement.parenPos != 0 || statement.operatorMet) return false;
+  for (const char* word :
+       {"ELSE:", "ELSEIF", "NEXT:", "WEND:", "LOOP:", "CONTINUE:", "STOPEX:", "STOP:", "EXIT:", "DEBUG:"})
+    if (BeginsWith(source.upper, word)) return false;
+  return source.upper.front() != labelMark;
+}
+
+bool IsUnsoughtLabel(const SourceStatement& source, const Surroundings& around) {
+  return IsBareWord(source) && !around.IsSought(source.upper) && source.upper.size() > 2;
+}
+
+bool IsLetterAlone(const SourceStatement& source, const Surroundings&) {
+  return IsBareWord(source) && source.upper.size() == 2;
+}
+
+bool HasMoreBehindIf(const SourceStatement& source, const Surroundings&) {
+  return source.is_one_line_if && source.more_on_line;
+}
+
+bool LostTo(const SourceStatement& source, const Surroundings&) {
+  const string_view text = source.upper;
+  return BeginsWith(text, "FOR ") && !Holds(text, " TO ") &&
+         (Holds(text, " TO-") || Holds(text, " TO+") || Holds(text, " TO("));
+}
+
+bool BeginsWithOneOf(string_view text, std::initializer_list<const char*> starts) {
+  for (const char* start : starts)
+    if (BeginsWith(text, start)) return true;
+  return false;
+}
+
+bool LostWhile(const SourceStatement& source, const Surroundings&) {
+  return BeginsWithOneOf(source.upper, {"WHILE(", "WHILE-", "WHILE+"});
+}
+
+bool LostCase(const SourceStatement& source, const Surroundings&) {
+  return BeginsWithOneOf(source.upper, {"CASE(", "CASE-", "CASE+"});
+}
+
+bool LostIf(const SourceStatement& source, const Surroundings&) {
+  return BeginsWithOneOf(source.upper, {"IF-", "IF+", "ELSEIF-", "ELSEIF+"});
+}
+
+bool LostAndOr(const SourceStatement& source, const Surroundings&) {
+  for (const char* glued : {" AND-", " AND+", " OR-", " OR+"})
+    if (Holds(source.upper, glued)) return true;
+  return false;
+}
+
+// Whether the "=" at [at] assigns: to a variable, to an element, or to the result.
+bool IsAssignment(const SourceStatement& source, size_t at) {
+  if (BeginsWith(source.upper, "FOR ")) return source.upper.find('=') == at;
+  if (source.statement.eqPos > 0) return at + 1 == static_cast<size_t>(source.statement.eqPos);
+  return source.statement.parenPos > 0 && !BeginsWith(source.upper, "IF(") && source.upper.find(")=") + 1 == at;
+}
+
+// Something but joining, adding and taking away.
+bool HasOtherRanks(const SourceStatement& source) {
+  const string_view text = source.upper;
+  for (size_t at = 0; at < text.size(); ++at)
+    if (IsIn("*/\\<>,", text[at]) || (text[at] == '=' && !IsAssignment(source, at))) return true;
+  return Holds(text, " AND ") || Holds(text, " OR ");
+}
+
+// Behind a comparison or a comma an operand with its sign is read well when nothing is reckoned with it.
+bool IsOperandAlone(string_view signed_text) {
+  const size_t end = signed_text.find_first_of("+-*/\\&<>=,() :", 1);
+  return end > 1 && (end == string_view::npos || !IsIn("+-*/\\&", signed_text[end]));
+}
+
+// [sign] is the place of the sign behind the operator [op], in whose place y*=-2 has "*".
+bool IsOddSign(const SourceStatement& source, char op, size_t sign) {
+  const string_view behind = string_view(source.upper).substr(sign);
+  if (IsIn("*/\\", op)) return true;
+  if (IsIn("<>=,", op)) return !IsOperandAlone(behind);
+  return behind != "+:" && behind != "-:" && HasOtherRanks(source);  // not y++
+}
+
+bool HasSignBehindOperator(const SourceStatement& source, const Surroundings&) {
+  const string_view text = source.upper;
+  for (size_t at = 0; at + 2 < text.size(); ++at) {
+    const size_t sign = at + (text[at + 1] == '=' && IsAssignment(source, at + 1) ? 2 : 1);
+    const bool after_operator = IsIn("+-*/\\&<>=,", text[at]) && IsIn("+-", text[sign]);
+    const bool starts_value = text[at] == '=' && IsAssignment(source, at);
+    if (after_operator && !starts_value && IsOddSign(source, text[at], sign)) return true;
+  }
+  return false;
+}
+
+bool HasNameOfOneLetter(const SourceStatement& source, const Surroundings&) {
+  const string_view text = source.upper;
+  if (BeginsWith(text, "SUB ") || BeginsWith(text, "CALL ")) return false;
+  for (size_t at = 1; at + 1 < text.size(); ++at) {
+    const bool begins = IsOperator(text[at - 1]) || text[at - 1] == '(';
+    if (begins && text[at + 1] == '(' && !IsOperator(text[at]) && !IsIn("()\"|", text[at])) return true;
+  }
+  return false;
+}
+
+// The text literal that ends before or begins at [at] of the statement, without its quotes.
+std::string LiteralBeside(const std::string& text, size_t at, bool before) {
+  const size_t other = before ? text.rfind('"', at - 1) : text.find('"', at + 1);
+  if (other == std::string::npos) return {};
+  return before ? text.substr(other + 1, at - other - 1) : text.substr(at + 1, other - at - 1);
+}
+
+bool ComparesTexts(const SourceStatement& source, const Surroundings&) {
+  const std::string& text = source.statement.text;
+  for (size_t at = 1; at + 1 < source.upper.size(); ++at) {
+    if (!IsIn("<>", source.upper[at])) continue;
+    if (source.upper[at - 1] == '<' || source.upper[at + 1] == '>') continue;  // unequal
+    const size_t behind = at + 1 + (source.upper[at + 1] == '=');
+    if (source.upper[at - 1] == '"' && !IsNumeric(LiteralBeside(text, at - 1, true))) return true;
+    if (source.upper[behind] == '"' && !IsNumeric(LiteralBeside(text, behind, false))) return true;
+  }
+  return false;
+}
+
+bool IsArrayInLoop(const SourceStatement& source, const Surroundings& around) {
+  return around.InLoop() && BeginsWith(source.upper, "DIM ") && Holds(source.upper, "()");
+}
+
+struct OddRule {
+  bool (*applies)(const SourceStatement&, const Surroundings&);
+  const char* does;
+  const char* write;
+};
+
+constexpr OddRule kRules[] = {
+    {CountsDown, "a descending FOR runs until its variable is 0, whatever its limit",
+     "count with WHILE: i=start, WHILE i>=limit, i=i-1 as the last statement, WEND"},
+    {IsTwinLoop,
+     "a loop beside another one inside a loop has the other's label: its end jumps back into that one for ever",
+     "put it into a SUB that is defined before the outer loop"},
+    {IsUnsoughtLabel, "a single word is a label, and no GOTO names it: nothing happens",
+     "a statement with its blank (END IF) or a command with its brackets (SHOWPLAN())"},
+    {IsLetterAlone, "a single letter is dropped", "a label of two letters or more"},
+    {HasMoreBehindIf, "what stands behind the \":\" of a one-line IF runs in any case",
+     "IF ... THEN at the end of its line, a line for each statement, END IF"},
+    {LostTo, "the blank behind TO goes before a sign or bracket, and the FOR is a syntax error",
+     "a limit that begins with a name or a digit: 0-1 for -1"},
+    {LostWhile, "the blank behind WHILE goes before a sign or bracket, and no loop begins",
+     "a condition that begins with a name or a digit"},
+    {LostCase, "CASE with a sign or bracket directly behind it is never compared", "the value as a text: CASE \"-1\""},
+    {LostIf, "the blank behind IF goes before a sign, and there is no IF", "the condition in brackets: IF (-1<x) THEN"},
+    {LostAndOr, "the blank behind AND or OR goes before a sign, and nothing is combined",
+     "the value with the sign in a variable of its own"},
+    {HasSignBehindOperator, "a sign behind an operator is taken for an operator: 12*-3 is 9",
+     "the value with the sign in a variable of its own"},
+    {HasNameOfOneLetter, "an array or function whose name has one letter cannot be read",
+     "a name of two letters or more"},
+    {ComparesTexts,
+     "texts of different length are compared as numbers, so that a text is less than any other and greater",
+     "STRCOMP(a,b)<0, or >0"},
+    {IsArrayInLoop, "DIM of an array in a loop takes another of the twenty arrays at each pass and empties none",
+     "DIM before the loop, ERASE of the array in it"},
+};
+
+}  // namespace
+
+std::optional<std::vector<OddPlace>> CheckScript(string_view script) {
+  bool has_block = false;
+  const std::vector<SourceStatement> all = SourceStatements(CodePieces(script, has_block));
+  if (!has_block) return std::nullopt;
+  std::vector<OddPlace> places;
+  Surroundings around(all);
+  for (const SourceStatement& source : all) {
+    around.Pass(source);
+    for (const OddRule& rule : kRules)
+      if (rule.applies(source, around)) places.push_back({source.line, rule.does, rule.write});
+  }
+  return places;
+}
+
+}  // namespace corvane::script

@@ -1,0 +1,23 @@
+// The statements of a script as its author wrote them: with their lines, before anything is rewritten.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "script/code_pieces.h"
+#include "script/statement_scan.h"
+
+namespace corvane::script {
+
+struct SourceStatement {
+  long line = 0;                // where it begins
+  Statement statement;          // cleaned
+  std::string upper;            // its text in upper case, double quotes in place of strings and literals; of a one-line
+                                // IF up to its THEN
+  bool more_on_line = false;    // another statement stands behind its ":" in the same line
+  bool is_one_line_if = false;  // the statement behind its THEN comes next
+};
+
+std::vector<SourceStatement> SourceStatements(const std::vector<CodePiece>& pieces);
+
+}  // namespace corvane::script

@@ -1,0 +1,152 @@
+#include "script/script_check.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "runtime/strings.h"
+#include "script/code_pieces.h"
+
+namespace corvane::script {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+std::string WithCrLf(const std::string& text) {
+  return runtime::Replace(text, "\n", "\r\n");
+}
+
+// The numbers of the odd lines of a piece of code, which begins in line 2 of its script.
+std::vector<long> OddLines(const std::string& code) {
+  std::vector<long> lines;
+  const auto places = CheckScript(WithCrLf("CODE{\n<%" + code + "%>\n}\n")).value();
+  for (const OddPlace& place : places) lines.push_back(place.line);
+  return lines;
+}
+
+// What the only odd place of [code] does; it is in its first line.
+std::string OddThing(const std::string& code) {
+  const auto places = CheckScript(WithCrLf("CODE{\n<%" + code + "%>\n}\n")).value();
+  if (places.size() != 1) return std::to_string(places.size()) + " places";
+  EXPECT_EQ(places[0].line, 2) << code;
+  EXPECT_FALSE(places[0].write.empty()) << code;
+  return places[0].does;
+}
+
+TEST(ScriptCheck, ADescendingFor) {
+  EXPECT_THAT(OddThing("FOR i=3 TO 1 STEP -1\nNEXT"), HasSubstr("descending FOR"));
+  EXPECT_THAT(OddLines("FOR i=1 TO 3 STEP 2\nNEXT"), IsEmpty());
+}
+
+TEST(ScriptCheck, TwoLoopsSideBySideInALoop) {
+  EXPECT_THAT(OddLines("WHILE a\nFOR i=1 TO 2\nNEXT\nFOR i=1 TO 2\nNEXT\nWEND"), ElementsAre(5));
+  EXPECT_THAT(OddLines("FOR i=1 TO 2\nNEXT\nFOR i=1 TO 2\nNEXT"), IsEmpty());
+  EXPECT_THAT(OddLines("WHILE a\nWHILE b\nWEND\nWEND\nWHILE a\nWHILE b\nWEND\nWEND"), IsEmpty());
+}
+
+TEST(ScriptCheck, ALoopInABesideALoopInB) {
+  EXPECT_THAT(OddLines("WHILE a\nWHILE b\nWHILE c\nWEND\nWEND\nWHILE d\nWHILE e\nWEND\nWEND\nWEND"), ElementsAre(7, 8));
+}
+
+TEST(ScriptCheck, ASingleWordThatBecomesALabel) {
+  for (const char* word : {"EndIf", "SHOWPLAN", "Printx", "TOP", "FOR"})
+    EXPECT_THAT(OddThing(word), HasSubstr("label")) << word;
+  EXPECT_THAT(OddThing("x"), HasSubstr("dropped"));
+}
+
+TEST(ScriptCheck, WordsThatAreStatementsAndLabelsThatAreSought) {
+  EXPECT_THAT(
+      OddLines("IF a THEN\nELSE\nEND IF\nWHILE a\nCONTINUE\nWEND\nFOR i=1 TO 2\nNEXT\nSTOP\nEXIT\nDEBUG\nSTOPEX"),
+      IsEmpty());
+  EXPECT_THAT(OddLines("Again\nx=1\nGOTO again"), IsEmpty());
+  EXPECT_THAT(OddLines("Again\nIF a THEN GOTO again"), IsEmpty());
+}
+
+TEST(ScriptCheck, AOneLineIfWithASecondStatement) {
+  EXPECT_THAT(OddThing("IF a THEN b=1:c=2"), HasSubstr("in any case"));
+  EXPECT_THAT(OddLines("IF a THEN b=1\nc=2"), IsEmpty());
+  EXPECT_THAT(OddLines("IF a THEN b=1:\nc=2"), IsEmpty());
+  EXPECT_THAT(OddLines("IF a THEN: b=1: END IF"), IsEmpty());
+}
+
+TEST(ScriptCheck, ABlankThatGoesBeforeASignOrBracket) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"FOR i=3 TO -1", "TO"},      {"FOR i=1 TO (nn)", "TO"},   {"WHILE (a)", "WHILE"},
+      {"CASE -1", "CASE"},          {"CASE (2)", "CASE"},        {"IF -1<xx THEN", "IF"},
+      {"x=a AND -bb", "AND or OR"}, {"x=a or +bb", "AND or OR"}, {"IF -1<xx THEN b=1", "IF"},
+  };
+  for (const auto& [code, keyword] : cases) EXPECT_THAT(OddThing(code), HasSubstr(keyword)) << code;
+  EXPECT_THAT(OddLines("IF (a) OR (b) THEN\nEND IF\nSELECT CASE (v)\nCASE 2\nEND SELECT\nFOR i=1 TO nn STEP -nn"),
+              ElementsAre(7));
+}
+
+TEST(ScriptCheck, ASignBehindAnOperator) {
+  for (const char* code :
+       {"x=12*-3", "x=12/-3", "x=yy*(12*-3)", "x*=-2", "IF x<-1+b THEN", "x=2*a+-3", "IF a THEN x=2*-3"})
+    EXPECT_THAT(OddThing(code), HasSubstr("sign")) << code;
+  for (const char* code : {"x=-5", "=-5", "x=a+-3", "x+=-3", "x++", "x--", "IF x>-15 THEN", "IF x=-n THEN", "AR(1)=-5",
+                           "x=MID(s,1,-15)", "FOR i=-1 TO 2", "x=\"2*-3\"", "x=[[2*-3]]"})
+    EXPECT_THAT(OddLines(code), IsEmpty()) << code;
+}
+
+TEST(ScriptCheck, ANameOfOneLetterWithABracket) {
+  for (const char* code : {"x=A(1)", "x=2*f(1)", "PRINT(A(1))", "FUNCTION f(aa)", "DIM A()"})
+    EXPECT_THAT(OddThing(code), HasSubstr("one letter")) << code;
+  for (const char* code : {"A(1)=5", "x=AR(1)", "SUB s(aa)", "CALL s(aa)", "x=\"A(1)\"", "x=(1)"})
+    EXPECT_THAT(OddLines(code), IsEmpty()) << code;
+}
+
+TEST(ScriptCheck, AComparisonWithAText) {
+  for (const char* code : {"IF aa<\"abc\" THEN", "IF \"abc\">=aa THEN", "IF aa>\"\" THEN"})
+    EXPECT_THAT(OddThing(code), HasSubstr("different length")) << code;
+  for (const char* code : {"IF aa<\"12\" THEN", "IF aa=\"abc\" THEN", "IF aa<>\"abc\" THEN", "IF aa<bb THEN"})
+    EXPECT_THAT(OddLines(code), IsEmpty()) << code;
+}
+
+TEST(ScriptCheck, ADimOfAnArrayInALoop) {
+  EXPECT_THAT(OddLines("DIM AR()\nWHILE a\nDIM BR(), cc\nDIM dd\nWEND\nDIM CR()"), ElementsAre(4));
+}
+
+TEST(ScriptCheck, CountsTheLinesOfTheScript) {
+  const auto places =
+      CheckScript(WithCrLf("text\nCODE{\nrow <%x=A(1)%> and <%=B(1)%>\nREM a\n<%\n' note\n\ny=1 ' note\n"
+                           "/* a\nb */\nz=f(1, _\n2)\n%><%=C(1)%>\n}\n<%=D(1)%>"));
+  std::vector<long> lines;
+  for (const OddPlace& place : places.value()) lines.push_back(place.line);
+  EXPECT_THAT(lines, ElementsAre(3, 3, 11, 13));
+}
+
+TEST(ScriptCheck, AScriptWithoutABlockHasNothingToCheck) {
+  EXPECT_EQ(CheckScript("x=A(1)\r\n"), std::nullopt);
+  EXPECT_EQ(CheckScript(""), std::nullopt);
+  EXPECT_THAT(CheckScript("CODE{").value(), IsEmpty());
+}
+
+TEST(CodePieces, StandBetweenTheirMarks) {
+  bool has_block = false;
+  const auto pieces =
+      CodePieces("FORM{\r\nCODE{\r\n}\r\n code{ \r\na <%x=1%> b <%y=2\r\nrem c\r\nz=3%>\r\n}\r\n<%no%>", has_block);
+  EXPECT_TRUE(has_block);
+  ASSERT_EQ(pieces.size(), 2u);
+  EXPECT_EQ(pieces[0].code, "x=1");
+  EXPECT_THAT(pieces[0].lines, ElementsAre(5));
+  EXPECT_EQ(pieces[1].code, "y=2\tz=3");
+  EXPECT_THAT(pieces[1].lines, ElementsAre(5, 7));
+}
+
+TEST(CodePieces, ABraceClosesTheBlockUnlessALiteralEndsBehindIt) {
+  bool has_block = false;
+  EXPECT_EQ(CodePieces("CODE{\r\n}\r\n<%x=1%>\r\n", has_block).size(), 0u);
+  EXPECT_EQ(CodePieces("CODE{\r\n}\r\n<%x=1%>\r\n]]", has_block).size(), 1u);
+}
+
+TEST(CodePieces, ABraceInOpenCodeClosesTheBlock) {
+  bool has_block = false;
+  const auto pieces = CodePieces("CODE{\r\n<%x=1\r\n}\r\ny=2%>\r\n", has_block);
+  ASSERT_EQ(pieces.size(), 1u);
+  EXPECT_EQ(pieces[0].code, "x=1");
+}
+
+}  // namespace
+}  // namespace corvane::script
