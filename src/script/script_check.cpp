@@ -113,18 +113,19 @@ bool LostAndOr(const SourceStatement& source, const Surroundings&) {
   return false;
 }
 
-// Whether the "=" at [at] assigns: to a variable, to an element, or to the result.
-bool IsAssignment(const SourceStatement& source, size_t at) {
-  if (BeginsWith(source.upper, "FOR ")) return source.upper.find('=') == at;
-  if (source.statement.eqPos > 0) return at + 1 == static_cast<size_t>(source.statement.eqPos);
-  return source.statement.parenPos > 0 && !BeginsWith(source.upper, "IF(") && source.upper.find(")=") + 1 == at;
+// Place of the "=" that assigns: to a variable, to an element, or to the result.
+size_t AssignmentOf(const SourceStatement& source) {
+  if (BeginsWith(source.upper, "FOR ")) return source.upper.find('=');
+  if (source.statement.eqPos > 0) return static_cast<size_t>(source.statement.eqPos) - 1;
+  const bool element = source.statement.parenPos > 0 && !BeginsWith(source.upper, "IF(");
+  const size_t bracket = element ? source.upper.find(")=") : std::string::npos;
+  return bracket == std::string::npos ? bracket : bracket + 1;
 }
 
 // Something but joining, adding and taking away.
-bool HasOtherRanks(const SourceStatement& source) {
-  const string_view text = source.upper;
+bool HasOtherRanks(string_view text, size_t assignment) {
   for (size_t at = 0; at < text.size(); ++at)
-    if (IsIn("*/\\<>,", text[at]) || (text[at] == '=' && !IsAssignment(source, at))) return true;
+    if (IsIn("*/\\<>,", text[at]) || (text[at] == '=' && at != assignment)) return true;
   return Holds(text, " AND ") || Holds(text, " OR ");
 }
 
@@ -134,21 +135,21 @@ bool IsOperandAlone(string_view signed_text) {
   return end > 1 && (end == string_view::npos || !IsIn("+-*/\\&", signed_text[end]));
 }
 
-// [sign] is the place of the sign behind the operator [op], in whose place y*=-2 has "*".
-bool IsOddSign(const SourceStatement& source, char op, size_t sign) {
-  const string_view behind = string_view(source.upper).substr(sign);
+// [op] is the operator in front of the sign; in y*=-2 it is "*".
+bool IsOddSign(char op, string_view signed_text, bool other_ranks) {
   if (IsIn("*/\\", op)) return true;
-  if (IsIn("<>=,", op)) return !IsOperandAlone(behind);
-  return behind != "+:" && behind != "-:" && HasOtherRanks(source);  // not y++
+  if (IsIn("<>=,", op)) return !IsOperandAlone(signed_text);
+  return other_ranks && signed_text != "+:" && signed_text != "-:";  // not y++
 }
 
 bool HasSignBehindOperator(const SourceStatement& source, const Surroundings&) {
   const string_view text = source.upper;
+  const size_t assignment = AssignmentOf(source);
+  const bool other_ranks = HasOtherRanks(text, assignment);
   for (size_t at = 0; at + 2 < text.size(); ++at) {
-    const size_t sign = at + (text[at + 1] == '=' && IsAssignment(source, at + 1) ? 2 : 1);
-    const bool after_operator = IsIn("+-*/\\&<>=,", text[at]) && IsIn("+-", text[sign]);
-    const bool starts_value = text[at] == '=' && IsAssignment(source, at);
-    if (after_operator && !starts_value && IsOddSign(source, text[at], sign)) return true;
+    if (at == assignment || !IsIn("+-*/\\&<>=,", text[at])) continue;
+    const size_t sign = at + (at + 1 == assignment ? 2 : 1);
+    if (IsIn("+-", text[sign]) && IsOddSign(text[at], text.substr(sign), other_ranks)) return true;
   }
   return false;
 }

@@ -47,7 +47,7 @@ bool Translation::If() {
   const long then_column = ThenColumn(upper_);
   if (then_column < 5) return false;
   std::string tail = Mid(statement_.text, then_column + 5);
-  if (runtime::BeginsWith(Mid(upper_, then_column + 5), " EXIT FUNCTION")) {
+  if (upper_.compare(static_cast<size_t>(then_column) + 4, 14, " EXIT FUNCTION") == 0) {
     Push(tail + ":End If:");
     tail.clear();
     SetStatement(Left(statement_.text, then_column + 4) + ":");

@@ -1,4 +1,5 @@
-// Any bytes as a piece of code: the engine's translator and the plain one agree, and what they make is bounded.
+// Any bytes as a piece of code: the engine's translator and the plain one agree, what they make is bounded, and the
+// check of scripts finds its way through.
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
@@ -7,6 +8,7 @@
 #include "script/flat_to_text.h"
 #include "script/line_comments.h"
 #include "script/prepare_source.h"
+#include "script/script_check.h"
 #include "script/translator.h"
 #include "tests/script/plain_translator.h"
 #include "tests/script/recorded_errors.h"
@@ -45,5 +47,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   for (size_t cancelled : {RecordedErrors::kNever, size_t{0}, size_t{2}}) Compare(text, cancelled);
   Compare(CodeOfLines(text), RecordedErrors::kNever);
   FlatToText(text);
+  CheckScript(text);
+  Require(CheckScript("CODE{\r\n<%" + text).has_value());
   return 0;
 }

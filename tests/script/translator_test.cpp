@@ -354,5 +354,43 @@ TEST(Translator, AStatementPastTheWidthsIsWrittenAllTheSame) {
   EXPECT_EQ(Translated("x=" + std::string(998, 'y')).flat.substr(0, 10), "02001001x=");
 }
 
+// The cleaning takes the blank behind a keyword before a sign or a bracket, and it is a keyword no more.
+TEST(Translator, AWhileWithABracketOpensNoLoop) {
+  const Translated translated("WHILE (x)\ny=1");
+  EXPECT_EQ(translated.ItemsWithFields(), (Items{"-1,06 WHILE(x):", "02,00 y=1:"}));
+  EXPECT_EQ(translated.Count(), Counters());
+}
+
+TEST(Translator, ACaseWithASignIsAnUnknownStatement) {
+  EXPECT_EQ(Translated("SELECT CASE v\nCASE -1").Items(), (Items{"PUSH(1,v):", "CASE-1:"}));
+}
+
+TEST(Translator, AnIfWithASignIsNoIf) {
+  const Translated translated("IF -1<0 THEN\ny=1");
+  EXPECT_EQ(translated.ItemsWithFields(), (Items{"-1,00 IF-1<0 THEN:", "02,00 y=1:"}));
+  EXPECT_EQ(translated.Count(), Counters());
+}
+
+TEST(Translator, AnAndWithASignStandsWithoutItsBlank) {
+  ExpectItems({{"x=a AND -b", {"x=a AND-b:"}}, {"x=a AND (b)", {"x=a AND (b):"}}});
+}
+
+TEST(Translator, AStringAloneIsALabel) {
+  ExpectItems({{"\"a+b\"", {"¶\"A+B\":"}}});
+}
+
+TEST(Translator, OperatorsThatAJumpSkipsEndNoWord) {
+  ExpectItems({{"VAR(a+b)", {"¶VAR(A+B):"}}, {"VAR(a+b)+c", {"VAR(a+b)+c:"}}});
+}
+
+// Each IF waits for the one in its tail.
+TEST(Translator, ALongChainOfIfsIsTranslatedFromItsEnd) {
+  std::string code;
+  for (int i = 0; i < 300; ++i) code += "IF a THEN ";
+  const std::string flat = Translated(code + "b=1").flat;
+  EXPECT_EQ(flat.rfind("-100023IF a THEN 0200004b=1:::"), flat.size() - 30 - 2 * 300);
+  EXPECT_TRUE(flat.ends_with("0200004b=1:" + std::string(2 * 301, ':')));
+}
+
 }  // namespace
 }  // namespace corvane::script
