@@ -68,6 +68,14 @@ bench: packages
 screenshots: $(program)
 	scripts/screenshots $(program) build/screenshots $(if $(DOCS),docs/images/explorer.png)
 
+# The add-in's windows as they are in Visual Basic, beside those.
+.PHONY: screenshots-win32
+screenshots-win32: packages
+	@scripts/install-packages scripts/packages-addin.txt scripts/packages-addin-test.txt
+	cmake --preset addin64 -Wno-dev --log-level=WARNING
+	cmake --build build/addin64 -j $(JOBS) --target corvane_win32_pictures_tests
+	scripts/screenshots-win32 build/addin64/corvane_win32_pictures_tests.exe build/screenshots
+
 # The whole suite under the address and undefined behaviour sanitizers.
 sanitize: packages
 	cmake --preset sanitize -Wno-dev --log-level=WARNING

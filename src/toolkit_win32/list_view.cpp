@@ -45,7 +45,7 @@ long ListView::RowAt(POINT place) const {
   const RECT rows = window_.Client();
   if (place.y < rows.top || place.y >= rows.bottom) return -1;
   const long row = top_ + place.y / RowHeight();
-  return row < Count() ? row : -1;
+  return row < std::min(Count(), top_ + RowsInView()) ? row : -1;
 }
 
 RECT ListView::PlaceOfRow(long row) const {
@@ -99,7 +99,8 @@ void ListView::PaintRows() {
   if (target && !IsRectEmpty(&paint.rcPaint)) {
     const BufferedPaint buffer(target, paint.rcPaint);
     Fill(buffer.Dc(), paint.rcPaint, list_.BackColor());
-    const long end = std::min(Count(), top_ + RowsInView() + 1);
+    // Whole rows only.
+    const long end = std::min(Count(), top_ + RowsInView());
     for (long row = top_ + paint.rcPaint.top / RowHeight(); row < end; ++row) {
       const RECT place = PlaceOfRow(row);
       if (place.top >= paint.rcPaint.bottom) break;

@@ -86,6 +86,29 @@ TEST_F(ListTest, AClickBelowTheRowsChoosesNothing) {
   EXPECT_EQ(list.ListIndex(), -1);
 }
 
+TEST_F(ListTest, ShowsWholeRowsOnly) {
+  list.SetForeColor(forms::RGB(255, 0, 0));
+  Fill(100);
+  Show();
+  RECT client{};
+  GetClientRect(WindowOf(list), &client);
+  const int height = static_cast<int>(Ask(LB_GETITEMHEIGHT)), whole = client.bottom / height * height;
+  list.Move(120, 120, 3000, 1500 - (client.bottom - whole - height / 2) * 15.0f);  // half a row more than whole ones
+  Pump();
+  GetClientRect(WindowOf(list), &client);
+  const int below = client.bottom / height * height;
+  ASSERT_GT(client.bottom, below + 3);
+  bool ink_above = false;
+  for (int x = 0; x < 40; ++x) {
+    for (int y = below - height; y < below; ++y)
+      ink_above = ink_above || PixelAt(x, y) != PixelAt(1, client.bottom - 1);
+    for (int y = below; y < client.bottom; ++y) ASSERT_EQ(PixelAt(x, y), GetSysColor(COLOR_WINDOW)) << x << "," << y;
+  }
+  EXPECT_TRUE(ink_above);
+  PostClick(WindowOf(list), {20, client.bottom - 1});
+  EXPECT_EQ(list.ListIndex(), -1);
+}
+
 TEST_F(ListTest, KeysMoveAndLettersSearch) {
   for (const char* text : {"alpha", "beta", "gamma", "bravo"}) list.AddItem(text);
   Show();
