@@ -17,14 +17,11 @@ using runtime::Mid;
 using runtime::Trim;
 using runtime::UCase;
 
+constexpr size_t kLongestKnown = 2000;  // characters of a statement
+constexpr size_t kMostKnown = 5000;
+
 bool IsBracketLiteral(std::string_view right) {
   return runtime::BeginsWith(right, "[[");
-}
-
-// Whether "V op= E" stands there; then it becomes V = V op E.
-bool HasOwnOperator(const std::string& statement, long eq) {
-  const char before = eq >= 2 ? statement[static_cast<size_t>(eq) - 2] : ' ';
-  return std::string_view("+-*/&").find(before) != std::string_view::npos;
 }
 
 // Place of the ")=" of name(index)=value, from 1; 0 if there is none or a double quote stands before it.
@@ -42,18 +39,70 @@ struct Assignment::Target {
   std::string address;  // of a property
 };
 
-void Assignment::Assign(std::string statement, long eq) {
-  if (HasOwnOperator(statement, eq)) {
-    const std::string name = Left(statement, eq - 2);
-    const std::string operation = Mid(statement, eq - 1, 1) + Mid(statement, eq + 1);
-    statement = name + "=" + name + operation;
-    eq = runtime::Len(name) + 1;
-  }
+void Assignment::AssignLiterally(const std::string& text, long eq) {
+  const std::string statement = WithOwnOperator(text, eq);
   const Target target = FindTarget(Trim(Left(statement, eq - 1)));
   if (target.kind == Target::kUnknown) return errors_.ReportError(statement + " Unknown Variable");
   const std::string right = Mid(statement, eq + 1);
   if (right.size() < 2) return errors_.ReportError(statement + " Error operation");
   if (Evaluate(right)) Store(target);
+}
+
+void Assignment::Assign(const std::string& statement, long eq) {
+  const KnownAssignment* known = Known(statement, eq);
+  if (!known || !AssignKnown(*known)) AssignLiterally(statement, eq);
+}
+
+const KnownAssignment* Assignment::Known(const std::string& statement, long eq) {
+  if (statement.size() > kLongestKnown) return nullptr;
+  if (running_ == 0 && known_.size() > kMostKnown) known_.clear();
+  auto found = known_.find(std::string_view(statement));
+  if (found == known_.end()) {
+    if (!met_before_(statement)) return nullptr;
+    found = known_.emplace(statement, KnownOf(statement, eq)).first;
+  }
+  return found->second && found->second->eq == eq ? &*found->second : nullptr;
+}
+
+// False if the variable is not there.
+bool Assignment::AssignKnown(const KnownAssignment& known) {
+  struct Running {
+    int& depth;
+    explicit Running(int& depth) : depth(depth) { ++depth; }
+    ~Running() { --depth; }
+  } running(running_);
+  const NameReference& target = known.target;
+  if (!target.IsFresh(store_.Generation(), state_.subDepth))
+    target.Remember(store_.CellForStoring(target.upper, state_.subDepth), store_.Generation(), state_.subDepth);
+  const long cell = target.cell;
+  if (cell == 0) return false;
+  if (!known.behind.empty() && Join(known, cell)) return true;
+  state_.lastValue = known.right;
+  expressions_.EvalExpression(known.right.Get());
+  if (!state_.stopFlag) store_.Store(cell, state_.lastValue);
+  return true;
+}
+
+// Appends in place to a text that is too long to be anything but a text. False if there is more to it.
+bool Assignment::Join(const KnownAssignment& known, long cell) {
+  if (state_.stopFlag || state_.notFlag || !store_.HasCell(cell)) return false;
+  const auto* text = std::get_if<Text>(&store_.Value(cell));
+  if (!text || text->Get().size() <= kLongestNumber) return false;
+  const NameReference& joined = known.joined;
+  if (!joined.IsFresh(store_.Generation(), state_.subDepth)) {
+    const long place = store_.FindVisible(joined.upper, state_.subDepth);
+    joined.Remember(place == 0 ? 0 : store_.CellNumberAt(place), store_.Generation(), state_.subDepth);
+  }
+  if (joined.cell != cell) return false;
+  std::string more, value;
+  for (const PlannedTerm& term : known.behind) {
+    if (term.kind == PlannedTerm::kName && !primary_.EvalVariable(term.name, value)) return false;
+    more += term.kind == PlannedTerm::kName ? value : term.text;
+  }
+  state_.lastValue = 0;  // which may share the text
+  std::get<Text>(store_.At(cell)).Append(more);
+  state_.lastValue = store_.At(cell);
+  return true;
 }
 
 Assignment::Target Assignment::FindTarget(std::string name) {

@@ -1,12 +1,15 @@
 // Assignment to variables, properties and elements of arrays, and the declaration of names.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "script/arrays.h"
 #include "script/expressions.h"
+#include "script/known_assignment.h"
 #include "script/outside.h"
+#include "script/plan_cache.h"
 #include "script/script_state.h"
 #include "script/variable_store.h"
 
@@ -25,7 +28,10 @@ class Assignment {
         outside_(outside) {}
 
   // [statement] ends in ":"; its "=" stands at column [eq] (2 or more, from 1).
-  void Assign(std::string statement, long eq);
+  // One met again goes a shorter way.
+  void Assign(const std::string& statement, long eq);
+  // The plain form, which the other is compared with.
+  void AssignLiterally(const std::string& statement, long eq);
 
   // Stores into an element if [statement] is name(index)=value with an array of that name, its "(" at column [paren]
   // (from 1). False if it is not: then it is a command.
@@ -43,6 +49,10 @@ class Assignment {
   void Store(const Target& target);
   void Declare(std::string name);
 
+  const KnownAssignment* Known(const std::string& statement, long eq);
+  bool AssignKnown(const KnownAssignment& known);
+  bool Join(const KnownAssignment& known, long cell);
+
   ScriptState& state_;
   VariableStore& store_;
   Arrays& arrays_;
@@ -50,6 +60,9 @@ class Assignment {
   Expressions& expressions_;
   Primary& primary_;
   Outside& outside_;
+  ByText<std::optional<KnownAssignment>> known_;
+  MetBefore met_before_;
+  int running_ = 0;  // known assignments under way, in one another
 };
 
 }  // namespace corvane::script

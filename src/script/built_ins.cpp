@@ -68,11 +68,9 @@ std::string BuiltIns::EvalPrimary(std::string& token) {
 
 bool BuiltIns::EvalVariable(const NameReference& name, std::string& value) {
   if (state_.stopFlag) return true;
-  if (name.generation != store_.Generation() || name.depth != state_.subDepth) {
+  if (!name.IsFresh(store_.Generation(), state_.subDepth)) {
     const long place = store_.FindVisible(name.upper, state_.subDepth);
-    name.cell = place == 0 ? 0 : store_.CellNumberAt(place);
-    name.generation = store_.Generation();
-    name.depth = state_.subDepth;
+    name.Remember(place == 0 ? 0 : store_.CellNumberAt(place), store_.Generation(), state_.subDepth);
   }
   if (name.cell == 0) return false;
   value = TextOf(store_.Value(name.cell));

@@ -21,6 +21,13 @@ struct NameReference {
   mutable uint64_t generation = 0;
   mutable int depth = 0;
   mutable long cell = 0;
+
+  bool IsFresh(uint64_t now, int at_depth) const { return generation == now && depth == at_depth; }
+  void Remember(long number, uint64_t now, int at_depth) const {
+    cell = number;
+    generation = now;
+    depth = at_depth;
+  }
 };
 
 // A value put back: between marks, or as it is.

@@ -23,8 +23,6 @@ double Digits(std::string_view text) {
   return static_cast<double>(number);
 }
 
-constexpr size_t kLongest = 1000;  // no text beyond it is taken for a number
-
 // No number begins with another character than these, blanks apart. "$" is the currency sign.
 constexpr std::string_view kFirstOfNumber = " +-.0123456789&($";
 
@@ -39,7 +37,7 @@ std::string WithoutCurrencySign(std::string_view text) {
 
 std::optional<double> NumberOf(std::string_view text) {
   if (const double number = Digits(text); number >= 0) return number;
-  if (text.empty() || text.size() > kLongest || kFirstOfNumber.find(text[0]) == std::string_view::npos) return {};
+  if (text.empty() || text.size() > kLongestNumber || kFirstOfNumber.find(text[0]) == std::string_view::npos) return {};
   std::optional<double> number;
   runtime::PassOverErrors([&] { number = runtime::ToNumber(WithoutCurrencySign(text)); });
   return number;

@@ -7,6 +7,9 @@
 
 namespace corvane::script {
 
+// No text of more characters is taken for a number.
+inline constexpr size_t kLongestNumber = 1000;
+
 // As the platform's CDbl reads [text], a "$" included; nothing for a text that is no number or does not fit.
 std::optional<double> NumberOf(std::string_view text);
 inline bool IsNumeric(std::string_view text) {
