@@ -16,9 +16,9 @@ enum DebugButton : long { kRunOn = 0, kStep = 1, kStopScript = 2, kRunOut = 3 };
 
 struct DebugAnswer {
   long button = kRunOn;
-  std::string expression;  // typed to be evaluated
-  std::string count;       // typed as the number of lines to skip
-  long selected = 1;       // the line selected in the list, from 1
+  std::string expression = {};  // typed to be evaluated
+  std::string count = {};       // typed as the number of lines to skip
+  long selected = 1;            // the line selected in the list, from 1
   float left = 0, top = 0;
 };
 

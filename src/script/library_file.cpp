@@ -10,9 +10,11 @@ using runtime::UCase;
 
 namespace {
 
-// As reading line by line does: the last line needs no line end.
+// The last line needs no line end.
 ScriptText ReadLibrary(host::Services& services) {
-  return ScriptText(services.Files.Read(services.App.Path + "\\LibCode.txt") + runtime::kCrLf);
+  std::string text = services.Files.Read(services.App.Path + "\\LibCode.txt");
+  if (!text.ends_with(runtime::kCrLf)) text += runtime::kCrLf;
+  return ScriptText(std::move(text));
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "script/run_code.h"
 
+#include <algorithm>
 #include <new>
 
 #include "runtime/strings.h"
@@ -14,7 +15,6 @@ constexpr int kStatementsBeforeYield = 150;
 constexpr long kMostUnyielded = 15'000;
 // Each run of a function inside an expression takes about 3 KB of the stack, which is 1 MB in the environment.
 constexpr int kDeepestRun = 100;
-constexpr size_t kLongestText = 256u << 20;
 constexpr size_t kShownOfLine = 60, kShownInDebug = 160;
 
 struct Nesting {
@@ -23,9 +23,9 @@ struct Nesting {
   int& depth_;
 };
 
-bool IsTooLong(const Cell& value) {
+size_t SizeOf(const Cell& value) {
   const auto* text = std::get_if<Text>(&value);
-  return text != nullptr && text->Get().size() > kLongestText;
+  return text == nullptr ? 0 : text->Get().size();
 }
 
 }  // namespace
@@ -111,7 +111,7 @@ void CodeRun::TakeStatement(ProgramItem& statement) {
     if (state_.stopFlag) return;
   }
   Dispatch(statement);
-  if (IsTooLong(state_.lastValue) || state_.resultText.size() > kLongestText) {
+  if (std::max(SizeOf(state_.lastValue), state_.resultText.size()) > engine_.longest_text) {
     Report("A text is too long.");
     state_.stopFlag = true;
   }
