@@ -1,6 +1,7 @@
 #include "script/assignment.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "runtime/error.h"
 #include "runtime/strings.h"
@@ -48,18 +49,18 @@ void Assignment::AssignLiterally(const std::string& text, long eq) {
   if (Evaluate(right)) Store(target);
 }
 
-void Assignment::Assign(const std::string& statement, long eq) {
+void Assignment::Assign(std::string_view statement, long eq) {
   const KnownAssignment* known = Known(statement, eq);
-  if (!known || !AssignKnown(*known)) AssignLiterally(statement, eq);
+  if (!known || !AssignKnown(*known)) AssignLiterally(std::string(statement), eq);
 }
 
-const KnownAssignment* Assignment::Known(const std::string& statement, long eq) {
+const KnownAssignment* Assignment::Known(std::string_view statement, long eq) {
   if (statement.size() > kLongestKnown) return nullptr;
   if (running_ == 0 && known_.size() > kMostKnown) known_.clear();
-  auto found = known_.find(std::string_view(statement));
+  auto found = known_.find(statement);
   if (found == known_.end()) {
     if (!met_before_(statement)) return nullptr;
-    found = known_.emplace(statement, KnownOf(statement, eq)).first;
+    found = known_.emplace(statement, KnownOf(std::string(statement), eq)).first;
   }
   return found->second && found->second->eq == eq ? &*found->second : nullptr;
 }
@@ -121,12 +122,17 @@ Assignment::Target Assignment::FindTarget(std::string name) {
 // The part before the "." may be a variable that holds the name of the object.
 std::string Assignment::PropertyAddress(const std::string& name) {
   const long dot = InStr(name, ".");
-  std::string object = Left(name, dot - 1);
-  const bool before = state_.lvalueMode;
-  state_.lvalueMode = true;
-  std::string token = object;
-  const std::string value = primary_.EvalPrimary(token);
-  state_.lvalueMode = before;
+  const std::string object = Left(name, dot - 1);
+  struct LeftSide {
+    bool& mode;
+    const bool before = std::exchange(mode, true);
+    ~LeftSide() { mode = before; }
+  };
+  std::string token = object, value;
+  {
+    const LeftSide left_side{state_.lvalueMode};
+    value = primary_.EvalPrimary(token);
+  }
   return (value.empty() ? object : value) + Mid(name, dot);
 }
 

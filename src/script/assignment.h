@@ -29,7 +29,7 @@ class Assignment {
 
   // [statement] ends in ":"; its "=" stands at column [eq] (2 or more, from 1).
   // One met again goes a shorter way.
-  void Assign(const std::string& statement, long eq);
+  void Assign(std::string_view statement, long eq);
   // The plain form, which the other is compared with.
   void AssignLiterally(const std::string& statement, long eq);
 
@@ -49,7 +49,7 @@ class Assignment {
   void Store(const Target& target);
   void Declare(std::string name);
 
-  const KnownAssignment* Known(const std::string& statement, long eq);
+  const KnownAssignment* Known(std::string_view statement, long eq);
   bool AssignKnown(const KnownAssignment& known);
   bool Join(const KnownAssignment& known, long cell);
 

@@ -101,11 +101,24 @@ std::string_view WordOperatorAt(std::string_view text, size_t at) {
   return {};
 }
 
-int RankOf(std::string_view op) {
+namespace {
+
+int SearchedRank(std::string_view op) {
   if (op.empty()) return 0;
   const std::string entry = std::string("<").append(op).append(">");
   const size_t at = kPrecedence.find(entry);
   return at == std::string_view::npos ? 0 : kPrecedence[at + entry.size()] - '0';
+}
+
+}  // namespace
+
+int RankOf(std::string_view op) {
+  static const auto ranks = [] {
+    std::array<int, 256> by_character{};
+    for (char c : kOperatorSet) by_character[static_cast<unsigned char>(c)] = SearchedRank(std::string_view(&c, 1));
+    return by_character;
+  }();
+  return op.size() == 1 ? ranks[static_cast<unsigned char>(op[0])] : SearchedRank(op);
 }
 
 std::vector<bool> QuotedColumns(std::string_view text) {

@@ -268,6 +268,25 @@ TEST_F(BuiltInsTest, AUserFunctionRunsACallAndGivesTheLastValue) {
   EXPECT_EQ(runner.ran.back(), "Call FF(\"2" + std::string(1, listSep) + "a b\"):");
 }
 
+TEST_F(BuiltInsTest, AComputedQuoteStandsBareInACall) {
+  Dim("x");
+  Assign("x=CHR(34)");
+  Value("ff(\"a\"&x&\"b\")");
+  EXPECT_EQ(runner.ran, Texts{"Call FF(\"a\"b\"):"});
+}
+
+TEST_F(BuiltInsTest, ACallWithoutArgumentsHasAnEmptyOne) {
+  EXPECT_EQ(Primary("LEN()"), "0");
+  EXPECT_EQ(Messages(), Texts());
+  Value("ff()");
+  EXPECT_EQ(runner.ran, Texts{"Call FF():"});
+}
+
+TEST_F(BuiltInsTest, ATruthInsideACallMakesTheValueATruth) {
+  EXPECT_EQ(Value("LEN(TRIM(\"True\"))"), "boolean True");
+  EXPECT_EQ(Value("LEN(TRIM(\"True\")&\"\")"), "4");
+}
+
 TEST_F(BuiltInsTest, AFailedCallGivesWhateverWasThere) {
   state.lastValue = std::string("before");
   EXPECT_EQ(Primary("ff()"), "before");

@@ -242,6 +242,27 @@ TEST_F(Evaluated, AMarkInATextTakesAValueAndEndsAllTheSame) {
   Value("\"{}\"&2*-1&\"{}\"&ff(\"{}\")*-2");
 }
 
+TEST_F(Evaluated, ATruthInsideMakesTheWholeValueOneUnlessItIsJoined) {
+  Expect(*this, {{"ff(\"True\")", "True"}, {"ff(ff(\"True\"))", "boolean True"}, {"ff(ff(\"True\")&\"\")", "True"}});
+}
+
+TEST_F(Evaluated, NegativeNumbersOfOneLengthCompareAsTexts) {
+  Expect(*this, {{"-9<-5", "boolean False"}, {"-5<-9", "boolean True"}});
+}
+
+TEST_F(Evaluated, ABigNumberPutBackIsTakenApartAtItsSign) {
+  EXPECT_EQ(Value("(1E15*10)*2"), "32");
+  EXPECT_EQ(errors.messages, Texts{"Variable 1E is not found"});
+  errors.messages.clear();
+  Value("ff(\"1E+15\")-1");
+  EXPECT_EQ(errors.messages, Texts{"Variable 1E is not found"});
+}
+
+TEST_F(Evaluated, ANumberOfAThousandDigitsIsAText) {
+  const std::string digits(1001, '1');
+  Expect(*this, {{("\"" + digits + "\"+1").c_str(), (digits + "1").c_str()}});
+}
+
 TEST_F(Evaluated, AnEmptyExpressionIsTrueAndLeavesTheValue) {
   state.lastValue = "before";
   EXPECT_TRUE(Truth(""));
