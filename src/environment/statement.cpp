@@ -1,5 +1,6 @@
 #include "environment/statement.h"
 
+#include <cstdint>
 #include <cstring>
 
 #include "environment/doubtful_points.h"
@@ -264,14 +265,14 @@ std::string_view MemberOfAttribute(std::string_view line) {
 
 size_t NameHash(std::string_view name) {
   const runtime::CodePage& page = runtime::AnsiCodePage();
-  size_t hash = 1469598103934665603u;
+  uint64_t hash = 1469598103934665603u;
   for (size_t i = 0; i < name.size(); ++i) {
     unsigned char byte = static_cast<unsigned char>(name[i]);
     bool lead = page.IsLead(byte) && i + 1 < name.size();
     hash = (hash ^ (lead ? byte : page.Upper(byte))) * 1099511628211u;
     if (lead) hash = (hash ^ static_cast<unsigned char>(name[++i])) * 1099511628211u;
   }
-  return hash;
+  return static_cast<size_t>(hash);
 }
 
 }  // namespace corvane::environment

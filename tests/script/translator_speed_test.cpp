@@ -1,7 +1,7 @@
-#include <ctime>
 #include <gtest/gtest.h>
 
 #include "tests/script/translated.h"
+#include "tests/support/processor_time.h"
 
 namespace corvane::script {
 namespace {
@@ -13,10 +13,7 @@ std::string Repeated(const std::string& code, int count) {
 }
 
 double Seconds(const std::string& code) {
-  const std::clock_t start = std::clock();
-  const Translated translated(code);
-  EXPECT_FALSE(translated.flat.empty());
-  return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+  return tests::SecondsOf([&] { EXPECT_FALSE(Translated(code).flat.empty()); });
 }
 
 // A bound for slow machines and sanitizers; in a release build it takes a small part of it.
