@@ -1,6 +1,7 @@
 #include "script/arrays.h"
 
 #include <cmath>
+#include <new>
 
 #include "runtime/error.h"
 #include "script/numbers.h"
@@ -13,7 +14,17 @@ bool IsSlot(long slot) {
   return slot >= 1 && slot <= Arrays::kSlots;
 }
 
-constexpr long kOutOfMemory = 7;
+runtime::Error OutOfMemory() {
+  return runtime::Error(7, "Out of memory");
+}
+
+void Grow(std::vector<Cell>& elements, size_t size) {
+  try {
+    elements.resize(size);
+  } catch (const std::bad_alloc&) {
+    throw OutOfMemory();
+  }
+}
 
 }  // namespace
 
@@ -49,11 +60,11 @@ std::string Arrays::Element(const std::vector<Cell>& elements, std::string_view 
 
 void Arrays::ArrayStore(long slot, double index) {
   if (!IsSlot(slot)) return errors_.ReportError("You can use only 20 arrays.");
-  if (index > kHighest) throw runtime::Error(kOutOfMemory, "Out of memory");
+  if (index > kHighest) throw OutOfMemory();
   std::vector<Cell>& elements = slots_[static_cast<size_t>(slot - 1)];
   const auto place = static_cast<size_t>(std::nearbyint(index));
   if (place == 0) throw runtime::Error(runtime::kSubscriptOutOfRange);
-  if (elements.size() < place) elements.resize(place);
+  if (elements.size() < place) Grow(elements, place);
   elements[place - 1] = state_.lastValue;
 }
 

@@ -14,7 +14,7 @@ class Arrays {
  public:
   static constexpr long kSlots = 20;
   // The highest index; beyond it an assignment fails as one fails when the memory is used up.
-  static constexpr double kHighest = 4'000'000;
+  static constexpr double kHighest = 1'000'000;
 
   Arrays(ScriptState& state, ErrorReport& errors) : state_(state), errors_(errors) {}
 

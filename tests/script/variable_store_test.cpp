@@ -1,5 +1,6 @@
 #include "script/variable_store.h"
 
+#include <ctime>
 #include <gtest/gtest.h>
 #include <random>
 
@@ -155,6 +156,23 @@ TEST(VariableStore, TheIndexAnswersAsASearchOfTheText) {
     }
   }
   EXPECT_GT(found, 10000);
+}
+
+// Processor seconds of many look-ups among [names] names.
+double SecondsOfLookups(int names) {
+  VariableStore store;
+  for (int i = 0; i < names; ++i) store.Declare("NAME" + std::to_string(i));
+  const std::string first = "NAME0", last = "NAME" + std::to_string(names - 1);
+  long found = 0;
+  const std::clock_t start = std::clock();
+  for (int i = 0; i < 100000; ++i)
+    found += store.FindVisible(i % 2 == 0 ? first : last, 0) + store.CellForStoring("MISSING", 1);
+  EXPECT_GT(found, 0);
+  return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+}
+
+TEST(VariableStore, ALookupCostsTheSameAmongManyNames) {
+  EXPECT_LT(SecondsOfLookups(10000), 8 * SecondsOfLookups(10) + 0.05);  // a walk would cost a thousand times as much
 }
 
 }  // namespace
