@@ -6,6 +6,13 @@ Failure Failure::Error(long number, const std::string& text) {
   return {static_cast<HRESULT>(0x800A0000u + static_cast<unsigned long>(number)), text};
 }
 
+std::string Ledger::Left() const {
+  std::string text;
+  for (const auto& [name, count] : objects_by_name)
+    if (count != 0) text += (text.empty() ? "" : ", ") + name + " " + std::to_string(count);
+  return text;
+}
+
 long Ledger::Calls(const std::string& name) const {
   const auto found = calls_.find(name);
   return found == calls_.end() ? 0 : found->second;

@@ -28,6 +28,9 @@ class Ledger {
   long objects = 0;     // published and not yet let go
   long references = 0;  // to them, all together
   long sinks = 0;       // bound to an event
+  std::map<std::string, long> objects_by_name;
+  // "CodeModule 1, VBE 2": those of which there are any.
+  std::string Left() const;
   // What went wrong since the start.
   long dropped_sinks = 0;           // never unbound: they went with the object that raised their event
   long sink_failures = 0;           // codes that came back from a handler of an event

@@ -61,11 +61,13 @@ HRESULT Raise(const Failure& failure, EXCEPINFO* exception, bool defer_text) {
 Published::Published(Stage& stage, std::shared_ptr<void> target, const ObjectTable& table)
     : stage_(stage), target_(std::move(target)), table_(table), born_(stage.NextBirth()) {
   ++Book().objects;
+  ++Book().objects_by_name[table_.name];
   ++Book().references;
 }
 
 Published::~Published() {
   --Book().objects;
+  --Book().objects_by_name[table_.name];
 }
 
 Ledger& Published::Book() const {
