@@ -8,6 +8,7 @@
 #include "cli/inspect_command.h"
 #include "cli/list_command.h"
 #include "cli/plain_services.h"
+#include "cli/run_script.h"
 #include "cli/script_command.h"
 #include "cli/shown_path.h"
 #include "cli/view_command.h"
@@ -213,14 +214,26 @@ class CommandLine {
   }
 
   void DefineScript() {
-    CLI::App* script = Define("script", "check a script for places that do what its author hardly meant", [this] {
+    CLI::App* script = Define("script", "run a script without windows, and put out its result", [this] {
       return WithFile(command_, path_, [this](const std::string& bytes) {
-        return CheckScriptFile(bytes, path_, command_.code_page, command_.out, command_.errors);
+        if (check_) return CheckScriptFile(bytes, path_, command_.code_page, command_.out, command_.errors);
+        script_.json = messages_ == "json";
+        script_.code_page = command_.code_page;
+        return RunScriptFile(bytes, script_, command_.out, command_.errors);
       });
     });
-    script->add_option("FILE", path_, "a script; what it includes is not read")->required();
-    script->add_flag("--check", check_, "list these places: line, what it does, how to write it; 1 if there is any")
-        ->required();
+    script->add_option("FILE", path_, "a script")->required();
+    script->add_flag("--check", check_,
+                     "do not run it, list the places that do what its author hardly meant: line, what it does, how to "
+                     "write it; 1 if there is any");
+    script->add_option("--answer", script_.answers, "the answers to its boxes, in order: a text, ok, or cancel")
+        ->allow_extra_args(false);
+    script->add_option("--param", script_.parameters, "its parameters, in order")->allow_extra_args(false);
+    script->add_option("--library", script_.library,
+                       "folder of LibCode.txt and WorkShop; the installed one if left out");
+    script->add_flag("--plan", script_.plan, "put out the statements in place of running them");
+    script->add_option("--messages", messages_, "how boxes are told: text or json")
+        ->check(CLI::IsMember({"text", "json"}));
     AddCodePage(script, "1252");
   }
 
@@ -228,7 +241,8 @@ class CommandLine {
   CLI::App app_{"Corvane, a project explorer for Visual Basic 6"};
   DeskOptions desk_;
   ListOptions list_;
-  std::string path_, filter_, mode_;
+  ScriptOptions script_;
+  std::string path_, filter_, mode_, messages_;
   bool html_ = false, check_ = false;
   int role_ = 0;
   std::function<int()> run_;

@@ -1,8 +1,8 @@
 #include "script/block_reader.h"
 
 #include "runtime/strings.h"
-#include "script/code_lines.h"
 #include "script/form_pages.h"
+#include "script/line_comments.h"
 #include "script/marks.h"
 #include "script/script_path.h"
 
@@ -148,12 +148,13 @@ BlockReader::Piece BlockReader::ReadPiece(std::string_view behind_mark) {
 void BlockReader::ReadLines(Piece& piece, std::string_view first) {
   piece.many_lines = true;
   piece.code = first;
-  bool in_literal = LiteralIsOpen(first, false);
+  LineComments comments;
+  comments.Begin(first);
   for (;;) {
     const auto line = text_.NextLine();
-    piece.closed = !line || (!in_literal && ClosesBlock(*line));
+    piece.closed = !line || (!comments.InLiteral() && ClosesBlock(*line));
     if (piece.closed) return;
-    const auto code = in_literal ? std::string(*line) : WithoutComment(*line);
+    const auto code = comments.CodeOf(*line);
     if (!code) continue;
     const std::string upper = runtime::UCase(*code);
     if (runtime::Holds(upper, "END SUB") && !runtime::Holds(upper, "\"")) {
@@ -167,7 +168,6 @@ void BlockReader::ReadLines(Piece& piece, std::string_view first) {
       if (!piece.rest.empty()) piece.rest += kCrLf;
       return;
     }
-    in_literal = LiteralIsOpen(*code, in_literal);
   }
 }
 

@@ -95,6 +95,7 @@ void frmLib::Reset() {
   around_.services.Screen.SetMousePointer(host::vbHourglass);
   ScriptState fresh;
   fresh.wizardMode = from_library_;
+  fresh.planOn = plan_;
   fresh.scriptParams = std::move(state_.scriptParams);
   fresh.lastValue = std::move(state_.lastValue);
   state_ = std::move(fresh);

@@ -35,6 +35,8 @@ class frmLib : public CodeRunner, private Dialogs {
   // The same for a FORM block or the name of a kept one, from inside a run.
   void RunDialog(const std::string& form, bool show);
   void StopMe();
+  // Whether runs begin as behind a SHOWPLAN.
+  void ShowPlan(bool plan) { plan_ = plan; }
   std::string ResolveScriptPath(const std::string& spec);
 
   // One piece of code: the loop of the language.
@@ -68,7 +70,7 @@ class frmLib : public CodeRunner, private Dialogs {
   Engine engine_;
   std::string menu_text_;
   int depth_ = 0;
-  bool running_ = false, from_library_ = false, stop_asked_ = false;
+  bool running_ = false, from_library_ = false, stop_asked_ = false, plan_ = false;
 };
 
 }  // namespace corvane::script

@@ -37,4 +37,9 @@ void ScriptText::GoTo(const Place& place) {
   at_ = place.at;
 }
 
+std::string WithLineEnds(std::string text) {
+  if (runtime::Holds(text, "\r")) return text;
+  return runtime::Replace(text, "\n", runtime::kCrLf);
+}
+
 }  // namespace corvane::script

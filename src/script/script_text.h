@@ -37,4 +37,7 @@ class ScriptText {
   mutable size_t last_place_ = std::string::npos;
 };
 
+// A text whose lines end in LF alone with CR LF; others as they are.
+std::string WithLineEnds(std::string text);
+
 }  // namespace corvane::script

@@ -1,0 +1,21 @@
+// `corvane script FILE`: runs a script without windows.
+#pragma once
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+namespace corvane::cli {
+
+struct ScriptOptions {
+  std::vector<std::string> answers, parameters;
+  std::string library;  // the folder of LibCode.txt and WorkShop; the data folder if empty
+  bool json = false, plan = false;
+  int code_page = 0;  // 0: the one in force
+};
+
+// Puts the result text out on [out] as it is, each box on [errors]. Ctrl+C ends the script at its next yield. 0, or 1
+// if an error box came up.
+int RunScriptFile(const std::string& file_bytes, const ScriptOptions& options, std::ostream& out, std::ostream& errors);
+
+}  // namespace corvane::cli

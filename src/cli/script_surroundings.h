@@ -1,0 +1,107 @@
+// The windows and the machine around a script on the command line: nothing is shown, and nobody steps.
+#pragma once
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+#include "script/frm_lib.h"
+
+namespace corvane::cli {
+
+// No project is open: every list and text of one is empty, and what would change one fails.
+class NoProject : public script::IdeAccess, public script::IdeCommands {
+ public:
+  std::string ProjectName() override { return {}; }
+  std::string ProjectFileName() override { return {}; }
+  std::string Components(const std::string&) override { return {}; }
+  std::string GetProp(const std::string&) override { return {}; }
+  void SetProp(const std::string&, const std::string&) override { Fail(); }
+  std::string FindLine(const std::string&) override { return {}; }
+  std::string Declaration(const std::string&) override { return {}; }
+  std::string ProcLines(const std::string&) override { return {}; }
+  std::string CodeLines(const std::string&) override { return {}; }
+  std::string ReadCode(const std::string&) override { return {}; }
+  std::string GetSelection(const std::string&) override { return {}; }
+  std::string Add(const std::string&) override { return {}; }
+  std::string SetPicture(const std::string&) override { return {}; }
+
+  void Replace(const std::string&, const std::string&) override { Fail(); }
+  void Create(const std::string&, const std::string&) override { Fail(); }
+  void Remove(const std::string&) override { Fail(); }
+  void ReplaceLine(const std::string&) override { Fail(); }
+  void DeleteCode(const std::string&) override { Fail(); }
+  void InsertCode(const std::string&, bool) override { Fail(); }
+  bool GoCodeLine(const std::string&) override { return false; }
+  void Open(const std::string&) override { Fail(); }
+
+ private:
+  [[noreturn]] static void Fail() { throw runtime::Error(runtime::kObjectNotSet); }
+};
+
+// The workshop without its window: its edit box is empty until PUTCODE fills it.
+class WorkshopTexts : public script::Workshop, public script::WorkshopWindow {
+ public:
+  explicit WorkshopTexts(host::Services& services) : services_(services) {}
+
+  std::string Code() override { return code_; }
+  long SelStart() override { return sel_start_; }
+  std::vector<std::string> Sorted(std::vector<std::string> items) override {
+    return script::SortedAsListed(std::move(items));
+  }
+  void Display() override {}
+  std::string LibraryText() override;
+  void ShowResult(const std::string&) override {}
+  void SetScriptFile(const std::string&) override {}
+  void PutCode(const std::string& text) override { code_ = text; }
+  void SetSelStart(long start) override { sel_start_ = start; }
+
+ private:
+  host::Services& services_;
+  std::string code_;
+  long sel_start_ = 0;
+};
+
+// Its lines DIM, CONST and HELP do what they do in a dialog; controls are passed over, and the page is answered with
+// Next. A block with a NAME is kept.
+class PassedForms : public script::FormPages {
+ public:
+  bool Form(script::frmLib& lib, script::ScriptText& script, const std::string& opener, bool show) override;
+  void Modify(script::frmLib&, const std::string&) override {}
+  void CloseDlg(const std::string&) override {}
+};
+
+// "Run on" at once.
+class NoDebugWindow : public script::DebugWindow {
+ public:
+  script::DebugAnswer Display(const script::DebugView&) override { return {}; }
+};
+
+// What STOP shows is the result, which is put out anyway.
+class NoResultWindow : public script::ResultWindow {
+ public:
+  void NewWidth(bool) override {}
+  void DisplayRes(const std::string&, const std::string&, const std::string&) override {}
+};
+
+// Deletes files; starts nothing.
+class DeletingPlatform : public script::Platform {
+ public:
+  double Shell(const std::string&) override { throw runtime::Error(runtime::kFileNotFound); }
+  void Open(const std::string&) override { throw runtime::Error(runtime::kFileNotFound); }
+  void Kill(const std::string& path) override;
+};
+
+class NoObjects : public script::ScriptObjectFactory {
+ public:
+  std::shared_ptr<script::ScriptObject> CreateObject(const std::string&) override {
+    throw runtime::Error(runtime::kCannotCreateObject);
+  }
+};
+
+class LocalClock : public script::Clock {
+ public:
+  double Now() override;
+};
+
+}  // namespace corvane::cli

@@ -1,0 +1,75 @@
+#include "cli/run_script.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sstream>
+
+namespace corvane::cli {
+namespace {
+
+struct Ran {
+  int status;
+  std::string out, errors;
+};
+
+Ran RunScript(const std::string& script, const ScriptOptions& options = {}) {
+  std::ostringstream out, errors;
+  const int status = RunScriptFile(script, options, out, errors);
+  return {status, out.str(), errors.str()};
+}
+
+TEST(RunScriptFile, PutsTheResultOutAsItIs) {
+  const Ran ran = RunScript("CODE{\na <%=1%>\n}\n");
+  EXPECT_EQ(ran.out, "a 1\r\n");
+  EXPECT_EQ(ran.errors, "");
+  EXPECT_EQ(ran.status, 0);
+}
+
+TEST(RunScriptFile, AnErrorBoxIsCancelledAndTheStatusIsOne) {
+  const Ran ran = RunScript("CODE{\n<%=1:foo bar:=2%>\n}\n");
+  EXPECT_EQ(ran.out, "1");
+  EXPECT_EQ(ran.errors, "Weaver: foo bar: *** Unknown function ***\r\nfoo bar:\r\n=2:\r\n\n");
+  EXPECT_EQ(ran.status, 1);
+}
+
+TEST(RunScriptFile, AnErrorBoxAnsweredWithOkLetsTheRunGoOn) {
+  const Ran ran = RunScript("CODE{\n<%=1:foo bar:=2%>\n}\n", {.answers = {"ok"}, .parameters = {}, .library = {}});
+  EXPECT_EQ(ran.out, "12\r\n");
+  EXPECT_EQ(ran.status, 1);
+}
+
+TEST(RunScriptFile, AnswersGoToTheBoxesInTheirOrder) {
+  const std::string script =
+      "CODE{\n<%\ndim aa,bb\naa=inputbox(\"Name?\",\"Ask\",\"nobody\")\nbb=msgbox(\"Sure?\")\n=aa\n=bb\n%>\n}\n";
+  EXPECT_EQ(RunScript(script, {.answers = {"Ann", "cancel"}, .parameters = {}, .library = {}}).out, "AnnFalse");
+  EXPECT_EQ(RunScript(script).out, "nobodyTrue");
+  EXPECT_EQ(RunScript(script).errors, "Ask: Name?\nCorvane: Sure?\n");
+}
+
+TEST(RunScriptFile, BoxesAsJson) {
+  ScriptOptions options;
+  options.json = true;
+  EXPECT_EQ(RunScript("CODE{\n<%print(1):foo bar%>\n}\n", options).errors,
+            "{\"box\":\"error\",\"title\":\"Weaver\",\"message\":\"foo bar: *** Unknown function ***\","
+            "\"flat\":\"foo bar:\\u000d\\u000a\",\"answer\":\"cancel\"}\n"
+            "{\"box\":\"print\",\"title\":\"Print Box\",\"message\":\"1\\u000d\\u000a\",\"answer\":\"ok\"}\n");
+}
+
+TEST(RunScriptFile, ParametersFillVariables) {
+  ScriptOptions options;
+  options.parameters = {"one", "two"};
+  EXPECT_EQ(RunScript("CODE{\n<%\ndim aa,bb\ngetparams(aa,bb)\n=bb\n=aa\n%>\n}\n", options).out, "twoone");
+}
+
+TEST(RunScriptFile, ThePlanIsPutOutInPlaceOfTheResult) {
+  ScriptOptions options;
+  options.plan = true;
+  EXPECT_EQ(RunScript("CODE{\n<%\nprint(1)\n%>\n}\n", options).out, "print(1):\r\n");
+}
+
+TEST(RunScriptFile, FormsDeclareTheirNamesAndArePassed) {
+  EXPECT_EQ(RunScript("FORM{\nDIM aa\nCONST bb = 5\nTEXT NAME=t\n}\nCODE{\n<%=aa:=bb%>\n}\n").out, "05\r\n");
+}
+
+}  // namespace
+}  // namespace corvane::cli
