@@ -16,7 +16,7 @@ constexpr struct {
   std::string_view found, replacement;
 } kTidying[] = {
     {R"(+"")", ""},
-    {R"(="+"'"+)", R"(='")"},
+    {R"(="+"'"+)", R"(='"+)"},
     {R"(+"'"+")", R"("')"},
     {R"(+""+")", ""},
 };

@@ -183,6 +183,28 @@ TEST_F(AssignmentTest, OnlyTwentyArraysWithOkAndWithCancel) {
   EXPECT_TRUE(state.stopFlag);
 }
 
+TEST_F(AssignmentTest, CancelStopsTheRunAtEachMessageOfAnArray) {
+  for (int i = 0; i < 21; ++i) Dim("a" + std::to_string(i) + "()");
+  errors.cancel = true;
+  const struct {
+    std::function<void()> act;
+    const char* message;
+  } cases[] = {
+      {[&] { AssignElement("a1(true)=5"); }, "a1 Array index is not numeric."},
+      {[&] { AssignElement("a1(1)="); }, "a1 Bad expression."},
+      {[&] { Primary("a20(1)"); }, "Index is out of bounds."},
+      {[&] { Primary("UBOUND(a20)"); }, "Index is out of bounds."},
+      {[&] { Primary("a1(0)"); }, "Array's Index Error."},
+      {[&] { Primary("a1(\"x\")"); }, "Array's Index Error."},
+  };
+  for (const auto& c : cases) {
+    state.stopFlag = false;
+    c.act();
+    EXPECT_EQ(Messages(), Texts{c.message});
+    EXPECT_TRUE(state.stopFlag) << c.message;
+  }
+}
+
 TEST_F(AssignmentTest, DimOfAVariableClearsItDimOfAnArrayTakesANewSlot) {
   Dim("a,ar()");
   Assign("a=5");

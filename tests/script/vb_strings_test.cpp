@@ -43,8 +43,13 @@ TEST(VbStrings, NamesOfAnSqlTextAreJoined) {
 
 TEST(VbStrings, ANameOfATextIsQuotedAndTidied) {
   EXPECT_EQ(VBSTR("like :sName,", true), "\"like \"+\"'\"+sName\"',\"");
-  EXPECT_EQ(VBSTR("name=:sName,", true), "\"name='\"sName\"',\"");
-  EXPECT_EQ(VBSTR("name=:txtA.Text,", true), "\"name='\"txtA.Text\"',\"");
+  EXPECT_EQ(VBSTR("name=:sName,", true), "\"name='\"+sName\"',\"");
+  EXPECT_EQ(VBSTR("name=:txtA.Text,", true), "\"name='\"+txtA.Text\"',\"");
+}
+
+TEST(VbStrings, ANameAtTheEndIsJoinedOnBothSides) {
+  EXPECT_EQ(VBSTR("name=:sName", true), "\"name='\"+sName+\"'\"");
+  EXPECT_EQ(VBSTR("id=:nId", true), "\"id=\"+CStr(nId)");
 }
 
 TEST(VbStrings, SourceBecomesText) {
