@@ -11,10 +11,6 @@ namespace corvane::script {
 namespace {
 
 constexpr int kStatementsBeforeYield = 150;
-// Runs that are too short to yield may follow one another without end.
-constexpr long kMostUnyielded = 15'000;
-// Each run of a function inside an expression takes about 3 KB of the stack, which is 1 MB in the environment.
-constexpr int kDeepestRun = 100;
 constexpr size_t kShownOfLine = 60, kShownInDebug = 160;
 
 struct Nesting {

@@ -10,6 +10,11 @@ namespace corvane::script {
 
 class CodeRun {
  public:
+  // Each run of a function inside an expression takes a part of the stack, which is 1 MB in the environment.
+  static constexpr int kDeepestRun = 100;
+  // Statements over all runs: those that are each too short to yield may follow one another without end.
+  static constexpr long kMostUnyielded = 15'000;
+
   explicit CodeRun(Engine& engine) : engine_(engine), state_(engine.state) {}
 
   // Cleans and translates [text], and runs it.

@@ -34,14 +34,21 @@ void PlainLib::RunCode(std::string text) {
   Engine& engine = Parts();
   ScriptState& state = engine.state;
   state.lvalueMode = false;
+  if (engine.nested_runs >= CodeRun::kDeepestRun) {
+    if (!state.stopFlag) engine.errors.ReportError("Calls are nested too deep.");
+    state.stopFlag = true;
+    return;
+  }
   text = PrepareSource(text, engine.errors);
   if (text.size() < 3) return;
   Run run;
   run.whole = run.unread = TranslateCode(text, state, engine.errors);
+  engine.nested_runs++;
   runtime::PassOverErrors([&] {
     if (state.labelSearch > 0) Search(run, run.unread);
     Loop(run);
   });
+  engine.nested_runs--;
 }
 
 void PlainLib::Loop(Run& run) {
@@ -49,7 +56,8 @@ void PlainLib::Loop(Run& run) {
   ScriptState& state = engine.state;
   while (!run.ended) {
     if (state.stopFlag) return;
-    if (run.counter > 150) {
+    if (run.counter > 150 || ++engine.statements_unyielded > CodeRun::kMostUnyielded) {
+      engine.statements_unyielded = 0;
       engine.outside.services.Loop.DoEvents();
       run.counter = 0;
     }
