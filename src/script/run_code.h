@@ -11,7 +11,7 @@ namespace corvane::script {
 class CodeRun {
  public:
   // Each run of a function inside an expression takes a part of the stack, which is 1 MB in the environment.
-  static constexpr int kDeepestRun = 100;
+  static constexpr int kDeepestRun = 200;
   // Statements over all runs: those that are each too short to yield may follow one another without end.
   static constexpr long kMostUnyielded = 15'000;
 
