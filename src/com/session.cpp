@@ -53,7 +53,7 @@ namespace {
 
 constexpr UINT kLookAgain = 50;  // milliseconds
 
-// Sessions with a handler that is still running below a disconnection, and the timer that looks after them.
+// Sessions of which something is still running below a disconnection, and the timer that looks after them.
 struct Leaving {
   std::vector<std::unique_ptr<Session>> sessions;
   UINT_PTR timer = 0;
@@ -68,8 +68,8 @@ Leaving& LeavingSessions() {
 void CALLBACK LookAgain(HWND, UINT, UINT_PTR, DWORD) {
   Leaving& leaving = LeavingSessions();
   std::vector<std::unique_ptr<Session>> done;
-  const auto first = std::partition(leaving.sessions.begin(), leaving.sessions.end(),
-                                    [](auto& session) { return session->IsInAct(); });
+  const auto first =
+      std::partition(leaving.sessions.begin(), leaving.sessions.end(), [](auto& session) { return session->IsBusy(); });
   std::move(first, leaving.sessions.end(), std::back_inserter(done));
   leaving.sessions.erase(first, leaving.sessions.end());
   if (leaving.sessions.empty() && leaving.timer) {
@@ -81,7 +81,7 @@ void CALLBACK LookAgain(HWND, UINT, UINT_PTR, DWORD) {
 }  // namespace
 
 void LetGo(std::unique_ptr<Session> session) {
-  if (!session->IsInAct()) return;
+  if (!session->IsBusy()) return;
   Leaving& leaving = LeavingSessions();
   leaving.sessions.push_back(std::move(session));
   if (!leaving.timer) leaving.timer = SetTimer(nullptr, 0, kLookAgain, &LookAgain);

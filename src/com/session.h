@@ -18,6 +18,8 @@ class Home {
   virtual forms::Toolkit& Toolkit() = 0;
   // The environment's main window: the add-in's windows stand in front of it and modal ones disable it.
   virtual void SetHostWindow(HWND window) = 0;
+  // Whether code of the library's windows is running on the stack: an act of the user, or more than that.
+  virtual bool IsBusy() { return Toolkit().IsInAct(); }
 };
 using NewHome = std::function<std::unique_ptr<Home>()>;
 
@@ -33,7 +35,7 @@ class Session {
   // Closes every window. Handlers that are running go on behind it.
   void Disconnect(addin::DisconnectMode mode);
   addin::Connect& AddIn() { return connect_; }
-  bool IsInAct() { return home_->Toolkit().IsInAct(); }
+  bool IsBusy() { return home_->IsBusy(); }
 
  private:
   const ModuleUse use_;
@@ -41,7 +43,7 @@ class Session {
   addin::Connect connect_;
 };
 
-// Destroys [session] as soon as none of its handlers is running: at once, or from the environment's message loop.
+// Destroys [session] as soon as nothing of its windows is running: at once, or from the environment's message loop.
 void LetGo(std::unique_ptr<Session> session);
 
 }  // namespace corvane::com

@@ -16,6 +16,7 @@ class Win32Home : public Home {
   host::Services& Services() override { return list_; }
   forms::Toolkit& Toolkit() override { return toolkit_; }
   void SetHostWindow(HWND window) override { toolkit_.SetHostWindow(window); }
+  bool IsBusy() override { return toolkit_.IsInAct() || toolkit_.Yard()->IsVisited(); }
 
  private:
   toolkit_win32::Win32Toolkit toolkit_;

@@ -31,6 +31,9 @@ class WindowYard {
   // The toolkit is gone: all goes now.
   void Close();
   bool IsClosed() const { return closed_; }
+  // Whether a message of one of our windows is running, those of the system's own loops included: while the user moves
+  // a window or has its menu open.
+  bool IsVisited() const { return visits_ > 0; }
 
  private:
   void Clear();

@@ -230,6 +230,29 @@ TEST_F(Connecting, ItIsLoadedAndUnloadedManyTimesInOneSession) {
   }
 }
 
+// The system's own loop runs inside the window's message then, and no act of the add-in does.
+TEST_F(Connecting, ADisconnectionWhileTheUserMovesTheWindowWaitsForTheMove) {
+  ASSERT_EQ(host.StartUp(), S_OK);
+  Click("Standard", kButton);
+  const HWND explorer = Explorer();
+  ASSERT_NE(explorer, nullptr);
+  bool was_moved = false, was_shown = true, was_there = false;
+  window.Later(200, [&] {
+    GUITHREADINFO thread{};
+    thread.cbSize = sizeof(thread);
+    was_moved = GetGUIThreadInfo(GetCurrentThreadId(), &thread) && (thread.flags & GUI_INMOVESIZE);
+    EXPECT_EQ(host.UnloadByUser(), S_OK);
+    was_shown = IsWindowVisible(explorer);
+    was_there = IsWindow(explorer);
+    PostKey(window.Handle(), VK_ESCAPE);
+  });
+  SendMessageW(explorer, WM_SYSCOMMAND, SC_MOVE, 0);
+  EXPECT_TRUE(was_moved);
+  EXPECT_FALSE(was_shown);
+  EXPECT_TRUE(was_there) << "its message was still running";
+  EXPECT_TRUE(window.PumpUntil([&] { return !IsWindow(explorer); }));
+}
+
 TEST_F(Connecting, TheEnvironmentsKeysAreItsOwnWhileItHasTheFocus) {
   ASSERT_EQ(host.StartUp(), S_OK);
   Click("Standard", kButton);
