@@ -25,6 +25,7 @@ HRESULT ClassFactory::CreateInstance(IUnknown* outer, REFIID iid, void** object)
   if (!object) return E_POINTER;
   *object = nullptr;
   if (outer) return CLASS_E_NOAGGREGATION;
+  ModuleUse::Pin();
   return Guarded([&] { return ComPointer(new AddIn(new_home_))->QueryInterface(iid, object); });
 }
 

@@ -30,7 +30,7 @@ HRESULT STDAPICALLTYPE DllGetClassObject(REFCLSID id, REFIID iid, void** object)
 }
 
 HRESULT STDAPICALLTYPE DllCanUnloadNow() {
-  return ModuleUse::Count() == 0 ? S_OK : S_FALSE;
+  return ModuleUse::MayBeUnloaded() ? S_OK : S_FALSE;
 }
 
 HRESULT STDAPICALLTYPE DllRegisterServer() {

@@ -6,6 +6,7 @@
 extern "C" {
 
 HRESULT STDAPICALLTYPE DllGetClassObject(REFCLSID id, REFIID iid, void** object);
+// S_FALSE for good once an add-in was made.
 HRESULT STDAPICALLTYPE DllCanUnloadNow();
 // For the user who calls it.
 HRESULT STDAPICALLTYPE DllRegisterServer();

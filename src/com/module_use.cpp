@@ -9,6 +9,7 @@ namespace corvane::com {
 namespace {
 
 std::atomic<long> uses = 0;
+std::atomic<bool> pinned = false;
 
 HMODULE ThisModule() {
   HMODULE module = nullptr;
@@ -29,6 +30,17 @@ void ModuleUse::Remove() {
 
 long ModuleUse::Count() {
   return uses;
+}
+
+void ModuleUse::Pin() {
+  if (pinned.exchange(true)) return;
+  HMODULE module = nullptr;
+  GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_PIN,
+                     reinterpret_cast<LPCWSTR>(&uses), &module);
+}
+
+bool ModuleUse::MayBeUnloaded() {
+  return uses == 0 && !pinned;
 }
 
 std::wstring ModulePath() {

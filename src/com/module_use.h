@@ -18,6 +18,11 @@ class ModuleUse {
   static void Add();
   static void Remove();
   static long Count();
+
+  // From now on the library stays in the process to its end. A message of its windows may run at any time that it could
+  // be unloaded, and each unloading leaves something of the C++ runtime behind.
+  static void Pin();
+  static bool MayBeUnloaded();
 };
 
 // The file that this code was loaded from. Throws the system's error where it cannot be told.

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 #include <vector>
 
+#include "com/com_pointer.h"
 #include "com/exports.h"
 #include "com/module_use.h"
 #include "com/registry_edit.h"
@@ -185,19 +186,32 @@ TEST_F(RegistrationTest, InstallingTakesAWordForTheWholeMachine) {
   EXPECT_EQ(DllInstall(TRUE, L"everywhere"), E_INVALIDARG);
 }
 
+constexpr CLSID kOurs = {0x8C3B7E52, 0x4D1F, 0x4B7A, {0x9E, 0x65, 0x2F, 0x0C, 0x61, 0xA7, 0xD9, 0x4B}};
+
 TEST(Exports, TheClassIsTheAddInsAlone) {
-  const CLSID ours = {0x8C3B7E52, 0x4D1F, 0x4B7A, {0x9E, 0x65, 0x2F, 0x0C, 0x61, 0xA7, 0xD9, 0x4B}};
-  EXPECT_EQ(DllCanUnloadNow(), S_OK);
+  const long before = ModuleUse::Count();
   void* object = nullptr;
-  EXPECT_EQ(DllGetClassObject(ours, IID_IClassFactory, &object), S_OK);
+  EXPECT_EQ(DllGetClassObject(kOurs, IID_IClassFactory, &object), S_OK);
   EXPECT_EQ(DllCanUnloadNow(), S_FALSE);
+  EXPECT_EQ(ModuleUse::Count(), before + 1);
   static_cast<IUnknown*>(object)->Release();
-  EXPECT_EQ(DllCanUnloadNow(), S_OK);
   EXPECT_EQ(DllGetClassObject(IID_IUnknown, IID_IClassFactory, &object), CLASS_E_CLASSNOTAVAILABLE);
   EXPECT_EQ(object, nullptr);
-  EXPECT_EQ(DllGetClassObject(ours, IID_IDispatch, &object), E_NOINTERFACE);
-  EXPECT_EQ(DllGetClassObject(ours, IID_IClassFactory, nullptr), E_POINTER);
-  EXPECT_EQ(DllCanUnloadNow(), S_OK);
+  EXPECT_EQ(DllGetClassObject(kOurs, IID_IDispatch, &object), E_NOINTERFACE);
+  EXPECT_EQ(DllGetClassObject(kOurs, IID_IClassFactory, nullptr), E_POINTER);
+  EXPECT_EQ(ModuleUse::Count(), before);
+}
+
+TEST(Exports, TheLibraryStaysForGoodOnceItMadeAnAddIn) {
+  const long before = ModuleUse::Count();
+  ComPointer<IClassFactory> factory;
+  ASSERT_EQ(DllGetClassObject(kOurs, IID_IClassFactory, factory.OutVoid()), S_OK);
+  ComPointer<IDispatch> add_in;
+  EXPECT_EQ(factory->CreateInstance(nullptr, IID_IDispatch, add_in.OutVoid()), S_OK);
+  add_in = {};
+  factory = {};
+  EXPECT_EQ(ModuleUse::Count(), before);
+  EXPECT_EQ(DllCanUnloadNow(), S_FALSE);
 }
 
 }  // namespace
