@@ -17,13 +17,17 @@ void WindowYard::Close() {
   Clear();
 }
 
-// The end of one can be the end of others, and bring new ones.
+// The end of one can be the end of others, and bring new ones. None is destroyed inside the end of another: the messages
+// of that are visits, too.
 void WindowYard::Clear() {
+  if (clearing_) return;
+  clearing_ = true;
   while (!buried_.empty()) {
     const HWND window = buried_.back();
     buried_.pop_back();
     DestroyWindow(window);
   }
+  clearing_ = false;
 }
 
 }  // namespace corvane::toolkit_win32

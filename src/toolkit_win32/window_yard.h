@@ -39,7 +39,7 @@ class WindowYard {
   void Clear();
   std::vector<HWND> buried_;
   int visits_ = 0;
-  bool closed_ = false;
+  bool closed_ = false, clearing_ = false;
 };
 
 }  // namespace corvane::toolkit_win32
