@@ -1,6 +1,8 @@
 #include "toolkit_win32/window.h"
 
+#include <cstdint>
 #include <exception>
+#include <string>
 
 #include "toolkit_win32/toolkit.h"
 #include "toolkit_win32/window_yard.h"
@@ -9,7 +11,16 @@ namespace corvane::toolkit_win32 {
 
 namespace {
 
-constexpr wchar_t kSlotOfWindow[] = L"CorvaneWindow";
+// The property that holds a window's slot. Another copy of this code on the same desktop, in another process or another
+// library of this one, has its own.
+const wchar_t* NameOfSlot() {
+  static const std::wstring name = L"CorvaneWindow" + std::to_wstring(reinterpret_cast<uintptr_t>(&NameOfSlot));
+  return name.c_str();
+}
+
+bool IsOfThisThread(HWND handle) {
+  return GetWindowThreadProcessId(handle, nullptr) == GetCurrentThreadId();
+}
 
 // The child that [message] comes from, when it is one that a control sends to its parent.
 HWND SenderOf(const Message& message) {
@@ -48,7 +59,10 @@ struct WindowSlot {
   Win32Toolkit* toolkit;
   std::shared_ptr<WindowYard> yard;
 
-  static WindowSlot* Of(HWND handle) { return static_cast<WindowSlot*>(GetPropW(handle, kSlotOfWindow)); }
+  // Null for a window of somebody else: what hangs on that is no pointer of ours.
+  static WindowSlot* Of(HWND handle) {
+    return IsOfThisThread(handle) ? static_cast<WindowSlot*>(GetPropW(handle, NameOfSlot())) : nullptr;
+  }
 
   static void Hang(Window& window, HWND handle) {
     auto slot = std::make_unique<WindowSlot>();
@@ -57,7 +71,7 @@ struct WindowSlot {
     slot->yard = window.toolkit_.Yard();
     window.handle_ = handle;
     window.slot_ = slot.get();
-    SetPropW(handle, kSlotOfWindow, slot.release());
+    SetPropW(handle, NameOfSlot(), slot.release());
     window.slot_->original =
         reinterpret_cast<WNDPROC>(SetWindowLongPtrW(handle, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure)));
   }
@@ -86,7 +100,7 @@ struct WindowSlot {
       window->slot_ = nullptr;
       window->sink_.OnGone(*window);
     }
-    RemovePropW(handle, kSlotOfWindow);
+    RemovePropW(handle, NameOfSlot());
     SetWindowLongPtrW(handle, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(slot->original));
     return CallWindowProcW(slot->original, handle, WM_NCDESTROY, w, l);
   }
