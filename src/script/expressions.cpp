@@ -53,6 +53,7 @@ bool Expressions::EvalPart(Rewriting& rewriting, std::string part) {
   for (;;) {
     const std::string before = part;
     std::string inner = ExtractSubExpression(part, errors_);
+    if (inner.empty() && part == before) return EvalSimple(part);
     if (part == kTakenOut || !HoldsTakenOut(part)) return EvalSimple(inner.empty() ? part : inner);
     EvalSimple(inner);
     PutBack(rewriting, part);
@@ -80,7 +81,9 @@ bool Expressions::Finish(Rewriting& rewriting, const std::string& working) {
 bool Expressions::Rewrite(Rewriting& rewriting, std::string working) {
   while (!working.empty()) {
     const std::string before = working;
-    rewriting.result = EvalPart(rewriting, ExtractSubExpression(working, errors_));
+    std::string part = ExtractSubExpression(working, errors_);
+    if (part.empty() && working == before) break;
+    rewriting.result = EvalPart(rewriting, std::move(part));
     if (!GoesOn(rewriting, working, before)) break;
   }
   return Finish(rewriting, working);

@@ -263,6 +263,11 @@ TEST_F(Evaluated, ANumberOfAThousandDigitsIsAText) {
   Expect(*this, {{("\"" + digits + "\"+1").c_str(), (digits + "1").c_str()}});
 }
 
+TEST_F(Evaluated, AMarkInATextTakesNoValueWhereNothingWasTakenOut) {
+  state.lastValue = std::string(1000, 'x') + "{}{}{}";
+  Expect(*this, {{"2*-1&\"{}\"", "-2{}"}, {"2*-1&\"{}\"", "-2{}"}});
+}
+
 TEST_F(Evaluated, AnEmptyExpressionIsTrueAndLeavesTheValue) {
   state.lastValue = "before";
   EXPECT_TRUE(Truth(""));
