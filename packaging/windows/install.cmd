@@ -12,7 +12,7 @@ if "%~1"=="" goto place
 if /i "%~1"=="/machine" goto machine
 if /i "%~1"=="/64" goto wide
 if /i "%~1"=="/quiet" goto quiet
-echo There is no switch %1. Use install.cmd [/machine] [/64] [/quiet].
+echo There is no switch "%~1". Use install.cmd [/machine] [/64] [/quiet].
 exit /b 2
 :machine
 set "MACHINE=1"
@@ -35,8 +35,9 @@ set "TO=%LOCALAPPDATA%\%NAME%"
 set "SCOPE=user"
 if not defined MACHINE goto registrar
 set "SCOPE=machine"
+rem In a command prompt of 32 bit ProgramFiles is the folder of the 32-bit programs.
 set "PROGRAMS=%ProgramFiles(x86)%"
-if "%BITS%"=="64" set "PROGRAMS=%ProgramFiles%"
+if "%BITS%"=="64" set "PROGRAMS=%ProgramW6432%"
 if not defined PROGRAMS set "PROGRAMS=%ProgramFiles%"
 set "TO=%PROGRAMS%\%NAME%"
 
@@ -50,11 +51,14 @@ if "%BITS%"=="64" if exist "%SystemRoot%\Sysnative\regsvr32.exe" set "REGISTRAR=
 if not exist "%FROM%files.txt" goto incomplete
 if not exist "%LIBRARY%" goto incomplete
 if not exist "%TO%\" mkdir "%TO%" 2>nul
+set "FIRST=1"
+if exist "%TO%\scope.txt" set "FIRST="
 
 rem First the library: while Visual Basic uses the old one nothing changes.
-copy /y "%LIBRARY%" "%TO%\corvane.dll" >nul 2>nul
-if errorlevel 1 if exist "%TO%\corvane.dll" goto inuse
-if errorlevel 1 goto nofolder
+call :copy "%LIBRARY%" "%TO%\corvane.dll"
+if not "%errorlevel%"=="0" if exist "%TO%\corvane.dll" goto inuse
+if not "%errorlevel%"=="0" goto nofolder
+set "COPIED_corvane.dll=1"
 set "FAILED="
 for /f "usebackq delims=" %%F in ("%FROM%files.txt") do call :copyone "%%F"
 if defined FAILED goto notcopied
@@ -64,17 +68,32 @@ if defined FAILED goto notcopied
 
 if defined MACHINE start "" /wait "%REGISTRAR%" /s /n /i:machine "%TO%\corvane.dll"
 if not defined MACHINE start "" /wait "%REGISTRAR%" /s "%TO%\corvane.dll"
-if errorlevel 1 goto notregistered
+rem A program that crashed ended with a negative number.
+if not "%errorlevel%"=="0" goto notregistered
 
-echo Corvane is installed in %TO%.
-echo Start Visual Basic 6 and choose "Corvane - 2000" in the Add-In Manager.
+echo Corvane is installed in "%TO%".
+echo Visual Basic 6 loads it when it starts the next time. The Add-In Manager unloads "Corvane - 2000".
 call :stay
 exit /b 0
 
 :copyone
 if "%~1"=="corvane.dll" exit /b 0
-copy /y "%FROM%%~1" "%TO%\%~1" >nul 2>nul
-if errorlevel 1 set "FAILED=%~1"
+call :copy "%FROM%%~1" "%TO%\%~1"
+if "%errorlevel%"=="0" (set "COPIED_%~1=1") else set "FAILED=%~1"
+exit /b 0
+
+rem What was copied from a medium that cannot be written may not be written itself.
+:copy
+if exist "%~2" attrib -r "%~2" >nul 2>nul
+copy /y "%~1" "%~2" >nul 2>nul
+exit /b %errorlevel%
+
+rem An installation that was not there before leaves nothing behind when it fails.
+:takeback
+if not defined FIRST exit /b 0
+for /f "usebackq delims=" %%F in ("%FROM%files.txt") do if defined COPIED_%%F del /f /q "%TO%\%%F" 2>nul
+del /f /q "%TO%\scope.txt" 2>nul
+rmdir "%TO%" 2>nul
 exit /b 0
 
 :stay
@@ -85,18 +104,20 @@ exit /b 0
 echo Files are missing beside install.cmd. Unpack the whole zip into a folder and run install.cmd from there.
 goto stop
 :nofolder
-echo The folder %TO% could not be made, or not be written.
-goto stop
+echo The folder "%TO%" could not be made, or not be written.
+goto administrator
 :inuse
-echo %TO%\corvane.dll is in use or may not be written. Close Visual Basic and run install.cmd again.
-goto stop
+echo "%TO%\corvane.dll" is in use or may not be written. Close Visual Basic and run install.cmd again.
+goto administrator
 :notcopied
-echo %TO%\%FAILED% could not be written. Nothing was registered.
-goto stop
+echo "%TO%\%FAILED%" could not be written. Nothing was registered.
+call :takeback
+goto administrator
 :notregistered
 echo Corvane could not be registered.
+call :takeback
+:administrator
 if defined MACHINE echo Run install.cmd /machine as an administrator.
-goto stop
 :stop
 call :stay
 exit /b 1

@@ -13,7 +13,7 @@ if "%~1"=="" goto place
 if /i "%~1"=="/machine" goto machine
 if /i "%~1"=="/64" goto wide
 if /i "%~1"=="/quiet" goto quiet
-echo There is no switch %1. Use uninstall.cmd [/machine] [/64] [/quiet].
+echo There is no switch "%~1". Use uninstall.cmd [/machine] [/64] [/quiet].
 exit /b 2
 :machine
 set "MACHINE=1"
@@ -33,8 +33,9 @@ if exist "%TO%scope.txt" goto found
 if not defined LOCALAPPDATA set "LOCALAPPDATA=%APPDATA%"
 set "TO=%LOCALAPPDATA%\%NAME%\"
 if not defined MACHINE goto check
+rem In a command prompt of 32 bit ProgramFiles is the folder of the 32-bit programs.
 set "PROGRAMS=%ProgramFiles(x86)%"
-if "%NAME%"=="Corvane64" set "PROGRAMS=%ProgramFiles%"
+if "%NAME%"=="Corvane64" set "PROGRAMS=%ProgramW6432%"
 if not defined PROGRAMS set "PROGRAMS=%ProgramFiles%"
 set "TO=%PROGRAMS%\%NAME%\"
 :check
@@ -48,39 +49,56 @@ set "REGISTRAR=%SystemRoot%\System32\regsvr32.exe"
 if exist "%SystemRoot%\SysWOW64\regsvr32.exe" set "REGISTRAR=%SystemRoot%\SysWOW64\regsvr32.exe"
 set "WIDE=%SystemRoot%\System32\regsvr32.exe"
 if exist "%SystemRoot%\Sysnative\regsvr32.exe" set "WIDE=%SystemRoot%\Sysnative\regsvr32.exe"
-if not exist "%TO%corvane.dll" goto remove
+if not exist "%TO%corvane.dll" goto settings
 rem While Visual Basic uses the library it cannot be written, not even as it is; then nothing changes.
-copy /y "%TO%corvane.dll" "%TO%corvane.tmp" >nul 2>nul
-copy /y "%TO%corvane.tmp" "%TO%corvane.dll" >nul 2>nul
+set "COPY=%TEMP%\corvane-%RANDOM%%RANDOM%.tmp"
+attrib -r "%TO%corvane.dll" >nul 2>nul
+copy /y "%TO%corvane.dll" "%COPY%" >nul 2>nul
+copy /y "%COPY%" "%TO%corvane.dll" >nul 2>nul
 set "INUSE=%errorlevel%"
-del /q "%TO%corvane.tmp" 2>nul
+del /f /q "%COPY%" 2>nul
 if not "%INUSE%"=="0" goto inuse
 
 set "HOW=/s /u"
 if "%SCOPE%"=="machine" set "HOW=/s /u /n /i:machine"
 start "" /wait "%REGISTRAR%" %HOW% "%TO%corvane.dll"
-if not errorlevel 1 goto remove
+rem A program that crashed ended with a negative number.
+if "%errorlevel%"=="0" goto settings
 rem A library of 64 bit is refused by the 32-bit program.
 start "" /wait "%WIDE%" %HOW% "%TO%corvane.dll"
-if errorlevel 1 goto notunregistered
+if not "%errorlevel%"=="0" goto notunregistered
+
+:settings
+rem Another Corvane of this user still needs them.
+reg query "HKCU\Software\Microsoft\Visual Basic\6.0\Addins\corvane.Connect" >nul 2>nul
+if "%errorlevel%"=="0" goto remove
+set "SETTINGS=Software\VB and VBA Program Settings"
+reg delete "HKCU\%SETTINGS%\corvane" /f >nul 2>nul
+rem The key above is shared by all programs in Visual Basic: it goes when it was read, and nothing is in it.
+set "READ="
+set "USED="
+for /f "delims=" %%L in ('reg query "HKCU\%SETTINGS%" 2^>nul ^&^& echo read') do (
+  if "%%L"=="read" (set "READ=1") else if not "%%L"=="HKEY_CURRENT_USER\%SETTINGS%" set "USED=1"
+)
+if defined READ if not defined USED reg delete "HKCU\%SETTINGS%" /f >nul 2>nul
 
 :remove
-reg delete "HKCU\Software\VB and VBA Program Settings\corvane" /f >nul 2>nul
 set "STAYS="
 for /f "usebackq delims=" %%F in ("%TO%files.txt") do call :removeone "%%F"
-del /q "%TO%scope.txt" 2>nul
-del /q "%TO%files.txt" 2>nul
+rem The next run needs scope.txt and files.txt.
 if defined STAYS goto notremoved
-echo Corvane is removed. If files of your own are in %TO%, they stay there.
+del /f /q "%TO%scope.txt" 2>nul
+del /f /q "%TO%files.txt" 2>nul
+echo Corvane is removed. If files of your own are in "%TO%", they stay there.
 call :stay
 rem One line to the end: after the first command this file is gone.
-del /q "%TO%uninstall.cmd" & rmdir "%TO%" 2>nul & exit /b 0
+del /f /q "%TO%uninstall.cmd" & rmdir "%TO%" 2>nul & exit /b 0
 
 :removeone
 if "%~1"=="files.txt" exit /b 0
 if "%~1"=="uninstall.cmd" exit /b 0
 if not exist "%TO%%~1" exit /b 0
-del /q "%TO%%~1" 2>nul
+del /f /q "%TO%%~1" 2>nul
 if exist "%TO%%~1" set "STAYS=%~1"
 exit /b 0
 
@@ -89,18 +107,18 @@ if not defined QUIET pause
 exit /b 0
 
 :nothing
-echo Corvane is not installed in %TO%
+echo Corvane is not installed in "%TO%".
 goto stop
 :inuse
-echo %TO%corvane.dll is in use or may not be written. Close Visual Basic and run uninstall.cmd again.
-goto stop
+echo "%TO%corvane.dll" is in use or may not be written. Close Visual Basic and run uninstall.cmd again.
+goto administrator
 :notunregistered
 echo Corvane could not be unregistered, so its files stay.
-if "%SCOPE%"=="machine" echo Run uninstall.cmd as an administrator.
-goto stop
+goto administrator
 :notremoved
-echo %TO%%STAYS% could not be removed.
-goto stop
+echo "%TO%%STAYS%" could not be removed. Run uninstall.cmd again when no program uses it.
+:administrator
+if "%SCOPE%"=="machine" echo Run uninstall.cmd as an administrator.
 :stop
 call :stay
 exit /b 1
