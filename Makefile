@@ -52,7 +52,7 @@ addin-test: addin
 	  echo "The 32-bit tests were not run: this machine has no 32-bit Wine ('make addin-test-32' brings one)."; \
 	fi
 
-# The same for 32 bit in a 32-bit Debian beside the build folder; needs root, and 1.3 GB that are kept for the next time.
+# The same for 32 bit in a 32-bit Debian beside the build folder; needs root, and 1.7 GB that are kept for the next time.
 addin-test-32: addin
 	@scripts/install-packages scripts/packages-addin-test-32.txt
 	cmake --build build/addin32 -j $(JOBS)
@@ -68,13 +68,14 @@ bench: packages
 screenshots: $(program)
 	scripts/screenshots $(program) build/screenshots $(if $(DOCS),docs/images/explorer.png)
 
-# The add-in's windows as they are in Visual Basic, beside those.
+# The add-in's windows as they are in Visual Basic, beside those; DOCS=1 as well.
 .PHONY: screenshots-win32
 screenshots-win32: packages
 	@scripts/install-packages scripts/packages-addin.txt scripts/packages-addin-test.txt
 	cmake --preset addin64 -Wno-dev --log-level=WARNING
 	cmake --build build/addin64 -j $(JOBS) --target corvane_win32_pictures_tests
-	scripts/screenshots-win32 build/addin64/corvane_win32_pictures_tests.exe build/screenshots
+	scripts/screenshots-win32 build/addin64/corvane_win32_pictures_tests.exe build/screenshots \
+	  $(if $(DOCS),docs/images/explorer-windows.png)
 
 # The whole suite under the address and undefined behaviour sanitizers.
 sanitize: packages

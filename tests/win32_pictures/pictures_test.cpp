@@ -1,5 +1,6 @@
 // Every window of the add-in on the Windows API, into PNG files beside those of the desk: in the folder that the
-// environment variable CORVANE_PICTURES names, else in the system's folder for temporary files.
+// environment variable CORVANE_PICTURES names, else in the system's folder for temporary files. CORVANE_PROJECT
+// names the project, which else is the sample of the source tree.
 #include <algorithm>
 #include <cstdlib>
 #include <gtest/gtest.h>
@@ -27,6 +28,11 @@ std::string InTree(const char* name) {
   return path;
 }
 
+std::string Project() {
+  const char* wanted = std::getenv("CORVANE_PROJECT");
+  return wanted ? wanted : InTree("samples/stockroom/Stockroom.vbp");
+}
+
 std::wstring Folder() {
   if (const char* wanted = std::getenv("CORVANE_PICTURES")) return FromUtf8(wanted) + L"\\";
   wchar_t path[MAX_PATH];
@@ -39,7 +45,7 @@ class Pictures : public ::testing::Test {
     toolkit.OnFault = [this](const std::string& what) { faults.push_back(what); };
     services.App.Path = InTree("data");  // as it would be installed: its files lie beside the library
     environment = environment::Environment::Create(services.Files);
-    environment->Open(InTree("samples/stockroom/Stockroom.vbp"));
+    environment->Open(Project());
   }
   ~Pictures() override { EXPECT_EQ(faults, std::vector<std::string>{}); }
 
