@@ -51,6 +51,25 @@ std::string Simplified(const std::string& text) {
   return std::regex_replace(text, std::regex(R"(\s+)"), " ");
 }
 
+TEST(CommandLine, ScriptPutsItsResultOutAndItsBoxesOnStandardError) {
+  const TemporaryFolder folder;
+  const std::string script = folder.Path() + "/a.script";
+  WriteFile(script, "CODE{\n<%msgbox(\"hello\"):=getparams()%>\n}\n");
+  const Ended result = RunCorvane({"script", script, "--param", "Ann"});
+  EXPECT_EQ(result.out, "Ann\r\n");
+  EXPECT_EQ(result.errors, "Corvane: hello\n");
+  EXPECT_EQ(result.status, 0);
+}
+
+TEST(CommandLine, ScriptWithAnErrorBoxEndsWithOne) {
+  const TemporaryFolder folder;
+  const std::string script = folder.Path() + "/a.script";
+  WriteFile(script, "CODE{\n<%=nobody%>\n}\n");
+  EXPECT_EQ(RunCorvane({"script", script}).status, 1);
+  EXPECT_EQ(RunCorvane({"script", script + "x"}).status, 1);
+  EXPECT_EQ(RunCorvane({"script", script, "--messages", "xml"}).status, 2);
+}
+
 TEST(CommandLine, HelpNamesTheCommandsAndIsDone) {
   const Ended result = RunCorvane({"--help"});
   EXPECT_EQ(result.status, 0);

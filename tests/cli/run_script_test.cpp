@@ -1,8 +1,10 @@
 #include "cli/run_script.h"
 
-#include <gmock/gmock.h>
+#include <chrono>
+#include <csignal>
 #include <gtest/gtest.h>
 #include <sstream>
+#include <thread>
 
 namespace corvane::cli {
 namespace {
@@ -69,6 +71,19 @@ TEST(RunScriptFile, ThePlanIsPutOutInPlaceOfTheResult) {
 
 TEST(RunScriptFile, FormsDeclareTheirNamesAndArePassed) {
   EXPECT_EQ(RunScript("FORM{\nDIM aa\nCONST bb = 5\nTEXT NAME=t\n}\nCODE{\n<%=aa:=bb%>\n}\n").out, "05\r\n");
+}
+
+TEST(RunScriptFile, CtrlCEndsAnEndlessScript) {
+  std::signal(SIGINT, SIG_IGN);
+  std::thread user([] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    std::raise(SIGINT);
+  });
+  const Ran ran = RunScript("CODE{\n<%\n=\"begun\"\nwhile 1=1\nwend\n%>\n}\n");
+  user.join();
+  std::signal(SIGINT, SIG_DFL);
+  EXPECT_EQ(ran.out, "begun");
+  EXPECT_EQ(ran.status, 0);
 }
 
 }  // namespace
