@@ -171,9 +171,9 @@ Cell& PushSlot(ScriptState& state, const std::string& slot) {
 
 void Commands::Run(Engine& engine, const std::string& statement, long paren, CodeRun& run) {
   constexpr size_t kShortest = 2;
-  const std::string keyword = runtime::UCase(statement.substr(0, static_cast<size_t>(paren - 1)));
+  const std::string keyword = runtime::UCase(runtime::Left(statement, paren - 1));
   if (RunSpecial(engine, keyword, statement)) return;
-  const std::string text = statement.substr(static_cast<size_t>(paren));
+  const std::string text = runtime::Mid(statement, paren + 1);
   const std::string argument = WithoutBracket(text);
   if (keyword == "WRITE" && text == "):") return around_.changes.InsertCode("", false);
   if (text.size() < kShortest) return;
@@ -189,16 +189,16 @@ void Commands::Run(Engine& engine, const std::string& statement, long paren, Cod
 
 // Those whose argument is not one expression. False for all others.
 bool Commands::RunSpecial(Engine& engine, const std::string& keyword, const std::string& statement) {
-  constexpr size_t kDebug = 6;
+  constexpr long kDebug = 7;
   if (keyword == "ERASE") {
     engine.expressions.EvalExpression(statement);
   } else if (keyword == "REPLACE" || keyword == "CREATE") {
-    RunWithTwo(engine, keyword, statement, WithoutBracket(statement.substr(keyword.size() + 1)));
+    RunWithTwo(engine, keyword, statement, WithoutBracket(runtime::Mid(statement, runtime::Len(keyword) + 2)));
   } else if (keyword == "SHOWPLAN") {
     engine.state.planOn = true;
   } else if (keyword == "DEBUG") {
     if (engine.state.wizardMode) return true;
-    engine.state.debugWatch = statement.substr(kDebug);
+    engine.state.debugWatch = runtime::Mid(statement, kDebug);
     engine.state.debugOn = true;
   } else {
     return false;

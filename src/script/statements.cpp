@@ -73,7 +73,7 @@ void CodeRun::TestCase(ProgramItem& statement) {
 }
 
 void CodeRun::Output(ProgramItem& statement) {
-  std::string text(statement.text.substr(1));
+  std::string text = runtime::Mid(statement.text, 2);
   while (!text.empty()) {
     const std::string part = NextExprPart(text, true);
     engine_.expressions.EvalExpression(part);

@@ -122,6 +122,16 @@ TEST_F(RunErrors, AHeaderThatIsNoNumberEndsThePieceWithoutAMessage) {
   EXPECT_EQ(Boxes(), Lines());
 }
 
+// The fields are read by their width: a column past 99 shifts them, and they may say anything.
+TEST_F(RunErrors, AHeaderThatPointsBeyondItsStatementIsTakenAsItStands) {
+  for (const char* flat : {"-1990083(1):", "0099008print(1):", "0100000", "9900003a=:"}) {
+    CodeRun(lib.Parts()).RunFlat(std::make_shared<FlatProgram>(flat));
+    lib.Parts().state.stopFlag = false;
+  }
+  const std::string commas(110, ',');
+  EXPECT_EQ(RunCode("=1\n" + commas + "=abs(-5)\n=2"), "1");
+}
+
 TEST_F(RunErrors, AFailingConversionEndsThePieceAndTheReaderGoesOnBehindIt) {
   EXPECT_EQ(RunScript("CODE{\n<%=1%>\n<%MOUSEPOINTER(\"abc\"):=2%>\n<%=3%>\n}\n"), "1\n\n3\n");
   EXPECT_EQ(Boxes(), Lines());
