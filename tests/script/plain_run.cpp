@@ -1,10 +1,10 @@
 #include "tests/script/plain_run.h"
 
 #include "runtime/strings.h"
+#include "runtime/variant.h"
 #include "script/arguments.h"
 #include "script/flat_items.h"
 #include "script/marks.h"
-#include "script/numbers.h"
 #include "script/prepare_source.h"
 #include "script/run_code.h"
 #include "script/translator.h"
@@ -23,9 +23,7 @@ const std::string kEnd = "0000008END SUB:";
 const std::string kLine = runtime::kCrLf;
 
 long NumberIn(const std::string& field) {
-  const auto number = NumberOf(field);
-  if (!number) throw runtime::Error(runtime::kTypeMismatch);
-  return static_cast<long>(*number);
+  return runtime::ToLong(field);
 }
 
 }  // namespace
