@@ -6,8 +6,10 @@ namespace corvane::com {
 
 namespace {
 
+// With the system's own code, and not the number that Visual Basic has for it: it goes back to the system.
 void CheckStatus(LSTATUS status) {
-  Check(HRESULT_FROM_WIN32(static_cast<DWORD>(status)));
+  const HRESULT code = HRESULT_FROM_WIN32(static_cast<DWORD>(status));
+  if (FAILED(code)) throw host::Error(static_cast<long>(code), ErrorOf(code).Description());
 }
 
 // An open key.

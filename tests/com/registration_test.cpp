@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <sddl.h>
 #include <vector>
 
 #include "com/com_pointer.h"
@@ -18,6 +19,8 @@ namespace {
 constexpr wchar_t kLibrary[] = L"C:\\Program Files\\Corvane\\corvane.dll";
 // Where everybody's classes and everything of the system's vendor stand.
 const std::vector<std::string> kCommon = {"Software\\Classes", "Software\\Microsoft"};
+constexpr wchar_t kEverything[] = L"D:(A;;KA;;;WD)", kNoValuesSet[] = L"D:(D;;0x2;;;WD)(A;;KA;;;WD)",
+                  kNoLookInside[] = L"D:(D;;0x8;;;WD)(A;;KA;;;WD)";
 constexpr wchar_t kTestKey[] = L"Software\\CorvaneRegistrationTest";
 
 class RegistrationTest : public testing::Test {
@@ -44,6 +47,16 @@ class RegistrationTest : public testing::Test {
   }
   static void Make(const std::wstring& path, DWORD options = 0) {
     RegCloseKey(MakeKey(HKEY_CURRENT_USER, path, options));
+  }
+
+  static void Allow(const std::wstring& path, const wchar_t* who_may_what) {
+    PSECURITY_DESCRIPTOR rights = nullptr;
+    ASSERT_TRUE(ConvertStringSecurityDescriptorToSecurityDescriptorW(who_may_what, SDDL_REVISION_1, &rights, nullptr));
+    HKEY key = nullptr;
+    ASSERT_EQ(RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, WRITE_DAC, &key), ERROR_SUCCESS);
+    EXPECT_EQ(RegSetKeySecurity(key, DACL_SECURITY_INFORMATION, rights), ERROR_SUCCESS);
+    RegCloseKey(key);
+    LocalFree(rights);
   }
 
   // All below [root], a line each: "key\name = value".
@@ -150,6 +163,15 @@ TEST_F(RegistrationTest, ARegistryThatRefusesIsLeftAsItWas) {
   const auto before = Contents(user_);
   EXPECT_EQ(Register(Scope::User, kLibrary), HRESULT_FROM_WIN32(ERROR_CHILD_MUST_BE_VOLATILE));
   EXPECT_EQ(Contents(user_), before);
+}
+
+TEST_F(RegistrationTest, WhatMayNotBeWrittenIsToldAsTheSystemTellsIt) {
+  const std::wstring key = L"Software\\Microsoft\\Visual Basic\\6.0\\Addins\\corvane.Connect";
+  Make(key);
+  Allow(key, kNoValuesSet);
+  EXPECT_EQ(Register(Scope::User, kLibrary), E_ACCESSDENIED);
+  Allow(key, kEverything);
+  EXPECT_EQ(Register(Scope::User, kLibrary), S_OK);
 }
 
 TEST_F(RegistrationTest, ARegistrationThatFailsLeavesTheOneBefore) {
