@@ -1,5 +1,7 @@
 #include "com/registration.h"
 
+#include <vector>
+
 #include "addin/connect.h"
 #include "com/add_in.h"
 #include "com/guarded.h"
@@ -57,6 +59,11 @@ void RegisterAddIn(RegistryEdit& edit) {
     edit.SetNumber(HKEY_CURRENT_USER, key, L"LoadBehavior", kLoadAtStartup);
 }
 
+// The classes of 64-bit and of 32-bit programs stand apart; all else that is registered is one for both.
+bool HasClass(HKEY root) {
+  return HasKey(root, KeyOfClass(), KEY_WOW64_64KEY) || HasKey(root, KeyOfClass(), KEY_WOW64_32KEY);
+}
+
 }  // namespace
 
 HRESULT Register(Scope scope, const std::wstring& library) noexcept {
@@ -70,11 +77,11 @@ HRESULT Register(Scope scope, const std::wstring& library) noexcept {
 
 HRESULT Unregister(Scope scope) noexcept {
   return Guarded([&] {
-    const LSTATUS statuses[] = {
-        RemoveKey(HKEY_CURRENT_USER, KeyOfAddIn(), kVendors),
-        RemoveKey(RootOf(scope), KeyOfProgId(), kClasses),
-        RemoveKey(RootOf(scope), KeyOfClass(), kClasses),
-    };
+    const HKEY root = RootOf(scope);
+    std::vector<LSTATUS> statuses = {RemoveKey(root, KeyOfClass(), kClasses)};
+    if (!HasClass(root)) statuses.push_back(RemoveKey(root, KeyOfProgId(), kClasses));
+    if (!HasClass(HKEY_CURRENT_USER) && !HasClass(HKEY_LOCAL_MACHINE))
+      statuses.push_back(RemoveKey(HKEY_CURRENT_USER, KeyOfAddIn(), kVendors));
     for (const LSTATUS status : statuses)
       if (status != ERROR_SUCCESS) return HRESULT_FROM_WIN32(static_cast<DWORD>(status));
     return S_OK;

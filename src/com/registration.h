@@ -16,7 +16,8 @@ enum class Scope {
 // [library] is the full path of the library. All or nothing: a registry that refuses is left as it was. A user's choice
 // of when the add-in is loaded stays.
 HRESULT Register(Scope scope, const std::wstring& library) noexcept;
-// Removes all that Register made; tells the first thing that could not be removed, and removes the rest all the same.
+// Removes all that Register made, but what it shares with a registration that remains: for the other scope, or of the
+// library for programs of the other width. Tells the first thing that could not be removed.
 HRESULT Unregister(Scope scope) noexcept;
 
 }  // namespace corvane::com

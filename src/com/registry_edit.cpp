@@ -110,6 +110,10 @@ bool RegistryEdit::Has(HKEY root, const std::wstring& key, const wchar_t* name) 
   return open.Get() && ReadValue(open.Get(), name).there;
 }
 
+bool HasKey(HKEY root, const std::wstring& key, REGSAM view) {
+  return Key(root, key, KEY_QUERY_VALUE | view).Get() != nullptr;
+}
+
 LSTATUS RemoveKey(HKEY root, const std::wstring& key, const std::wstring& keep) {
   const LSTATUS status = RegDeleteTreeW(root, key.c_str());
   if (status != ERROR_SUCCESS && status != ERROR_FILE_NOT_FOUND) return status;

@@ -29,6 +29,9 @@ class RegistryEdit {
   std::vector<std::function<void()>> undo_;
 };
 
+// [view]: KEY_WOW64_64KEY or KEY_WOW64_32KEY. A key that may not be opened is not there.
+bool HasKey(HKEY root, const std::wstring& key, REGSAM view);
+
 // Removes [key] with all below it, and then those above it that are empty, up to [keep], which stays. A key that is not
 // there is removed. Returns the system's code of what refused.
 LSTATUS RemoveKey(HKEY root, const std::wstring& key, const std::wstring& keep);

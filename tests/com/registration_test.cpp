@@ -102,6 +102,12 @@ class RegistrationTest : public testing::Test {
             key + "Description = \"Powerfull Project Explorer with Color code analysis. \"",
             key + "CommandLineSafe = 0", key + "LoadBehavior = " + std::to_string(load)};
   }
+  long CountOfAddInLines() const {
+    const auto lines = Contents(user_);
+    return static_cast<long>(std::count_if(lines.begin(), lines.end(), [](const auto& line) {
+      return line.find("Addins\\corvane.Connect\\") != line.npos;
+    }));
+  }
   static std::vector<std::string> Both(long load = 1) {
     std::vector<std::string> lines = ClassLines();
     for (auto& line : AddInLines(load)) lines.push_back(std::move(line));
@@ -130,6 +136,70 @@ TEST_F(RegistrationTest, AMachineHasTheClassAndTheUserTheAddIn) {
   EXPECT_EQ(Sorted(Contents(machine_)), Sorted(ClassLines()));
   EXPECT_EQ(Unregister(Scope::Machine), S_OK);
   EXPECT_EQ(Contents(machine_), std::vector<std::string>{"Software\\Classes"});
+}
+
+TEST_F(RegistrationTest, TheAddInOfAMachineStaysWithoutTheUsersOwn) {
+  EXPECT_EQ(Register(Scope::Machine, kLibrary), S_OK);
+  EXPECT_EQ(Register(Scope::User, kLibrary), S_OK);
+  EXPECT_EQ(Unregister(Scope::User), S_OK);
+  EXPECT_EQ(Sorted(Contents(machine_)), Sorted(ClassLines()));
+  auto left = AddInLines();
+  left.push_back(kCommon[0]);
+  EXPECT_EQ(Sorted(Contents(user_)), Sorted(left));
+  EXPECT_EQ(Unregister(Scope::Machine), S_OK);
+  EXPECT_EQ(Contents(user_), kCommon);
+}
+
+TEST_F(RegistrationTest, TheUsersAddInStaysWithoutTheMachines) {
+  EXPECT_EQ(Register(Scope::User, kLibrary), S_OK);
+  EXPECT_EQ(Register(Scope::Machine, kLibrary), S_OK);
+  EXPECT_EQ(Unregister(Scope::Machine), S_OK);
+  EXPECT_EQ(Sorted(Contents(user_)), Sorted(Both()));
+  EXPECT_EQ(Contents(machine_), std::vector<std::string>{"Software\\Classes"});
+}
+
+// Classes of 32-bit and of 64-bit programs stand apart, the class's name and the add-in do not.
+TEST_F(RegistrationTest, WhatALibraryOfTheOtherWidthSharesStays) {
+  constexpr REGSAM kOther = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
+  constexpr wchar_t kClass[] = L"Software\\Classes\\CLSID\\{8C3B7E52-4D1F-4B7A-9E65-2F0C61A7D94B}";
+  for (const bool of_machine : {false, true}) {
+    const HKEY root = of_machine ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER;
+    RegCloseKey(MakeKey(root, L"Software\\Classes\\Wow6432Node\\CLSID"));
+    HKEY other = nullptr;
+    ASSERT_EQ(RegCreateKeyExW(root, kClass, 0, nullptr, 0, KEY_READ | kOther, nullptr, &other, nullptr), ERROR_SUCCESS);
+    RegCloseKey(other);
+    if (HKEY same = nullptr; RegOpenKeyExW(root, kClass, 0, KEY_READ, &same) == ERROR_SUCCESS) {
+      RegCloseKey(same);
+      GTEST_SKIP() << "this system has programs of one width alone";
+    }
+    const Scope scope = of_machine ? Scope::Machine : Scope::User;
+    const auto names = [&] {
+      const auto lines = Contents(of_machine ? machine_ : user_);
+      return std::count_if(lines.begin(), lines.end(),
+                           [](const auto& line) { return line.find("Classes\\corvane.Connect") != line.npos; });
+    };
+    EXPECT_EQ(Register(scope, kLibrary), S_OK);
+    EXPECT_EQ(Unregister(scope), S_OK);
+    EXPECT_EQ(names(), 2);
+    EXPECT_EQ(CountOfAddInLines(), 4);
+    EXPECT_EQ(RegDeleteKeyExW(root, kClass, kOther, 0), ERROR_SUCCESS);
+    EXPECT_EQ(Unregister(scope), S_OK);
+    EXPECT_EQ(names(), 0);
+    EXPECT_EQ(CountOfAddInLines(), 0);
+  }
+}
+
+TEST_F(RegistrationTest, AClassThatCannotBeRemovedKeepsWhatBelongsToIt) {
+  constexpr wchar_t kClass[] = L"Software\\Classes\\CLSID\\{8C3B7E52-4D1F-4B7A-9E65-2F0C61A7D94B}";
+  EXPECT_EQ(Register(Scope::User, kLibrary), S_OK);
+  Allow(kClass, kNoLookInside);
+  EXPECT_EQ(Unregister(Scope::User), E_ACCESSDENIED);
+  for (const wchar_t* key :
+       {L"Software\\Classes\\corvane.Connect", L"Software\\Microsoft\\Visual Basic\\6.0\\Addins\\corvane.Connect"})
+    EXPECT_TRUE(HasKey(HKEY_CURRENT_USER, key, 0));
+  Allow(kClass, kEverything);
+  EXPECT_EQ(Unregister(Scope::User), S_OK);
+  EXPECT_EQ(Contents(user_), kCommon);
 }
 
 TEST_F(RegistrationTest, WhatOthersHaveThereStays) {
