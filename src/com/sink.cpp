@@ -17,13 +17,15 @@ Value EventArguments::At(UINT position) const {
 }
 
 bool EventArguments::Flag(UINT position) const {
-  return At(position).ToBool();
+  bool flag = false;
+  host::PassOverErrors([&] { flag = At(position).ToBool(); });
+  return flag;
 }
 
 void EventArguments::Write(UINT position, bool flag) {
   VARIANT* argument = Find(position);
   if (argument && argument->vt == (VT_BYREF | VT_VARIANT)) {
-    *argument->pvarVal = Value(flag).Get();  // a boolean owns nothing
+    if (SUCCEEDED(VariantClear(argument->pvarVal))) *argument->pvarVal = Value(flag).Get();  // a boolean owns nothing
   } else if (argument && argument->vt == (VT_BYREF | VT_BOOL)) {
     *argument->pboolVal = flag ? VARIANT_TRUE : VARIANT_FALSE;
   }

@@ -15,8 +15,8 @@ namespace corvane::com {
 class EventArguments {
  public:
   explicit EventArguments(DISPPARAMS& parameters) : parameters_(parameters) {}
-  Value At(UINT position) const;  // Empty where it is not there
-  bool Flag(UINT position) const;
+  Value At(UINT position) const;   // Empty where it is not there
+  bool Flag(UINT position) const;  // False where it is not there or cannot be read
   void Write(UINT position, bool flag);
 
  private:

@@ -125,6 +125,42 @@ TEST_F(EventsTest, FlagsMayComeInVariants) {
   EXPECT_EQ(flag.boolVal, VARIANT_FALSE);
 }
 
+TEST_F(EventsTest, AFlagThatCannotBeReadIsFalse) {
+  auto bound = Bind();
+  VARIANT arguments[3];
+  for (VARIANT& argument : arguments) VariantInit(&argument);
+  arguments[2].vt = VT_DISPATCH;
+  arguments[2].pdispVal = object_.Get();
+  arguments[1].vt = VT_ERROR;
+  arguments[1].scode = DISP_E_PARAMNOTFOUND;
+  SAFEARRAY* array = SafeArrayCreateVector(VT_I2, 0, 2);
+  arguments[0].vt = VT_BYREF | VT_ARRAY | VT_I2;
+  arguments[0].pparray = &array;
+  EXPECT_EQ(object_->Raise(1, {arguments[0], arguments[1], arguments[2]}), S_OK);
+  EXPECT_EQ(heard_, "ours;");
+  SafeArrayDestroy(array);
+}
+
+TEST_F(EventsTest, WhatAFlagsVariantHeldIsLetGo) {
+  auto bound = Bind();
+  auto held = New("held");
+  VARIANT flag, arguments[3];
+  VariantInit(&flag);
+  flag.vt = VT_DISPATCH;
+  flag.pdispVal = held.Get();
+  held->AddRef();
+  for (VARIANT& argument : arguments) VariantInit(&argument);
+  arguments[2].vt = VT_DISPATCH;
+  arguments[2].pdispVal = object_.Get();
+  arguments[1].vt = VT_BYREF | VT_VARIANT;
+  arguments[1].pvarVal = &flag;
+  object_->Raise(1, {arguments[0], arguments[1], arguments[2]});
+  EXPECT_EQ(heard_, "ours;");
+  EXPECT_EQ(flag.vt, VT_BOOL);
+  EXPECT_EQ(flag.boolVal, VARIANT_TRUE);
+  EXPECT_EQ(held->References(), 1u);
+}
+
 TEST_F(EventsTest, TheSinkIsOfItsOwnInterfacesAlone) {
   auto bound = Bind();
   const ComPointer<IDispatch> sink = object_->sink;
