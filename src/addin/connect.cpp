@@ -17,6 +17,16 @@ host::ClickHandler Calling(std::function<void()> act) {
   return [act = std::move(act)](const Ref<host::CommandBarControl>&, bool&, bool&) { act(); };
 }
 
+// Not every environment tells when a program starts to run: then there are none.
+Ref<host::VBBuildEvents> BuildEventsOf(host::Events& events) {
+  try {
+    return events.VBBuildEvents();
+  } catch (const host::Error& error) {
+    if (error.Number() != runtime::kNoSuchMember) throw;
+  }
+  return nullptr;
+}
+
 }  // namespace
 
 Connect::Connect(host::Services& services, forms::Toolkit& toolkit) : services(services), toolkit(toolkit) {}
@@ -72,13 +82,12 @@ void Connect::ConnectTo(ConnectMode mode) {
   if (mode == ConnectMode::AfterStartup) ShowIfLastShown();
 }
 
-// Not every environment tells when a program starts to run: then there is no mStart.
 void Connect::BindControls() {
-  Ref<host::VBBuildEvents> build;
-  PassOverErrors([&] { build = Object(VBInstance).Events()->VBBuildEvents(); });
+  Ref<host::Events> events;
+  PassOverErrors([&] { events = Object(VBInstance).Events(); });
   SetMenuHandler(Object(VBInstance).Events()->CommandBarEvents(mcbToolButton));
   SetMenuHand(Object(VBInstance).Events()->CommandBarEvents(mcbMenuItem));
-  if (build) SetmStart(build);
+  if (events) SetmStart(BuildEventsOf(*events));
 }
 
 void Connect::ShowIfLastShown() {

@@ -87,8 +87,8 @@ TEST_F(AddInTest, ConnectingAsksTheEnvironmentForTheseAndNoMore) {
             "get commandbars(); get item(\"Standard\"); get controls(); get count(); get add(1, , , 3); "
             "put visible = True; put state = 0; put style = 1; call pasteface(); put caption = \"Corvane - 2000\"; "
             "get commandbars(); get item(\"Add-Ins\"); get controls(); get add(1); put caption = \"&Corvane - 2000\"; "
-            "get events(); get vbbuildevents(); get events(); get commandbarevents(<control>); "
-            "get events(); get commandbarevents(<control>)");
+            "get events(); get events(); get commandbarevents(<control>); "
+            "get events(); get commandbarevents(<control>); get vbbuildevents()");
   Disconnect();
   EXPECT_EQ(TakeCalls(), "call delete(); call delete()");
 }
@@ -159,6 +159,28 @@ TEST_F(AddInTest, WhatFailsIsShownAndAnsweredWithSuccess) {
   Connect();
   EXPECT_EQ(rooms_.services.prompts.Texts(), std::vector<std::string>{"No events today"});
   EXPECT_TRUE(add_in_->Current());
+}
+
+TEST_F(AddInTest, BuildEventsThatFailAreShownAndTheControlsWork) {
+  environment_.events->Fail("VBBuildEvents", 5, "No runs today");
+  Connect();
+  EXPECT_EQ(rooms_.services.prompts.Texts(), std::vector<std::string>{"No runs today"});
+  environment_.Click();
+  EXPECT_TRUE(WindowShown());
+}
+
+TEST_F(AddInTest, BuildEventsThatTellOfNoRunAreShownToo) {
+  environment_.builds->has_events = false;
+  Connect();
+  EXPECT_EQ(rooms_.services.prompts.Texts(),
+            std::vector<std::string>{"Object or class does not support the set of events"});
+}
+
+TEST_F(AddInTest, AnEnvironmentWithoutBuildEventsIsServedInSilence) {
+  environment_.events->FailWith("VBBuildEvents", DISP_E_MEMBERNOTFOUND);
+  Connect();
+  EXPECT_TRUE(rooms_.services.prompts.Texts().empty());
+  EXPECT_FALSE(environment_.builds->sink);
 }
 
 TEST_F(AddInTest, NoApplicationIsShownToo) {
