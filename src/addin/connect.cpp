@@ -48,8 +48,12 @@ void Connect::SetmStart(Ref<host::VBBuildEvents> source) {
   start = std::move(source);
 }
 
-explorer::frmAddIn& Connect::Window() {
+// Asked before an act of their own begins: from inside it they could never go.
+void Connect::ForgetLeftWindows() {
   if (!toolkit.IsInAct()) left.clear();
+}
+
+explorer::frmAddIn& Connect::Window() {
   if (!form) form = std::make_unique<explorer::frmAddIn>(services, toolkit);
   return *form;
 }
@@ -60,9 +64,11 @@ void Connect::LetGoOfWindow() {
   if (form) form->VBInstance = nullptr;
   if (form && toolkit.IsInAct()) left.push_back(std::move(form));
   form.reset();
+  ForgetLeftWindows();
 }
 
 void Connect::AddinInstance_OnConnection(const Ref<host::VBE>& application, ConnectMode mode) {
+  ForgetLeftWindows();
   VBInstance = application;
   try {
     ConnectTo(mode);
@@ -127,6 +133,7 @@ Ref<host::CommandBarControl> Connect::AddToAddInMenu(const std::string& caption)
 }
 
 void Connect::Show(bool display) {
+  ForgetLeftWindows();
   toolkit.Guard([&] {
     PassOverErrors([&] {
       explorer::frmAddIn& window = Window();
@@ -146,6 +153,7 @@ void Connect::Hide() {
 // The user's program starts with the explorer out of the way. Asking for the state of a window that was never opened
 // loads it, out of sight.
 void Connect::mStart_EnterRunMode() {
+  ForgetLeftWindows();
   toolkit.Guard([&] {
     PassOverErrors([&] {
       explorer::frmAddIn& window = Window();

@@ -68,6 +68,7 @@ class Connect : public explorer::AddInObject {
   void ShowIfLastShown();
   explorer::frmAddIn& Window();
   void LetGoOfWindow();
+  void ForgetLeftWindows();
 
   host::Services& services;
   forms::Toolkit& toolkit;

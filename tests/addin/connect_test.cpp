@@ -82,6 +82,23 @@ TEST_F(Connecting, DisconnectingDuringAYieldOfTheWindowIsSafe) {
   EXPECT_TRUE(WindowShown());
 }
 
+TEST_F(Connecting, AWindowThatOutlivedItsConnectionGoesAtTheNextUse) {
+  const std::vector<std::function<void()>> uses = {[&] { Connect(ConnectMode::Startup); }, [&] { connect.Show(false); },
+                                                   [&] { connect.mStart_EnterRunMode(); }, [&] { Disconnect(); }};
+  for (const auto& use : uses) {
+    Connect(ConnectMode::Startup);
+    connect.Show(false);
+    const auto window = std::make_shared<int>();
+    connect.mfrmAddIn()->Resize = [&, window] { Disconnect(); };
+    environment->EnterRunMode();
+    ASSERT_EQ(connect.mfrmAddIn(), nullptr);
+    EXPECT_EQ(window.use_count(), 2) << "a handler of its own was running";
+    use();
+    EXPECT_EQ(window.use_count(), 1);
+    Disconnect();
+  }
+}
+
 TEST_F(Connecting, DisconnectingWhileARunMinimisesTheWindowIsSafe) {
   Connect(ConnectMode::Startup);
   connect.Show(false);
