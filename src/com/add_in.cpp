@@ -1,5 +1,9 @@
 #include "com/add_in.h"
 
+#include <algorithm>
+#include <string_view>
+
+#include "com/add_in_members.h"
 #include "com/guarded.h"
 #include "com/texts.h"
 #include "com/value.h"
@@ -12,6 +16,16 @@ constexpr const wchar_t* kMethods[] = {L"OnConnection", L"OnDisconnection", L"On
                                        L"OnBeginShutdown"};
 enum MethodId : DISPID { kOnConnection = 1, kOnDisconnection, kOnAddInsUpdate, kOnStartupComplete, kOnBeginShutdown };
 constexpr UINT kArguments[] = {4, 2, 1, 1, 1};
+constexpr wchar_t kPrefix[] = L"AddinInstance_";  // of the same methods as the add-in's own procedures
+
+DISPID FindMethod(std::wstring_view name) {
+  if (CompareStringOrdinal(name.data(), std::min<int>(name.size(), std::size(kPrefix) - 1), kPrefix,
+                           std::size(kPrefix) - 1, TRUE) == CSTR_EQUAL)
+    name.remove_prefix(std::size(kPrefix) - 1);
+  for (size_t i = 0; i < std::size(kMethods); ++i)
+    if (lstrcmpiW(name.data(), kMethods[i]) == 0) return static_cast<DISPID>(i + 1);
+  return DISPID_UNKNOWN;
+}
 
 // The argument at [position] from 0; they stand from the last to the first.
 Value ArgumentAt(const DISPPARAMS& parameters, UINT position) {
@@ -54,17 +68,22 @@ HRESULT AddIn::GetTypeInfo(UINT, LCID, ITypeInfo** info) {
   return DISP_E_BADINDEX;
 }
 
-// Only the methods have names, their arguments have none.
+// Only the members have names, their arguments have none.
 HRESULT AddIn::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) {
   if (!names || !ids || count == 0) return E_INVALIDARG;
   std::fill(ids, ids + count, DISPID_UNKNOWN);
-  for (size_t i = 0; i < std::size(kMethods); ++i)
-    if (lstrcmpiW(names[0], kMethods[i]) == 0) ids[0] = static_cast<DISPID>(i + 1);
+  ids[0] = FindMethod(names[0]);
+  if (ids[0] == DISPID_UNKNOWN) ids[0] = FindMember(names[0]);
   return ids[0] == DISPID_UNKNOWN || count > 1 ? DISP_E_UNKNOWNNAME : S_OK;
 }
 
-HRESULT AddIn::Invoke(DISPID id, REFIID, LCID, WORD how, DISPPARAMS* parameters, VARIANT*, EXCEPINFO*, UINT*) {
-  if (id < kOnConnection || id > kOnBeginShutdown || !(how & DISPATCH_METHOD)) return DISP_E_MEMBERNOTFOUND;
+HRESULT AddIn::Invoke(DISPID id, REFIID, LCID, WORD how, DISPPARAMS* parameters, VARIANT* result, EXCEPINFO*, UINT*) {
+  const ComPointer<AddIn> alive(this);
+  if (id < kOnConnection || id > kOnBeginShutdown) {
+    if (!parameters) return E_INVALIDARG;
+    return Guarded([&] { return InvokeMember(session_.get(), id, how, *parameters, result); });
+  }
+  if (!(how & DISPATCH_METHOD)) return DISP_E_MEMBERNOTFOUND;
   if (!parameters || parameters->cArgs != kArguments[id - 1]) return DISP_E_BADPARAMCOUNT;
   if (parameters->cNamedArgs != 0) return DISP_E_NONAMEDARGS;
   return Guarded([&] {

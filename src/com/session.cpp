@@ -1,6 +1,7 @@
 #include "com/session.h"
 
 #include <algorithm>
+#include <optional>
 #include <vector>
 
 #include "com/guarded.h"
@@ -47,6 +48,18 @@ void Session::Disconnect(addin::DisconnectMode mode) {
   Guarded([&] { connect_.AddinInstance_OnDisconnection(mode); });
   Guarded([&] { CloseAll(home_->Toolkit()); });
   connect_.VBInstance = nullptr;
+}
+
+void Session::Run(const std::function<void(addin::Connect& add_in)>& act) {
+  std::optional<host::Error> failed;
+  home_->Toolkit().Guard([&] {
+    try {
+      act(connect_);
+    } catch (const host::Error& error) {
+      failed = error;
+    }
+  });
+  if (failed) throw *failed;
 }
 
 namespace {

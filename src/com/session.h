@@ -35,6 +35,9 @@ class Session {
   // Closes every window. Handlers that are running go on behind it.
   void Disconnect(addin::DisconnectMode mode);
   addin::Connect& AddIn() { return connect_; }
+  // Calls the add-in from outside its windows. A disconnection in [act] lets the session live to its end. Throws what
+  // [act] throws of host::Error.
+  void Run(const std::function<void(addin::Connect& add_in)>& act);
   bool IsBusy() { return home_->IsBusy(); }
 
  private:

@@ -3,8 +3,10 @@
 
 #include <atomic>
 #include <gtest/gtest.h>
+#include <set>
 
 #include "com/class_factory.h"
+#include "com/dispatch.h"
 #include "com/texts.h"
 #include "forms/headless_toolkit.h"
 #include "tests/com/scripted_environment.h"
@@ -328,7 +330,7 @@ TEST_F(AddInTest, ItsMethodsHaveNamesAndTheseIds) {
     EXPECT_EQ(add_in_->GetIDsOfNames(IID_NULL, names, 1, 0, &id), S_OK);
     EXPECT_EQ(id, expected++);
   }
-  LPOLESTR names[] = {const_cast<LPOLESTR>(L"Show")};
+  LPOLESTR names[] = {const_cast<LPOLESTR>(L"AddinInstance_")};
   DISPID id = 0;
   EXPECT_EQ(add_in_->GetIDsOfNames(IID_NULL, names, 1, 0, &id), DISP_E_UNKNOWNNAME);
   EXPECT_EQ(id, DISPID_UNKNOWN);
@@ -368,6 +370,152 @@ TEST_F(AddInTest, StartupAndShutdownAskNothing) {
   EXPECT_EQ(add_in_->OnAddInsUpdate(nullptr), S_OK);
   EXPECT_EQ(add_in_->OnBeginShutdown(nullptr), S_OK);
   EXPECT_EQ(TakeCalls(), "");
+}
+
+// ---- its public operations, called by name
+
+class ByName : public AddInTest {
+ protected:
+  Dispatch Object() { return Dispatch(add_in_.As<IDispatch>()); }
+  static long ErrorOf(const std::function<void()>& act) {
+    try {
+      act();
+    } catch (const host::Error& error) {
+      return error.Number();
+    }
+    return 0;
+  }
+};
+
+TEST_F(ByName, AllItsOperationsAndEventProceduresHaveOne) {
+  std::set<DISPID> ids;
+  for (const wchar_t* name :
+       {L"FormDisplayed", L"VBInstance", L"MenuHandler", L"MenuHand", L"mStart", L"Hide", L"show",
+        L"AddToAddInCommandBar", L"AddToAddInMenu", L"AddinInstance_OnConnection", L"AddinInstance_OnDisconnection",
+        L"AddinInstance_OnStartupComplete", L"addininstance_OnAddInsUpdate", L"MenuHandler_Click", L"MenuHand_Click",
+        L"mStart_EnterRunMode"}) {
+    LPOLESTR names[] = {const_cast<LPOLESTR>(name)};
+    DISPID id = DISPID_UNKNOWN;
+    EXPECT_EQ(add_in_->GetIDsOfNames(IID_NULL, names, 1, 0, &id), S_OK) << ToAnsi(name);
+    EXPECT_TRUE(ids.insert(id).second) << ToAnsi(name);
+  }
+  EXPECT_FALSE(Object().Has(L"mfrmAddIn"));
+  EXPECT_FALSE(Object().Has(L"mcbToolButton"));
+}
+
+TEST_F(ByName, TheWindowIsShownAndHidden) {
+  Connect();
+  Dispatch object = Object();
+  EXPECT_FALSE(object.Get(L"FormDisplayed").ToBool());
+  object.Call(L"Show", false);
+  EXPECT_TRUE(WindowShown());
+  EXPECT_TRUE(object.Get(L"FormDisplayed").ToBool());
+  EXPECT_EQ(object.Get(L"FormDisplayed").Get().vt, VT_BOOL);
+  EXPECT_TRUE(rooms_.toolkit->Popups().empty());
+  object.Call(L"Show", true);
+  EXPECT_EQ(rooms_.toolkit->Popups().size(), 1u) << "with its menu";
+  object.Call(L"Hide");
+  EXPECT_FALSE(WindowShown());
+  EXPECT_FALSE(object.Get(L"FormDisplayed").ToBool());
+  object.Put(L"FormDisplayed", true);
+  Disconnect();
+  EXPECT_EQ(Setting(), "1");
+}
+
+TEST_F(ByName, TheEnvironmentIsReadAndSet) {
+  Connect();
+  Dispatch object = Object();
+  EXPECT_EQ(object.Get(L"VBInstance").ToObject().Get(), environment_.Root());
+  object.Put(L"VBInstance", Value(static_cast<IDispatch*>(nullptr)));
+  EXPECT_FALSE(object.Get(L"VBInstance").ToObject());
+  object.Put(L"VBInstance", Value(environment_.Root()));
+  EXPECT_EQ(add_in_->Current()->AddIn().VBInstance != nullptr, true);
+  Disconnect();
+}
+
+TEST_F(ByName, TheEventsAreReadBoundAndUnbound) {
+  Connect();
+  Dispatch object = Object();
+  const Value nothing(static_cast<IDispatch*>(nullptr));
+  for (const wchar_t* name : {L"MenuHandler", L"MenuHand"}) {
+    EXPECT_EQ(object.Get(name).ToObject().Get(), environment_.clicks.As<IDispatch>().Get());
+    object.Put(name, nothing);
+    EXPECT_FALSE(object.Get(name).ToObject());
+  }
+  EXPECT_FALSE(environment_.clicks->sink);
+  object.Put(L"MenuHandler", Value(environment_.clicks.As<IDispatch>().Get()));
+  environment_.Click();
+  EXPECT_TRUE(WindowShown());
+  EXPECT_EQ(object.Get(L"mStart").ToObject().Get(), environment_.builds.As<IDispatch>().Get());
+  object.Put(L"mStart", nothing);
+  EXPECT_FALSE(environment_.builds->sink);
+  object.Put(L"mStart", Value(environment_.builds.As<IDispatch>().Get()));
+  environment_.EnterRunMode();
+  EXPECT_EQ(add_in_->Current()->AddIn().mfrmAddIn()->WindowState(), forms::vbMinimized);
+}
+
+TEST_F(ByName, ControlsAreMadeOfACaption) {
+  Connect();
+  TakeCalls();
+  Dispatch object = Object();
+  EXPECT_EQ(object.Get(L"AddToAddInMenu", std::string("&More")).ToObject().Get(),
+            environment_.control.As<IDispatch>().Get());
+  EXPECT_EQ(TakeCalls(),
+            "get commandbars(); get item(\"Add-Ins\"); get controls(); get add(1); put caption = \"&More\"");
+  EXPECT_TRUE(object.Get(L"AddToAddInCommandBar", std::string("More")).ToObject());
+  EXPECT_NE(TakeCalls().find("put caption = \"More\""), std::string::npos);
+  environment_.bars->Fail("Item", 5);
+  EXPECT_FALSE(object.Get(L"AddToAddInMenu", std::string("&More")).ToObject()) << "what could not be made is Nothing";
+}
+
+TEST_F(ByName, TheEventProceduresDoWhatTheEventsDo) {
+  Connect();
+  Dispatch object = Object();
+  object.Call(L"MenuHandler_Click", Value(static_cast<IDispatch*>(nullptr)), false, false);
+  EXPECT_TRUE(WindowShown());
+  object.Call(L"MenuHand_Click", Value(static_cast<IDispatch*>(nullptr)), false, false);
+  EXPECT_EQ(rooms_.toolkit->Popups().size(), 1u);
+  object.Call(L"mStart_EnterRunMode");
+  EXPECT_EQ(add_in_->Current()->AddIn().mfrmAddIn()->WindowState(), forms::vbMinimized);
+}
+
+TEST_F(ByName, WhileNotConnectedThereIsNothing) {
+  Dispatch object = Object();
+  EXPECT_FALSE(object.Get(L"FormDisplayed").ToBool());
+  for (const wchar_t* name : {L"VBInstance", L"MenuHandler", L"MenuHand", L"mStart"})
+    EXPECT_FALSE(object.Get(name).ToObject());
+  object.Call(L"Show", true);
+  object.Call(L"Hide");
+  EXPECT_FALSE(WindowShown());
+  EXPECT_FALSE(object.Get(L"AddToAddInMenu", std::string("&More")).ToObject());
+  EXPECT_EQ(ErrorOf([&] { object.Put(L"FormDisplayed", true); }), 91);
+}
+
+TEST_F(ByName, WhatCannotBeDoneIsTold) {
+  Connect();
+  Dispatch object = Object();
+  EXPECT_EQ(ErrorOf([&] { object.Put(L"FormDisplayed", std::string("perhaps")); }), 13);
+  EXPECT_EQ(ErrorOf([&] { object.Put(L"VBInstance", 5L); }), 424);
+  EXPECT_EQ(ErrorOf([&] { object.Put(L"Show", true); }), 438);
+  EXPECT_EQ(ErrorOf([&] { object.Call(L"FormDisplayed"); }), 438);
+  EXPECT_EQ(ErrorOf([&] { object.Call(L"Show"); }), 450);
+  EXPECT_EQ(ErrorOf([&] { object.Get(L"FormDisplayed", true); }), 450);
+  EXPECT_EQ(ErrorOf([&] { object.Call(L"Show", std::string("perhaps")); }), 13);
+  EXPECT_TRUE(rooms_.services.prompts.Texts().empty());
+}
+
+TEST_F(ByName, ADisconnectionInsideACallWaitsForItsEnd) {
+  Connect();
+  Object().Call(L"Show", false);
+  rooms_.services.loop.on_do_events = [&] {
+    rooms_.services.loop.on_do_events = nullptr;
+    Disconnect();
+    EXPECT_NE(rooms_.toolkit, nullptr);
+  };
+  Object().Call(L"Show", true);
+  EXPECT_EQ(add_in_->Current(), nullptr);
+  RunMessages();
+  EXPECT_EQ(rooms_.toolkit, nullptr);
 }
 
 // ---- the class
