@@ -221,6 +221,26 @@ TEST_F(Connecting, AConnectionThatFailsHalfWayIsEndedLikeAnyOther) {
   EXPECT_EQ(Setting(), "0");
 }
 
+TEST_F(Connecting, WithoutTheMenuTheErrorIsShownAndTheButtonWorks) {
+  environment->Bars().RemoveBar("Add-Ins");
+  ASSERT_EQ(host.StartUp(), S_OK);
+  EXPECT_THAT(boxes.Boxes(), ElementsAre("Object variable or With block variable not set"));
+  ASSERT_TRUE(Click("Standard", kButton));
+  EXPECT_NE(Explorer(), nullptr);
+}
+
+TEST_F(Connecting, EventsOfAControlThatAreRefusedAreShown) {
+  stage.ledger.FailEvery("Events.CommandBarEvents", Failure::Error(5, "No events today"));
+  ASSERT_EQ(host.StartUp(), S_OK);
+  EXPECT_THAT(boxes.Boxes(), ElementsAre("No events today"));
+  EXPECT_NE(FindOnBar("Standard", kButton), nullptr) << "what was made stays";
+  EXPECT_NE(FindOnBar("Add-Ins", kMenuItem), nullptr);
+  stage.ledger.Heal();
+  EXPECT_FALSE(Click("Standard", kButton));
+  EXPECT_EQ(host.ShutDown(), S_OK);
+  EXPECT_EQ(FindOnBar("Standard", kButton), nullptr);
+}
+
 TEST_F(Connecting, ItIsLoadedAndUnloadedManyTimesInOneSession) {
   for (int i = 0; i < 5; ++i) {
     ASSERT_EQ(host.LoadByUser(), S_OK) << i;
