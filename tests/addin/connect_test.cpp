@@ -99,6 +99,32 @@ TEST_F(Connecting, AWindowThatOutlivedItsConnectionGoesAtTheNextUse) {
   }
 }
 
+// Its settings cannot be written.
+class RefusingSettings : public FakeSettings {
+ public:
+  void SaveSetting(const std::string&, const std::string&, const std::string&, const std::string&) override {
+    ++refused;
+    throw host::Error(5);
+  }
+  long refused = 0;
+};
+
+TEST_F(Connecting, SettingsThatRefuseKeepNothingFromEnding) {
+  RefusingSettings settings;
+  host::Services refusing{services.clipboard, services.prompts, settings,       services.app,
+                          services.screen,    services.loop,    services.files, services.pictures};
+  addin::Connect other{refusing, toolkit};
+  other.AddinInstance_OnConnection(environment, ConnectMode::AfterStartup);
+  other.Show(false);
+  other.AddinInstance_OnDisconnection(DisconnectMode::UserClosed);
+  EXPECT_EQ(settings.refused, 1);
+  EXPECT_THAT(services.prompts.Texts(), IsEmpty());
+  EXPECT_FALSE(other.FormDisplayed);
+  EXPECT_EQ(other.mfrmAddIn(), nullptr);
+  EXPECT_TRUE(toolkit.ShownForms().empty());
+  EXPECT_THAT(Captions("Standard"), ElementsAre("Add Project", "Start", "Toolbox"));
+}
+
 TEST_F(Connecting, DisconnectingWhileARunMinimisesTheWindowIsSafe) {
   Connect(ConnectMode::Startup);
   connect.Show(false);

@@ -241,6 +241,36 @@ TEST_F(Connecting, EventsOfAControlThatAreRefusedAreShown) {
   EXPECT_EQ(FindOnBar("Standard", kButton), nullptr);
 }
 
+TEST_F(Connecting, ARegistryThatKeepsNoSettingIsPassedOver) {
+  constexpr wchar_t kApp[] = L"Software\\VB and VBA Program Settings\\Corvane";
+  HKEY app = nullptr;
+  // Nothing that lasts can be made below a key that is gone with the next start of the system.
+  ASSERT_EQ(
+      RegCreateKeyExW(HKEY_CURRENT_USER, kApp, 0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS, nullptr, &app, nullptr),
+      ERROR_SUCCESS);
+  RegCloseKey(app);
+  ASSERT_EQ(host.LoadByUser(), S_OK);
+  ASSERT_TRUE(Click("Standard", kButton));
+  ASSERT_NE(Explorer(), nullptr);
+  EXPECT_EQ(host.UnloadByUser(), S_OK);
+  EXPECT_EQ(Explorer(), nullptr);
+  EXPECT_EQ(Setting(), "") << "it was refused";
+  EXPECT_THAT(boxes.Boxes(), IsEmpty());
+  ForgetSetting();
+}
+
+// A value that is no text is none.
+TEST_F(Connecting, ASettingThatCannotBeReadLeavesTheWindowAway) {
+  const DWORD one = 1;
+  ASSERT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\VB and VBA Program Settings\\Corvane\\Settings",
+                            L"DisplayOnConnect", REG_DWORD, &one, sizeof(one)),
+            ERROR_SUCCESS);
+  ASSERT_EQ(host.LoadByUser(), S_OK);
+  window.Settle();
+  EXPECT_EQ(Explorer(), nullptr);
+  EXPECT_THAT(boxes.Boxes(), IsEmpty());
+}
+
 TEST_F(Connecting, ItIsLoadedAndUnloadedManyTimesInOneSession) {
   for (int i = 0; i < 5; ++i) {
     ASSERT_EQ(host.LoadByUser(), S_OK) << i;
