@@ -186,6 +186,8 @@ LRESULT ControlPeer::OnMessage(Window& window, const Message& message) {
     case WM_SETCURSOR:
       if (LOWORD(message.l) == HTCLIENT && ShowPointer()) return TRUE;
       break;
+    case WM_CAPTURECHANGED:
+      return CaptureChanged(window, message);
     default:
       break;
   }
@@ -240,17 +242,46 @@ LRESULT ControlPeer::MousePressed(Window& window, const Message& message) {
   if (captures_) SetCapture(message.window);
   const forms::Point place = PlaceOf(message);
   const int button = ButtonOf(message.id), shift = ShiftOfMouse(message.w);
-  const bool alive = Tell([&] {
+  const Life self = life_;
+  held_ |= button;
+  ++pressing_;
+  const bool done = Tell([&] {
     if (IsDoubleClick(message.id) && button == forms::vbLeftButton) {
       control_.UserDblClick();
     } else {
       control_.UserMouseDown(button, shift, place.x, place.y);
     }
   });
-  return alive ? OnOwnMessage(window, message) : 0;
+  if (self.expired()) return 0;
+  --pressing_;
+  if (captures_ && GetCapture() != message.window) {  // a window that a handler opened took it
+    TellLostButtons();
+    return 0;
+  }
+  return done ? OnOwnMessage(window, message) : 0;
+}
+
+// Who loses the mouse never hears of the release.
+LRESULT ControlPeer::CaptureChanged(Window& window, const Message& message) {
+  const Life self = life_;
+  const LRESULT answer = OnOwnMessage(window, message);
+  const bool lost = reinterpret_cast<HWND>(message.l) != message.window;
+  if (!self.expired() && lost && pressing_ == 0) TellLostButtons();
+  return answer;
+}
+
+// As releases outside the control, which click nothing.
+void ControlPeer::TellLostButtons() {
+  constexpr forms::Twips kOutside = -forms::kTwipsPerPixel;
+  for (int button : {forms::vbLeftButton, forms::vbRightButton, forms::vbMiddleButton}) {
+    if (!(held_ & button)) continue;
+    held_ &= ~button;
+    if (!Tell([&] { control_.UserMouseUp(button, ShiftNow(), kOutside, kOutside); })) return;
+  }
 }
 
 LRESULT ControlPeer::MouseReleased(Window& window, const Message& message) {
+  held_ &= ~ButtonOf(message.id);
   const forms::Point place = PlaceOf(message);
   const Life self = life_;
   const bool native_first = mouse_ == Mouse::ReleasesLast;

@@ -81,6 +81,8 @@ class ControlPeer : public WindowPeer {
   LRESULT MousePressed(Window& window, const Message& message);
   LRESULT MouseReleased(Window& window, const Message& message);
   LRESULT MouseMoved(Window& window, const Message& message);
+  LRESULT CaptureChanged(Window& window, const Message& message);
+  void TellLostButtons();
   bool WheelPasses(const Message& message);
   forms::Point PlaceOf(const Message& message) const;
   void LeaveFocus();
@@ -88,6 +90,8 @@ class ControlPeer : public WindowPeer {
   std::shared_ptr<const void> life_ = std::make_shared<int>();
   Mouse mouse_ = Mouse::Untold;
   bool captures_ = false;
+  int held_ = 0;      // the buttons whose press was told and whose release was not
+  int pressing_ = 0;  // presses that are being told
   int showing_ = 0;
 };
 

@@ -1,0 +1,56 @@
+// The mouse between press and release: who holds it, and what becomes of a press that the system takes away.
+#include "tests/toolkit_win32/window_fixture.h"
+
+namespace corvane::toolkit_win32 {
+namespace {
+
+using Log = std::vector<std::string>;
+
+class MouseTest : public WindowTest {
+ protected:
+  MouseTest() {
+    pic.Move(120, 120, 1500, 1500), list.Move(1800, 120, 1500, 1500);
+    for (int row = 0; row < 3; ++row) list.AddItem("row " + std::to_string(row));
+    pic.MouseDown = [this](int, int, forms::Twips, forms::Twips) { told.push_back("MouseDown"); };
+    pic.MouseUp = [this](int button, int, forms::Twips x, forms::Twips y) {
+      told.push_back("MouseUp " + std::to_string(button) + (x < 0 && y < 0 ? " outside" : ""));
+    };
+    pic.Click = [this] { told.push_back("Click"); };
+  }
+  void PressOn(const forms::Control& control) {
+    PostMouse(WindowOf(control), WM_LBUTTONDOWN, Middle(WindowOf(control)), MK_LBUTTON);
+  }
+
+  forms::PictureBox pic{form, "pic"};
+  forms::ListBox list{form, "lst"};
+};
+
+TEST_F(MouseTest, ALostCaptureIsAReleaseOutsideTheControl) {
+  Show();
+  PressOn(pic);
+  EXPECT_EQ(GetCapture(), WindowOf(pic));
+  ReleaseCapture();
+  EXPECT_EQ(told, (Log{"MouseDown", "MouseUp 1 outside"}));
+  ReleaseCapture();
+  SetCapture(WindowOf(pic)), ReleaseCapture();
+  EXPECT_EQ(told.size(), 2u) << "without a button nothing is let go";
+}
+
+TEST_F(MouseTest, ACaptureLostWhileThePressIsToldIsToldBehindIt) {
+  Show();
+  pic.MouseDown = [this](int, int, forms::Twips, forms::Twips) {
+    ReleaseCapture();
+    told.push_back("MouseDown");
+  };
+  PressOn(pic);
+  EXPECT_EQ(told, (Log{"MouseDown", "MouseUp 1 outside"}));
+}
+
+TEST_F(MouseTest, AReleaseIsToldOnce) {
+  Show();
+  Click(pic);
+  EXPECT_EQ(told, (Log{"MouseDown", "MouseUp 1", "Click"}));
+}
+
+}  // namespace
+}  // namespace corvane::toolkit_win32
