@@ -261,8 +261,16 @@ LRESULT ControlPeer::MousePressed(Window& window, const Message& message) {
   return done ? OnOwnMessage(window, message) : 0;
 }
 
+// What this does itself is no loss.
+void ControlPeer::FreeMouse() {
+  freeing_ = true;
+  ReleaseCapture();
+  freeing_ = false;
+}
+
 // Who loses the mouse never hears of the release.
 LRESULT ControlPeer::CaptureChanged(Window& window, const Message& message) {
+  if (freeing_) return 0;
   const Life self = life_;
   const LRESULT answer = OnOwnMessage(window, message);
   const bool lost = reinterpret_cast<HWND>(message.l) != message.window;
@@ -284,10 +292,11 @@ LRESULT ControlPeer::MouseReleased(Window& window, const Message& message) {
   held_ &= ~ButtonOf(message.id);
   const forms::Point place = PlaceOf(message);
   const Life self = life_;
+  // Handlers run with the mouse free: they may open windows.
+  if (captures_ && GetCapture() == message.window && ButtonsOf(message.w) == 0) FreeMouse();
   const bool native_first = mouse_ == Mouse::ReleasesLast;
   const LRESULT answer = native_first ? OnOwnMessage(window, message) : 0;
   if (self.expired()) return answer;
-  if (captures_ && GetCapture() == message.window && ButtonsOf(message.w) == 0) ReleaseCapture();
   const bool alive =
       Tell([&] { control_.UserMouseUp(ButtonOf(message.id), ShiftOfMouse(message.w), place.x, place.y); });
   return native_first || !alive ? answer : OnOwnMessage(window, message);

@@ -83,6 +83,7 @@ class ControlPeer : public WindowPeer {
   LRESULT MouseMoved(Window& window, const Message& message);
   LRESULT CaptureChanged(Window& window, const Message& message);
   void TellLostButtons();
+  void FreeMouse();
   bool WheelPasses(const Message& message);
   forms::Point PlaceOf(const Message& message) const;
   void LeaveFocus();
@@ -92,6 +93,7 @@ class ControlPeer : public WindowPeer {
   bool captures_ = false;
   int held_ = 0;      // the buttons whose press was told and whose release was not
   int pressing_ = 0;  // presses that are being told
+  bool freeing_ = false;
   int showing_ = 0;
 };
 

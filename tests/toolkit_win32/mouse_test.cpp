@@ -52,5 +52,17 @@ TEST_F(MouseTest, AReleaseIsToldOnce) {
   EXPECT_EQ(told, (Log{"MouseDown", "MouseUp 1", "Click"}));
 }
 
+TEST_F(MouseTest, AListIsClickedWithTheMouseFree) {
+  Show();
+  HWND held = WindowOf(list);
+  list.Click = [&] { held = GetCapture(); };
+  const POINT first_row{20, 4};
+  PostMouse(WindowOf(list), WM_LBUTTONDOWN, first_row, MK_LBUTTON);
+  EXPECT_EQ(GetCapture(), WindowOf(list));
+  PostMouse(WindowOf(list), WM_LBUTTONUP, first_row);
+  EXPECT_EQ(held, nullptr);
+  EXPECT_EQ(list.ListIndex(), 0);
+}
+
 }  // namespace
 }  // namespace corvane::toolkit_win32
