@@ -19,6 +19,11 @@ constexpr int kPointers[] = {32512, 32512, 32515, 32513, 32512, 32646, 32643, 32
 
 constexpr DWORD kChild = WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN;
 
+bool HoldsFocus(HWND window) {
+  const HWND focus = GetFocus();
+  return focus && (focus == window || IsChild(window, focus));
+}
+
 bool IsMouseMessage(UINT id) {
   return id >= WM_MOUSEFIRST && id <= WM_MOUSELAST;
 }
@@ -111,8 +116,7 @@ void ControlPeer::ShowVisible() {
 
 // The system would leave the keys with a window that takes none.
 void ControlPeer::LeaveFocus() {
-  const HWND focus = GetFocus();
-  if (focus != Handle() && !IsChild(Handle(), focus)) return;
+  if (!HoldsFocus(Handle())) return;
   SetFocus(toolkit_.WindowOf(control_.FormOf()));
 }
 
@@ -181,7 +185,8 @@ LRESULT ControlPeer::OnMessage(Window& window, const Message& message) {
       if (KeyHook::EndsUsedAlt(toolkit_, message)) return 0;
       break;
     case WM_SETFOCUS:
-      if (!FocusCame()) return 0;
+      // A handler may have moved it on: the caret is there already.
+      if (!FocusCame() || !HoldsFocus(message.window)) return 0;
       break;
     case WM_SETCURSOR:
       if (LOWORD(message.l) == HTCLIENT && ShowPointer()) return TRUE;

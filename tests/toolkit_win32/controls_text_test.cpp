@@ -158,6 +158,34 @@ TEST_F(TextTest, BytesWithoutACharacterSurviveAnEdit) {
   EXPECT_EQ(txt.Text(), "\x81zx");
 }
 
+HWND CaretWindow() {
+  GUITHREADINFO state{};
+  state.cbSize = sizeof state;
+  GetGUIThreadInfo(GetCurrentThreadId(), &state);
+  return state.hwndCaret;
+}
+
+TEST_F(TextTest, TheCaretStaysWhereValidateKeepsTheFocus) {
+  txt.Validate = [](bool& cancel) { cancel = true; };
+  Show();
+  txt.SetFocus();
+  ASSERT_EQ(CaretWindow(), WindowOf(txt));
+  Click(memo);
+  EXPECT_EQ(GetFocus(), WindowOf(txt));
+  EXPECT_EQ(CaretWindow(), WindowOf(txt));
+}
+
+TEST_F(TextTest, TheCaretIsWhereAHandlerMovesTheFocusOn) {
+  forms::TextBox last(form, "last");
+  last.Move(120, 2400, 1500, 315);
+  memo.GotFocus = [&] { last.SetFocus(); };
+  Show();
+  txt.SetFocus();
+  Click(memo);
+  EXPECT_EQ(GetFocus(), WindowOf(last));
+  EXPECT_EQ(CaretWindow(), WindowOf(last));
+}
+
 class ComboTest : public TextTest {
  protected:
   ComboTest() {
