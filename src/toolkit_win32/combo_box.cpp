@@ -174,8 +174,10 @@ class DropDownPeer : public ControlPeer {
   }
 
   void RowsChanged() {
-    if (std::exchange(stale_, true)) return;
+    stale_ = true;
+    if (std::exchange(posted_, true)) return;
     toolkit_.Post(LifeOfThis(), [this] {
+      posted_ = false;
       if (IsDropped()) FillRows();
       Changed(forms::Property::Text);
     });
@@ -214,7 +216,8 @@ class DropDownPeer : public ControlPeer {
   forms::ComboBox& combo_;
   Window edit_;
   int filling_ = 0;
-  bool stale_ = false;
+  bool stale_ = false;   // the rows of the system's list
+  bool posted_ = false;  // that rows have changed is shown at the next turn
   bool walked_ = false;  // in the open list, by keys
 };
 

@@ -335,5 +335,16 @@ TEST_F(ComboTest, TheSimpleOneIsAnEditAboveAnOpenList) {
   EXPECT_EQ(simple.ListIndex(), -1);
 }
 
+TEST_F(ComboTest, EachChangeOfTheChosenRowIsShownWhileTheListIsClosed) {
+  chosen.SetListIndex(0);
+  Show();
+  chosen.SetList(0, "first");
+  Pump();
+  EXPECT_EQ(TextOf(WindowOf(chosen)), L"first");
+  chosen.SetList(0, "second");
+  Pump();
+  EXPECT_EQ(TextOf(WindowOf(chosen)), L"second");
+}
+
 }  // namespace
 }  // namespace corvane::toolkit_win32
