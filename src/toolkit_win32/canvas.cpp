@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "toolkit_win32/colors.h"
+#include "toolkit_win32/painted.h"
 #include "toolkit_win32/toolkit.h"
 
 namespace corvane::toolkit_win32 {
@@ -213,7 +214,7 @@ void GdiCanvas::Refresh() {
   const RECT changed = touched_;
   touched_ = {};
   if (!window_) return;
-  InvalidateRect(window_, &changed, FALSE);
+  RepaintWithClear(window_, &changed);
   UpdateWindow(window_);
 }
 

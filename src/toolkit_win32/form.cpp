@@ -87,7 +87,7 @@ void FormWindowPeer::Changed(forms::Property property) {
   const auto is = [&](auto... any) { return property == Property::All || ((property == any) || ...); };
   if (is(Property::Caption)) window_.SetText(ShownText(form_.Caption()));
   if (is(Property::Icon)) ShowIcon();
-  if (is(Property::BackColor)) InvalidateRect(Handle(), nullptr, TRUE);
+  if (is(Property::BackColor)) RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
   if (is(Property::Left, Property::Top, Property::Width, Property::Height)) ShowPlace();
   if (is(Property::WindowState)) ShowState();
   const Life self = life_;

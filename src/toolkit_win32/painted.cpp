@@ -31,6 +31,12 @@ std::vector<HWND> PaintedUnder(HWND window) {
   return {found.rbegin(), found.rend()};
 }
 
+bool IsClear(HWND window) {
+  if (!IsWindowVisible(window)) return false;
+  const PaintedPeer* painted = PaintedAt(window);
+  return painted && painted->IsClear();
+}
+
 void PaintBehind(HWND window, HDC dc) {
   const HWND parent = GetParent(window);
   const RECT place = PlaceInParent(window);
@@ -48,17 +54,40 @@ void PaintBehind(HWND window, HDC dc) {
 
 }  // namespace
 
+void RepaintWithClear(HWND window, const RECT* place) {
+  InvalidateRect(window, place, FALSE);
+  const HWND parent = GetParent(window);
+  if (!parent || !IsWindowVisible(parent)) return;
+  RECT common;
+  for (HWND each = GetWindow(window, GW_CHILD); each; each = GetWindow(each, GW_HWNDNEXT)) {
+    const RECT other = PlaceInParent(each);
+    if ((!place || IntersectRect(&common, place, &other)) && IsClear(each)) InvalidateRect(each, nullptr, FALSE);
+  }
+  const RECT own = PlaceInParent(window);
+  for (HWND each = GetWindow(window, GW_HWNDPREV); each; each = GetWindow(each, GW_HWNDPREV)) {
+    const RECT other = PlaceInParent(each);
+    if (IntersectRect(&common, &own, &other) && IsClear(each)) InvalidateRect(each, nullptr, FALSE);
+  }
+}
+
 void PaintedPeer::CreatePainted(Mouse mouse, bool takes_mouse) {
   takes_mouse_ = takes_mouse;
   Create({nullptr}, mouse);
 }
 
 void PaintedPeer::Repaint() {
-  InvalidateRect(Handle(), nullptr, FALSE);
+  RepaintWithClear(Handle());
+}
+
+// The buttons on it have its colour around them.
+void PaintedPeer::ShowColors() {
+  Repaint();
+  RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 // What showed through at the old place does not at the new one.
 void PaintedPeer::ShowPlace() {
+  Repaint();
   ControlPeer::ShowPlace();
   Repaint();
 }

@@ -13,6 +13,8 @@ class PaintedPeer : public ControlPeer {
   using ControlPeer::ControlPeer;
   // For controls in front of this one. The origin of [dc] is this one's.
   void PaintWithoutGround(HDC dc) { Paint(dc, window_.Client()); }
+  // Whether what lies behind shows through.
+  bool IsClear() const { return !HasGround(); }
 
  protected:
   // A plain window; with [takes_mouse] false, presses go to what lies behind it.
@@ -26,13 +28,17 @@ class PaintedPeer : public ControlPeer {
   void ShowOwn(forms::Property) override { Repaint(); }
   void ShowPlace() override;
   void ShowFont() override { Repaint(); }
-  void ShowColors() override { Repaint(); }
+  void ShowColors() override;
   LRESULT OnOwnMessage(Window& window, const Message& message) override;
 
  private:
   void PaintWindow();
   bool takes_mouse_ = true;
 };
+
+// Has [window] painted again, and what it shows through: clear controls on it and in front of it. [place]: the part
+// that changed, of its client area; null: all of it.
+void RepaintWithClear(HWND window, const RECT* place = nullptr);
 
 // Pixels that a sunken border takes on each side, at 96 dots to the inch.
 inline constexpr int kBorder = 2;

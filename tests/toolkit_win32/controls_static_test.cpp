@@ -41,6 +41,15 @@ class PaintedTest : public WindowTest {
     ReleaseDC(window, dc);
     return color;
   }
+  // What stands on the screen there, without painting anything again.
+  COLORREF ShownAt(forms::Twips x, forms::Twips y) {
+    Pump();
+    const Spot spot = SpotOn(WindowOf(form), {toolkit.Scale().Pixels(x), toolkit.Scale().Pixels(y)});
+    const HDC dc = GetDC(spot.window);
+    const COLORREF color = GetPixel(dc, spot.place.x, spot.place.y);
+    ReleaseDC(spot.window, dc);
+    return color;
+  }
   // The topmost window there, also one that takes no mouse.
   static Spot SpotOn(HWND base, POINT place) {
     const HWND below = ChildWindowFromPointEx(base, place, CWP_SKIPINVISIBLE);
@@ -172,6 +181,51 @@ TEST_F(PaintedTest, LinesAndShapesLieBehindControlsTheLastInFront) {
   button.Click = [&] { ++clicks; };
   Click(button);
   EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(PaintedTest, WhatShowsThroughFollowsAShapeBehindIt) {
+  forms::Shape shape(form, "shp");
+  forms::Label label(form, "lbl");
+  shape.Move(0, 0, 1500, 1500), label.Move(300, 300, 600, 600);
+  label.SetBackStyle(0), label.SetCaption("");
+  shape.SetFillStyle(0), shape.SetFillColor(kRed);
+  Show();
+  EXPECT_EQ(ShownAt(600, 600), kRed);
+  shape.SetFillColor(kBlue);
+  EXPECT_EQ(ShownAt(600, 600), kBlue);
+  shape.SetVisible(false);
+  EXPECT_EQ(ShownAt(600, 600), GetSysColor(COLOR_BTNFACE));
+  shape.SetVisible(true);
+  EXPECT_EQ(ShownAt(600, 600), kBlue);
+  shape.SetLeft(3000);
+  EXPECT_EQ(ShownAt(600, 600), GetSysColor(COLOR_BTNFACE));
+}
+
+TEST_F(PaintedTest, WhatShowsThroughFollowsTheGroundOfItsContainer) {
+  forms::Frame frame(form, "fra");
+  forms::Label on_form(form, "lbl1"), on_frame(frame, "lbl2");
+  on_form.Move(3000, 0, 900, 900), frame.Move(0, 0, 2400, 2400), on_frame.Move(600, 600, 900, 900);
+  for (forms::Label* label : {&on_form, &on_frame}) label->SetBackStyle(0), label->SetCaption("");
+  Show();
+  form.SetBackColor(kGreen);
+  EXPECT_EQ(ShownAt(3300, 300), kGreen);
+  frame.SetBackColor(kRed);
+  EXPECT_EQ(ShownAt(900, 900), kRed);
+}
+
+TEST_F(PaintedTest, WhatShowsThroughFollowsAPictureThatIsDrawnAgain) {
+  forms::PictureBox pic(form, "pic");
+  forms::Label label(pic, "lbl");
+  pic.Move(0, 0, 2400, 2400), label.Move(600, 600, 900, 900);
+  label.SetBackStyle(0), label.SetCaption("");
+  Show();
+  pic.FillBox(0, 0, 2400, 2400, kRed);
+  EXPECT_EQ(ShownAt(900, 900), kRed);
+  pic.FillBox(0, 0, 2400, 2400, kBlue);
+  pic.Refresh();
+  EXPECT_EQ(ShownAt(900, 900), kBlue);
+  label.SetBackStyle(1), label.SetBackColor(kGreen);
+  EXPECT_EQ(ShownAt(900, 900), kGreen);
 }
 
 class ToolbarTest : public PaintedTest {
