@@ -14,7 +14,9 @@ class ScrollBarPeer : public ControlPeer {
  public:
   ScrollBarPeer(Win32Toolkit& toolkit, forms::ScrollBar& bar) : ControlPeer(toolkit, bar), bar_(bar) {
     const bool flat = bar.Kind() == forms::ControlKind::HScrollBar;
-    Create({L"SCROLLBAR", static_cast<DWORD>(flat ? SBS_HORZ : SBS_VERT)}, Mouse::Untold);
+    // The system gives the focus to one with a tab stop alone when it is clicked.
+    const DWORD focus = bar.CanTakeFocus() ? WS_TABSTOP : 0;
+    Create({L"SCROLLBAR", static_cast<DWORD>(flat ? SBS_HORZ : SBS_VERT) | focus}, Mouse::Untold);
   }
 
  protected:

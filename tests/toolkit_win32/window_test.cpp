@@ -373,5 +373,21 @@ TEST_F(Surface, ControlsOnItAreShown) {
   EXPECT_TRUE(IsWindowVisible(WindowOf(edit)));
 }
 
+TEST_F(Window, AClickOnAScrollBarTakesTheFocus) {
+  forms::TextBox txt(form, "txt");
+  forms::VScrollBar bar(form, "vs");
+  bar.Move(3000, 300, 255, 1500);
+  Show();
+  ASSERT_EQ(form.ActiveControl(), &txt);
+  const HWND window = WindowOf(bar);
+  const LPARAM low = MAKELPARAM(5, Client(window).bottom - 4);
+  PostMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, low);  // the system waits for the release in a loop of its own
+  PostMessageW(window, WM_LBUTTONUP, 0, low);
+  Pump();
+  EXPECT_EQ(form.ActiveControl(), &bar);
+  EXPECT_EQ(GetFocus(), window);
+  EXPECT_EQ(bar.Value(), 1);
+}
+
 }  // namespace
 }  // namespace corvane::toolkit_win32
