@@ -147,6 +147,11 @@ void ListView::mousePressEvent(QMouseEvent* event) {
   update();
 }
 
+// The second of two quick clicks chooses nothing, but it ticks.
+void ListView::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (ToggleOnClick || IsOnBox(event->position().toPoint())) mousePressEvent(event);
+}
+
 void ListView::mouseMoveEvent(QMouseEvent* event) {
   if (!list_ || pressed_ < 0 || !(event->buttons() & Qt::LeftButton)) return;
   const long row = RowAt(event->position().toPoint());
@@ -159,7 +164,7 @@ void ListView::mouseReleaseEvent(QMouseEvent* event) {
   const long row = std::exchange(pressed_, -1);
   update();
   if (!list_ || row < 0 || event->button() != Qt::LeftButton) return;
-  const bool on_box = Boxes && event->position().x() < RowsPlace().left() + BoxWidth();
+  const bool on_box = IsOnBox(event->position().toPoint());
   const auto held = event->modifiers();
   if (on_box || ToggleOnClick || (Extends && (held & Qt::ControlModifier))) {
     OnToggle(row);

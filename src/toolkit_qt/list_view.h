@@ -44,7 +44,7 @@ class ListView : public QWidget {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
-  void mouseDoubleClickEvent(QMouseEvent*) override {}
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
 
@@ -52,6 +52,7 @@ class ListView : public QWidget {
   long Count() const { return list_ ? list_->ListCount() : 0; }
   QRect RowsPlace() const;
   int BoxWidth() const;
+  bool IsOnBox(const QPoint& place) const { return Boxes && place.x() < RowsPlace().left() + BoxWidth(); }
   void FitScrollBar();
   void PaintRow(QPainter& painter, long row, const QRect& place);
   bool IsShownSelected(long row) const;

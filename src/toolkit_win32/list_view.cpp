@@ -169,9 +169,8 @@ void ListView::Release(POINT place) {
   const long row = std::exchange(pressed_, -1);
   Repaint();
   if (row < 0) return;
-  const bool on_box = Boxes && place.x < BoxWidth();
   const int held = ShiftNow();
-  if (on_box || ToggleOnClick || (Extends && (held & forms::vbCtrlMask))) return OnToggle(row);
+  if (IsOnBox(place) || ToggleOnClick || (Extends && (held & forms::vbCtrlMask))) return OnToggle(row);
   if (Extends && (held & forms::vbShiftMask)) return OnExtend(list_.ListIndex(), row);
   OnChoose(row);
 }
@@ -336,6 +335,9 @@ LRESULT ListView::OnMessage(const Message& message) {
       return 0;
     case WM_LBUTTONDOWN:
       Press(PlaceOf(message));
+      return 0;
+    case WM_LBUTTONDBLCLK:  // the second of two quick clicks chooses nothing, but it ticks
+      if (ToggleOnClick || IsOnBox(PlaceOf(message))) Press(PlaceOf(message));
       return 0;
     case WM_MOUSEMOVE:
       Drag(PlaceOf(message), message.w);

@@ -54,6 +54,7 @@ class ListView {
   void PaintRow(HDC dc, long row, const RECT& place) const;
   void PaintBox(HDC dc, const RECT& place, bool ticked) const;
   void PaintFrame() const;
+  bool IsOnBox(POINT place) const { return Boxes && place.x < BoxWidth(); }
   void Press(POINT place);
   void Drag(POINT place, WPARAM held);
   void Release(POINT place);

@@ -62,6 +62,38 @@ TEST_F(Lists, SecondPressOfADoubleClickIsDblClickAlone) {
   EXPECT_EQ(told, (Strings{"click", "dblclick"}));
 }
 
+TEST_F(Lists, ASecondQuickClickTicksAgainOnABoxAlone) {
+  list.SetStyle(1);
+  Fill(3);
+  list.DblClick = [&] { told.push_back("dblclick"); };
+  list.ItemCheck = [&](long row) { told.push_back("check " + std::to_string(row)); };
+  Show();
+  const auto again = [&](int x) {
+    const QPoint place(x, 1 + View().RowHeight() + 5);
+    SendMouse(View(), QEvent::MouseButtonDblClick, place);
+    SendMouse(View(), QEvent::MouseButtonRelease, place);
+  };
+  ClickRow(1, Qt::NoModifier, 6);
+  again(6);
+  EXPECT_FALSE(list.Selected(1));
+  EXPECT_EQ(told, (Strings{"check 1", "dblclick", "check 1"}));
+  told.clear();
+  again(40);
+  EXPECT_EQ(told, (Strings{"dblclick"}));
+}
+
+TEST_F(Lists, ASecondQuickClickSelectsAgainWhereEachClickToggles) {
+  list.SetMultiSelect(1);
+  Fill(3);
+  Show();
+  ClickRow(1);
+  EXPECT_TRUE(list.Selected(1));
+  const QPoint place(40, 1 + View().RowHeight() + 5);
+  SendMouse(View(), QEvent::MouseButtonDblClick, place);
+  SendMouse(View(), QEvent::MouseButtonRelease, place);
+  EXPECT_FALSE(list.Selected(1));
+}
+
 TEST_F(Lists, KeysMoveTheSelection) {
   Fill(100);
   list.SetListIndex(0);

@@ -237,6 +237,36 @@ TEST_F(ListTest, ColoursAreTheControlsAndTheSelectionTheSystems) {
   EXPECT_EQ(PixelAt(right, PlaceOf(1).y), forms::RGB(10, 200, 30));
 }
 
+TEST_F(ListTest, ASecondQuickClickTicksAgainOnABoxAlone) {
+  list.SetStyle(1);
+  Fill(3);
+  list.DblClick = [this] { told.push_back("DblClick"); };
+  Show();
+  const auto twice = [this](POINT place) {
+    PostClick(WindowOf(list), place);
+    PostMouse(WindowOf(list), WM_LBUTTONDBLCLK, place, MK_LBUTTON);
+    PostMouse(WindowOf(list), WM_LBUTTONUP, place);
+  };
+  twice({6, PlaceOf(1).y});
+  EXPECT_FALSE(list.Selected(1));
+  EXPECT_EQ(std::count(told.begin(), told.end(), "ItemCheck 1"), 2);
+  EXPECT_EQ(std::count(told.begin(), told.end(), "DblClick"), 1);
+  Taken();
+  twice(PlaceOf(2));
+  EXPECT_EQ(Taken(), (Log{"MouseDown", "Click 2", "MouseUp", "DblClick", "MouseUp"}));
+}
+
+TEST_F(ListTest, ASecondQuickClickSelectsAgainWhereEachClickToggles) {
+  list.SetMultiSelect(1);
+  Fill(3);
+  Show();
+  ClickRow(1);
+  EXPECT_TRUE(list.Selected(1));
+  PostMouse(WindowOf(list), WM_LBUTTONDBLCLK, PlaceOf(1), MK_LBUTTON);
+  PostMouse(WindowOf(list), WM_LBUTTONUP, PlaceOf(1));
+  EXPECT_FALSE(list.Selected(1));
+}
+
 // Milliseconds of the quickest of many: others use the machine too.
 double QuickestOf(int times, const std::function<void()>& act) {
   LARGE_INTEGER ticks, from, to;
