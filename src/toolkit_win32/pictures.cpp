@@ -1,6 +1,8 @@
 #include "toolkit_win32/pictures.h"
 
+#include <algorithm>
 #include <tuple>
+#include <vector>
 
 #include "toolkit_win32/units.h"
 
@@ -8,6 +10,7 @@ namespace corvane::toolkit_win32 {
 namespace {
 
 constexpr int kFaded = 110;  // of 255
+constexpr size_t kSizesKept = 4;
 
 void Fade(Pixels& pixels) {
   for (size_t at = 0; at < pixels.bytes.size(); at += 4) {
@@ -38,12 +41,33 @@ HICON IconFrom(const Pixels& pixels) {
 struct PictureStore::Decoded {
   std::weak_ptr<const forms::Picture> owner;
   SIZE own{};
-  std::map<std::tuple<LONG, LONG, bool>, HBITMAP> bitmaps;
+  struct Shown {
+    SIZE size{};
+    bool faded = false;
+    HBITMAP bitmap = nullptr;
+  };
+  std::vector<Shown> bitmaps;  // the one asked for last is at the end
   std::map<std::tuple<LONG, LONG>, HICON> icons;
 
   ~Decoded() {
-    for (const auto& [size, bitmap] : bitmaps) DeleteObject(bitmap);
+    for (const Shown& each : bitmaps) DeleteObject(each.bitmap);
     for (const auto& [size, icon] : icons) DestroyIcon(icon);
+  }
+  // Moves it to the end; false when there is none of that size.
+  bool Reuse(SIZE size, bool faded) {
+    const auto found = std::find_if(bitmaps.begin(), bitmaps.end(), [&](const Shown& each) {
+      return each.size.cx == size.cx && each.size.cy == size.cy && each.faded == faded;
+    });
+    if (found == bitmaps.end()) return false;
+    std::rotate(found, found + 1, bitmaps.end());
+    return true;
+  }
+  void Keep(const Shown& shown) {
+    if (bitmaps.size() == kSizesKept) {
+      DeleteObject(bitmaps.front().bitmap);
+      bitmaps.erase(bitmaps.begin());
+    }
+    bitmaps.push_back(shown);
   }
 };
 
@@ -68,13 +92,13 @@ SIZE PictureStore::SizeOf(const forms::PictureRef& picture) {
 HBITMAP PictureStore::BitmapOf(const forms::PictureRef& picture, SIZE size, bool faded) {
   if (!picture || size.cx <= 0 || size.cy <= 0) return nullptr;
   Decoded& decoded = DecodedOf(picture);
-  const auto [place, fresh] = decoded.bitmaps.try_emplace({size.cx, size.cy, faded}, nullptr);
-  if (fresh && decoded.own.cx > 0) {
+  if (decoded.own.cx <= 0) return nullptr;
+  if (!decoded.Reuse(size, faded)) {
     Pixels pixels = codec_.Decode(picture->bytes, size);
     if (faded) Fade(pixels);
-    place->second = toolkit_win32::BitmapOf(pixels, true);
+    decoded.Keep({size, faded, toolkit_win32::BitmapOf(pixels, true)});
   }
-  return place->second;
+  return decoded.bitmaps.back().bitmap;
 }
 
 HICON PictureStore::IconOf(const forms::PictureRef& picture, SIZE size) {

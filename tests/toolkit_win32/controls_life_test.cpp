@@ -98,5 +98,17 @@ TEST(ControlLife, ServicesComeAndGoWithoutATrace) {
   ExpectNoMore(before);
 }
 
+// A picture that follows the size of its control.
+TEST(ControlLife, APictureOfManySizesKeepsTheLastFew) {
+  PictureStore store;
+  const HDC dc = CreateCompatibleDC(nullptr);
+  const forms::PictureRef picture = forms::Icon("search");
+  for (int size = 1; size < 20; ++size) store.Draw(dc, {0, 0, size, size}, picture, size % 2 != 0);
+  const DWORD before = DrawingObjects();
+  for (int size = 20; size < 120; ++size) store.Draw(dc, {0, 0, size, size}, picture, size % 2 != 0);
+  EXPECT_LE(DrawingObjects(), before);
+  DeleteDC(dc);
+}
+
 }  // namespace
 }  // namespace corvane::toolkit_win32
