@@ -101,13 +101,28 @@ int ShownFont::Width(std::string_view bytes) {
   return Lay(bytes);
 }
 
+// What was laid out, from [x] on, as far as the surface reaches: the system takes no more than some thousand characters
+// at once. A glyph may lean over its own advance.
+ShownFont::Run ShownFont::SeenOn(HDC dc, int x) const {
+  RECT surface{};
+  GetClipBox(dc, &surface);
+  const long left = surface.left - height_, right = surface.right + height_;
+  Run run{0, 0, x};
+  while (run.from < steps_.size() && run.x + steps_[run.from] < left) run.x += steps_[run.from++];
+  size_t end = run.from;
+  for (long at = run.x; end < steps_.size() && at < right; ++end) at += steps_[end];
+  run.count = end - run.from;
+  return run;
+}
+
 int ShownFont::Draw(HDC dc, int x, int y, std::string_view bytes, COLORREF color) {
   const int width = Lay(bytes);
-  if (characters_.empty()) return 0;
+  const Run seen = SeenOn(dc, x);
+  if (seen.count == 0) return width;
   if (GetCurrentObject(dc, OBJ_FONT) != handle_) SelectObject(dc, handle_);
   SetTextColor(dc, color);
   SetBkMode(dc, TRANSPARENT);
-  ExtTextOutW(dc, x, y, 0, nullptr, characters_.data(), static_cast<UINT>(characters_.size()), steps_.data());
+  ExtTextOutW(dc, seen.x, y, 0, nullptr, &characters_[seen.from], static_cast<UINT>(seen.count), &steps_[seen.from]);
   return width;
 }
 

@@ -38,6 +38,11 @@ class ShownFont {
   void ReadCodePage();
   int AdvanceOf(wchar_t character);
   int Lay(std::string_view bytes);
+  struct Run {
+    size_t from = 0, count = 0;
+    int x = 0;
+  };
+  Run SeenOn(HDC dc, int x) const;
 
   forms::Font font_;
   HDC dc_;  // to measure with; holds the font

@@ -375,5 +375,22 @@ TEST_F(Canvas, ABrokenPictureIsNoFault) {
   EXPECT_EQ(toolkit.Pictures().SizeOf(PictureOf(whole)).cx, 32);
 }
 
+TEST_P(AtResolutions, ALineMuchLongerThanTheSurfaceIsDrawnWhereItIsSeen) {
+  std::string text;
+  for (int i = 0; i < 40000; ++i) text += static_cast<char>('a' + i % 26);
+  const Image shown = Drawn([&] { canvas.Text(150, 150, text, CodeFont(), kBlack); });
+  const Image expected = Drawn([&] { canvas.Text(150, 150, text.substr(0, 200), CodeFont(), kBlack); });
+  EXPECT_TRUE(shown == expected);
+  const RECT ink = shown.Ink();
+  EXPECT_GT(ink.right, size.cx - Pixels(300)) << "up to the edge";
+  const size_t hidden = 26 * 1000;
+  const forms::Twips left = 150 - canvas.TextWidth(text.substr(0, hidden), CodeFont());
+  EXPECT_TRUE(Drawn([&] { canvas.Text(left, 150, text, CodeFont(), kBlack); }) == Drawn([&] {
+                canvas.Text(150, 150, text.substr(hidden), CodeFont(), kBlack);
+                canvas.Text(left + canvas.TextWidth(text.substr(0, hidden - 52), CodeFont()), 150,
+                            text.substr(hidden - 52, 52), CodeFont(), kBlack);
+              }));
+}
+
 }  // namespace
 }  // namespace corvane::toolkit_win32
