@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "forms/lists.h"
+#include "toolkit_win32/edit_keys.h"
 #include "toolkit_win32/keys.h"
 #include "toolkit_win32/list_view.h"
 #include "toolkit_win32/peer.h"
@@ -94,6 +95,7 @@ class DropDownPeer : public ControlPeer {
     if (MeansNothing(message) && !IsDropped()) return 0;
     if (message.id == WM_MOUSEWHEEL && !IsDropped()) return 0;
     if (combo_.Locked() && WouldChange(window, message)) return 0;
+    if (&window == &edit_ && message.id == WM_CHAR && UseEditKey(message.window, message.w)) return 0;
     const bool searches = message.id == WM_CHAR && !IsEdited();
     if (searches || (message.id == WM_KEYDOWN && Walks(message.w))) FillRows();
     if (&window == &window_ &&
@@ -281,6 +283,7 @@ class SimplePeer : public ControlPeer {
   LRESULT OnOwnMessage(Window& window, const Message& message) override {
     if (MeansNothing(message)) return 0;
     if (&window == &edit_) {
+      if (message.id == WM_CHAR && UseEditKey(message.window, message.w)) return 0;
       const bool walks = message.id == WM_KEYDOWN &&
                          (message.w == VK_UP || message.w == VK_DOWN || message.w == VK_PRIOR || message.w == VK_NEXT);
       if (walks && !combo_.Locked()) return view_.OnMessage(message);

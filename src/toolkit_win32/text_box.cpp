@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "runtime/code_page.h"
+#include "toolkit_win32/edit_keys.h"
 #include "toolkit_win32/peer.h"
 #include "toolkit_win32/peers.h"
 #include "toolkit_win32/texts.h"
@@ -80,7 +81,8 @@ class TextBoxPeer : public ControlPeer {
   LRESULT OnOwnMessage(Window& window, const Message& message) override {
     if (message.id == WM_CHAR && !box_.MultiLine() && MeansNothing(message.w)) return 0;
     const Life self = LifeOfThis();
-    const LRESULT answer = window.Default(message);
+    const bool used = message.id == WM_CHAR && UseEditKey(message.window, message.w);
+    const LRESULT answer = used ? 0 : window.Default(message);
     if (!self.expired() && MaySelect(message.id) && !IsShowing()) TellSelection();
     return answer;
   }

@@ -186,6 +186,37 @@ TEST_F(TextTest, TheCaretIsWhereAHandlerMovesTheFocusOn) {
   EXPECT_EQ(CaretWindow(), WindowOf(last));
 }
 
+TEST_F(TextTest, ControlASelectsAll) {
+  memo.SetText("one\r\ntwo");
+  Show();
+  memo.SetFocus();
+  PostKey('A', {.ctrl = true});
+  EXPECT_EQ(memo.SelStart(), 0);
+  EXPECT_EQ(memo.SelLength(), 8);
+}
+
+TEST_F(TextTest, ControlBackspaceTakesTheWordBeforeTheCaret) {
+  txt.SetText("one two  three"), txt.SetSelStart(9);
+  memo.SetText("one\r\ntwo"), memo.SetSelStart(5);
+  Show();
+  const auto back = [] { SendMessageW(GetFocus(), WM_CHAR, 127, 0); };  // the character that Ctrl+Backspace makes
+  txt.SetFocus();
+  back();
+  EXPECT_EQ(txt.Text(), "one three");
+  EXPECT_EQ(txt.SelStart(), 4);
+  txt.SetSelStart(0), txt.SetSelLength(2);
+  back();
+  EXPECT_EQ(txt.Text(), "e three") << "what is selected goes first";
+  back();
+  EXPECT_EQ(txt.Text(), "e three") << "nothing stands before the caret";
+  txt.SetSelStart(7), txt.SetLocked(true);
+  back();
+  EXPECT_EQ(txt.Text(), "e three");
+  memo.SetFocus();
+  back();
+  EXPECT_EQ(memo.Text(), "onetwo") << "the end of a line is a word of its own";
+}
+
 class ComboTest : public TextTest {
  protected:
   ComboTest() {
