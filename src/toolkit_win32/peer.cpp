@@ -330,12 +330,12 @@ forms::Point ControlPeer::PlaceOf(const Message& message) const {
 }
 
 void RemadePeer::Changed(forms::Property property) {
-  if (made_for_ != variant_()) {
-    made_for_ = variant_();
-    shown_ = make_();
-    property = forms::Property::All;
-  }
-  shown_->Changed(property);
+  if (made_for_ == variant_()) return shown_->Changed(property);
+  made_for_ = variant_();
+  const bool had_focus = HoldsFocus(Handle());
+  shown_ = make_();
+  shown_->Changed(forms::Property::All);
+  if (had_focus) shown_->TakeFocus();
 }
 
 }  // namespace corvane::toolkit_win32

@@ -186,6 +186,21 @@ TEST_F(TextTest, TheCaretIsWhereAHandlerMovesTheFocusOn) {
   EXPECT_EQ(CaretWindow(), WindowOf(last));
 }
 
+TEST_F(TextTest, AFocusedBoxThatIsMadeAgainKeepsTheKeys) {
+  Show();
+  memo.SetFocus();
+  PostText(L"a");
+  const HWND before = WindowOf(memo);
+  memo.SetScrollBars(3);
+  ASSERT_NE(WindowOf(memo), before);
+  EXPECT_EQ(GetFocus(), WindowOf(memo));
+  PostText(L"b");
+  EXPECT_EQ(memo.Text(), "ab");
+  const HWND focus = GetFocus();
+  txt.SetAlignment(forms::Alignment::Right);
+  EXPECT_EQ(GetFocus(), focus) << "a box without the focus takes none";
+}
+
 TEST_F(TextTest, ControlASelectsAll) {
   memo.SetText("one\r\ntwo");
   Show();
