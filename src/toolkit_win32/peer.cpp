@@ -9,6 +9,7 @@
 #include "toolkit_win32/keys.h"
 #include "toolkit_win32/texts.h"
 #include "toolkit_win32/toolkit.h"
+#include "toolkit_win32/wheel.h"
 
 namespace corvane::toolkit_win32 {
 namespace {
@@ -168,7 +169,7 @@ std::optional<LRESULT> ControlPeer::OnNotice(Window&, const Message& message) {
 LRESULT ControlPeer::OnMessage(Window& window, const Message& message) {
   if (IsMouseMessage(message.id)) {
     toolkit_.Tips().Hear(Handle(), message);
-    if (message.id == WM_MOUSEWHEEL && WheelPasses(message)) return 0;
+    if (IsWheel(message.id) && WheelPasses(message)) return 0;
     if (mouse_ != Mouse::Untold) {
       if (message.id == WM_MOUSEMOVE) return MouseMoved(window, message);
       if (IsMousePress(message.id)) return MousePressed(window, message);

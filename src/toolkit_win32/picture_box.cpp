@@ -11,6 +11,7 @@
 #include "toolkit_win32/painted.h"
 #include "toolkit_win32/peers.h"
 #include "toolkit_win32/toolkit.h"
+#include "toolkit_win32/wheel.h"
 
 namespace corvane::toolkit_win32 {
 namespace {
@@ -21,13 +22,6 @@ forms::ScrollBar* ScrollBarBeside(forms::Control& control, forms::ControlKind wa
     if (sibling->Kind() == way && sibling->AcceptsInput()) return dynamic_cast<forms::ScrollBar*>(sibling);
   }
   return nullptr;
-}
-
-// Lines that the user wants one notch of the wheel to scroll.
-int LinesOfNotch() {
-  UINT lines = 3;
-  SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
-  return lines == WHEEL_PAGESCROLL ? -1 : static_cast<int>(lines);
 }
 
 // The border is the window's own: inside it is the client area, which is the surface.
@@ -75,7 +69,10 @@ class PictureBoxPeer : public ControlPeer {
         PaintFrame();
         return 0;
       case WM_MOUSEWHEEL:
-        if (Wheel(GET_WHEEL_DELTA_WPARAM(message.w))) return 0;
+        if (Turn(forms::ControlKind::VScrollBar, upright_, message)) return 0;
+        break;
+      case WM_MOUSEHWHEEL:
+        if (Turn(forms::ControlKind::HScrollBar, sideways_, message)) return 0;
         break;
       case WM_GETDLGCODE:
         return DLGC_WANTALLKEYS | DLGC_WANTARROWS | DLGC_WANTCHARS;
@@ -114,23 +111,18 @@ class PictureBoxPeer : public ControlPeer {
     ReleaseDC(Handle(), dc);
   }
   // The wheel scrolls what the control's own scroll bar scrolls.
-  bool Wheel(int turn) {
-    forms::ScrollBar* bar = ScrollBarBeside(control_, forms::ControlKind::VScrollBar);
+  bool Turn(forms::ControlKind way, Wheel& wheel, const Message& message) {
+    forms::ScrollBar* bar = ScrollBarBeside(control_, way);
     if (!bar) return false;
-    turned_ += turn;
-    const int notches = turned_ / WHEEL_DELTA;
-    turned_ -= notches * WHEEL_DELTA;
-    if (notches == 0) return true;
-    const int lines = LinesOfNotch();
-    const long step = lines < 0 ? bar->LargeChange() : lines * bar->SmallChange();
-    const long wanted = std::clamp(bar->Value() - notches * step, bar->Min(), std::max(bar->Min(), bar->Max()));
-    Report([&] { bar->UserScroll(wanted, false); });
+    if (const int notches = wheel.NotchesOf(message.id, message.w)) {
+      Report([&] { bar->UserScroll(ValueAfter(*bar, notches), false); });
+    }
     return true;
   }
 
   forms::PictureBox& box_;
   GdiCanvas canvas_;
-  int turned_ = 0;  // of the wheel, less than a notch
+  Wheel upright_, sideways_;
 };
 
 class UserControlPeer : public PaintedPeer {

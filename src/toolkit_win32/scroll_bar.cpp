@@ -5,6 +5,7 @@
 #include "toolkit_win32/peer.h"
 #include "toolkit_win32/peers.h"
 #include "toolkit_win32/toolkit.h"
+#include "toolkit_win32/wheel.h"
 
 namespace corvane::toolkit_win32 {
 namespace {
@@ -34,6 +35,14 @@ class ScrollBarPeer : public ControlPeer {
   std::optional<LRESULT> OnNotice(Window& window, const Message& message) override {
     if (message.id != WM_HSCROLL && message.id != WM_VSCROLL) return ControlPeer::OnNotice(window, message);
     Scrolled(LOWORD(message.w));
+    return 0;
+  }
+
+  LRESULT OnOwnMessage(Window& window, const Message& message) override {
+    if (!IsWheel(message.id)) return window.Default(message);
+    if (const int notches = wheel_.NotchesOf(message.id, message.w)) {
+      ReportThenShow(forms::Property::Value, [&] { bar_.UserScroll(ValueAfter(bar_, notches), false); });
+    }
     return 0;
   }
 
@@ -82,6 +91,7 @@ class ScrollBarPeer : public ControlPeer {
 
   forms::ScrollBar& bar_;
   bool dragging_ = false;
+  Wheel wheel_;
 };
 
 }  // namespace

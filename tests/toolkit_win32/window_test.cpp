@@ -389,5 +389,38 @@ TEST_F(Window, AClickOnAScrollBarTakesTheFocus) {
   EXPECT_EQ(bar.Value(), 1);
 }
 
+TEST_F(Window, TheWheelTurnsTheScrollBarUnderIt) {
+  forms::VScrollBar upright(form, "vs");
+  forms::HScrollBar flat(form, "hs");
+  upright.Move(3000, 300, 255, 1500), flat.Move(300, 3000, 1500, 255);
+  upright.SetMax(100), upright.SetValue(50), flat.SetMax(100), flat.SetValue(50);
+  Show();
+  const auto turn = [&](const forms::Control& over, UINT wheel, int notches) {
+    SendMessageW(WindowOf(over), wheel, MAKEWPARAM(0, notches * WHEEL_DELTA), 0);
+  };
+  turn(upright, WM_MOUSEWHEEL, 1);
+  EXPECT_EQ(upright.Value(), 47);
+  turn(upright, WM_MOUSEWHEEL, -2);
+  EXPECT_EQ(upright.Value(), 53);
+  turn(flat, WM_MOUSEWHEEL, -1);
+  EXPECT_EQ(flat.Value(), 53);
+  turn(flat, WM_MOUSEHWHEEL, -1);
+  EXPECT_EQ(flat.Value(), 50);
+  turn(upright, WM_MOUSEWHEEL, 100);
+  EXPECT_EQ(upright.Value(), 0);
+}
+
+TEST_F(Window, TheSidewaysWheelTurnsTheFlatScrollBarBesideASurface) {
+  forms::PictureBox pic(form, "pic");
+  forms::HScrollBar flat(form, "hs");
+  pic.Move(0, 0, 1500, 1500), flat.Move(0, 1500, 1500, 255);
+  flat.SetMax(100);
+  Show();
+  SendMessageW(WindowOf(pic), WM_MOUSEHWHEEL, MAKEWPARAM(0, WHEEL_DELTA), 0);
+  EXPECT_EQ(flat.Value(), 3);
+  SendMessageW(WindowOf(pic), WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), 0);
+  EXPECT_EQ(flat.Value(), 3) << "upright turns are another bar's";
+}
+
 }  // namespace
 }  // namespace corvane::toolkit_win32
