@@ -230,12 +230,13 @@ bool FormWindowPeer::KeyPressed(const QKeyEvent& event) {
   bool used = false;
   toolkit_.Guard([&] {
     if (form_.ActiveControl()) return;  // it was asked already
-    used = form_.UserDialogKey(code, shift) || OpenMenuByKey(form_, code, shift);
+    used = form_.UserDialogKey(code, shift);
     if (used) return;
+    used = true;
     int key_code = code, key_ascii = KeyAsciiOf(event);
     form_.KeyDown(key_code, shift);
-    if (key_code != 0 && key_ascii != 0) form_.KeyPress(key_ascii);
-    used = true;
+    if (key_code == 0 || OpenMenuByKey(form_, key_code, shift)) return;
+    if (key_ascii != 0) form_.KeyPress(key_ascii);
   });
   return used;
 }

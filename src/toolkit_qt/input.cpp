@@ -75,7 +75,8 @@ bool Input::KeyPressed(const QKeyEvent& event) {
   const bool done = Tell([&] {
     if (code != 0) used = control_.FormOf().UserDialogKey(code, shift);
     if (used || !self) return;
-    if (code != 0) used = OpenMenuByKey(control_.FormOf(), code, shift) || control_.UserKeyDown(code, shift);
+    if (code != 0) used = control_.UserKeyDown(code, shift);
+    if (code != 0 && !used && self) used = OpenMenuByKey(control_.FormOf(), code, shift);
     if (used || !self || character == 0) return;
     used = control_.UserKeyPress(character);
   });

@@ -500,6 +500,20 @@ TEST_P(FormsContract, AnAccessKeyFocusesAndClicks) {
   EXPECT_EQ(window->ActiveControl(), &window->cmd);
 }
 
+TEST_P(FormsContract, AnAccessKeyOfTheMenuBarIsAKeyDownFirst) {
+  window->txt.KeyDown = [&](int& key, int shift) {
+    if (key != 'F') return;
+    window->log.push_back("KeyDown " + std::to_string(shift));
+    key = 0;
+  };
+  window->mnuFile.Click = [&] { window->log.push_back("mnuFile_Click"); };
+  Show();
+  Focus(window->txt);
+  driver->Press(*window, 'F', vbAltMask);
+  driver->Settle();
+  EXPECT_EQ(window->Taken(), (Log{"KeyDown 4"})) << "taken by the handler it opens no menu";
+}
+
 TEST_P(FormsContract, AScrollBarChangesOnce) {
   Show();
   driver->Scroll(window->hs, 40);
