@@ -53,6 +53,18 @@ POINT MiddleOfScreen(HWND near_to, SIZE size) {
           std::max(area.top, area.top + (HeightOf(area) - size.cy) / 2)};
 }
 
+struct Owners {
+  HWND from, to;
+};
+
+BOOL CALLBACK ChangeOwner(HWND window, LPARAM owners) noexcept {
+  const auto& [from, to] = *reinterpret_cast<const Owners*>(owners);
+  if (WindowAt(window) && GetWindow(window, GW_OWNER) == from) {
+    SetWindowLongPtrW(window, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(to));
+  }
+  return TRUE;
+}
+
 }  // namespace
 
 forms::Rect FrameOfForm(const Win32Toolkit& toolkit, const forms::Form& form) {
@@ -76,14 +88,25 @@ FormWindowPeer::~FormWindowPeer() {
   life_.reset();
   const Win32Toolkit::ByCode by_code(toolkit_);
   if (modal_) modal_->End();
+  LetOwnedFormsStay();
   window_.Release();
 }
 
+// The system destroys a window with its owner: a modal form that stands in front of this one is a life of its own.
+void FormWindowPeer::LetOwnedFormsStay() {
+  const Owners owners{Handle(), toolkit_.HostWindow()};
+  if (owners.from) EnumThreadWindows(GetCurrentThreadId(), ChangeOwner, reinterpret_cast<LPARAM>(&owners));
+}
+
 void FormWindowPeer::Changed(forms::Property property) {
-  if (!window_) return;
+  using forms::Property;
+  if (!window_) {
+    // Its window went with its owner, and Unload was refused: it cannot be shown any more.
+    if (property == Property::Visible) form_.Hide();
+    return;
+  }
   const Win32Toolkit::ByCode by_code(toolkit_);
   ++showing_;
-  using forms::Property;
   const auto is = [&](auto... any) { return property == Property::All || ((property == any) || ...); };
   if (is(Property::Caption)) window_.SetText(ShownText(form_.Caption()));
   if (is(Property::Icon)) ShowIcon();
@@ -128,7 +151,14 @@ void FormWindowPeer::ShowVisible() {
   if (form_.Visible()) return ShowOnScreen();
   const std::shared_ptr<ModalRun> modal = std::move(modal_);
   if (modal) modal->End();
+  const Life self = life_;
   ShowWindow(Handle(), SW_HIDE);
+  // What it was shown in front of may go before it is shown again.
+  if (modal && !self.expired() && window_) BelongTo(toolkit_.HostWindow());
+}
+
+void FormWindowPeer::BelongTo(HWND owner) {
+  SetWindowLongPtrW(Handle(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
 }
 
 void FormWindowPeer::ShowOnScreen() {
@@ -141,7 +171,7 @@ void FormWindowPeer::ShowOnScreen() {
   }
   if (form_.IsModal()) {
     const HWND owner = toolkit_.FrontWindow();
-    if (owner != Handle()) SetWindowLongPtrW(Handle(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
+    if (owner != Handle()) BelongTo(owner);
     modal_ = std::make_shared<ModalRun>(Handle());
   }
   constexpr int kShow[] = {SW_SHOWNA, SW_SHOWMINNOACTIVE, SW_SHOWMAXIMIZED};
@@ -223,9 +253,14 @@ bool FormWindowPeer::OnKey(Window&, int key_code, int shift) {
   return used || self.expired();
 }
 
-// Nobody could end a modal form that is not there.
+// Nobody could end a form that is not there: neither the user a modal one, nor the logic one that it takes for visible.
 void FormWindowPeer::OnGone(Window&) {
   if (modal_) modal_->End();
+  Win32Toolkit& toolkit = toolkit_;
+  const Life self = life_;
+  toolkit.Guard([this] { form_.Hide(); });
+  if (self.expired()) return;
+  toolkit.Guard([this] { form_.Unload(forms::UnloadMode::Owner); });
 }
 
 bool FormWindowPeer::CharacterTyped(wchar_t character) {

@@ -45,6 +45,8 @@ class FormWindowPeer : public forms::FormPeer, public MessageSink {
   void ShowState();
   void ShowVisible();
   void ShowOnScreen();
+  void BelongTo(HWND owner);
+  void LetOwnedFormsStay();
   int ShownState() const;
   bool ShowPointer() const;
 

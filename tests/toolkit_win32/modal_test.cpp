@@ -37,6 +37,24 @@ class Modal : public ::testing::Test {
     });
   }
 
+  // A window of the environment's that is the active one.
+  static HWND NewOwner() {
+    const HWND owner = CreateWindowExW(0, L"STATIC", L"Owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200,
+                                       nullptr, nullptr, nullptr, nullptr);
+    SetActiveWindow(owner);
+    return owner;
+  }
+  // Shows it modal, and tells whether the user saw it.
+  bool ComesUp(forms::Form& dialog) {
+    bool visible = false;
+    Soon([&] {
+      visible = IsWindowVisible(toolkit->WindowOf(dialog)) != FALSE;
+      dialog.Hide();
+    });
+    dialog.ShowModal();
+    return visible;
+  }
+
   HWND host, field;
   std::unique_ptr<Win32Toolkit> toolkit;
   Log faults;
@@ -192,16 +210,66 @@ TEST_F(Modal, AToolkitThatGoesInTheLoopTakesItsWindowsAlong) {
   EXPECT_EQ(faults, Log{});
 }
 
-TEST_F(Modal, AWindowDestroyedByItsOwnerEndsTheLoop) {
-  const HWND owner = CreateWindowExW(0, L"STATIC", L"Owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200, nullptr,
-                                     nullptr, nullptr, nullptr);
-  SetActiveWindow(owner);
-  Dialog dialog(*toolkit);
+TEST_F(Modal, ADialogThatWasHiddenDoesNotGoWithTheWindowItWasShownOver) {
+  Dialog first(*toolkit, "frmFirst"), dialog(*toolkit);
+  first.Show();
+  Soon([&] { dialog.Hide(); });
+  dialog.ShowModal();
+  first.Unload();
+  Pump();
+  EXPECT_NE(toolkit->WindowOf(dialog), nullptr);
+  EXPECT_TRUE(ComesUp(dialog));
+  EXPECT_FALSE(dialog.Visible());
+}
+
+TEST_F(Modal, ADialogStaysWhenTheFormBelowItIsUnloaded) {
+  Dialog first(*toolkit, "frmFirst"), dialog(*toolkit);
+  first.Show();
+  bool visible = false, enabled = true;
+  Soon([&] {
+    first.Unload();
+    Soon([&] {
+      visible = IsWindowVisible(toolkit->WindowOf(dialog)) != FALSE;
+      enabled = IsWindowEnabled(host) != FALSE;
+      dialog.Hide();
+    });
+  });
+  dialog.ShowModal();
+  EXPECT_TRUE(visible);
+  EXPECT_FALSE(enabled);
+  EXPECT_TRUE(IsWindowEnabled(host));
+}
+
+TEST_F(Modal, AWindowDestroyedByItsOwnerEndsTheLoopAndIsUnloaded) {
+  HWND owner = NewOwner();
+  Dialog dialog(*toolkit), other(*toolkit, "frmOther");
+  Log modes;
+  dialog.QueryUnload = [&](bool&, forms::UnloadMode mode) { modes.push_back(std::to_string(static_cast<int>(mode))); };
   Soon([&] { DestroyWindow(owner); });
   dialog.ShowModal();
+  EXPECT_FALSE(dialog.IsLoaded());
+  EXPECT_EQ(modes, (Log{"5"}));
   EXPECT_EQ(toolkit->WindowOf(dialog), nullptr);
   EXPECT_TRUE(IsWindowEnabled(host));
+  other.Show();
+  EXPECT_TRUE(ComesUp(dialog));
+  EXPECT_EQ(faults, Log{});
+}
+
+TEST_F(Modal, AWindowDestroyedByItsOwnerIsHiddenWhereUnloadIsRefused) {
+  HWND owner = NewOwner();
+  Dialog dialog(*toolkit), other(*toolkit, "frmOther");
+  dialog.QueryUnload = [](bool& cancel, forms::UnloadMode) { cancel = true; };
+  Soon([&] { DestroyWindow(owner); });
+  dialog.ShowModal();
+  EXPECT_TRUE(dialog.IsLoaded());
+  EXPECT_FALSE(dialog.Visible());
   dialog.SetCaption("gone"), dialog.Move(0, 0, 3000, 3000), dialog.txt.SetText("gone"), dialog.SetWindowState(2);
+  dialog.ShowModal();
+  EXPECT_FALSE(dialog.Visible());
+  other.Show();
+  EXPECT_TRUE(other.Visible());
+  dialog.QueryUnload = nullptr;
   dialog.Unload();
   EXPECT_EQ(faults, Log{});
 }
