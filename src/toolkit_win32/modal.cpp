@@ -1,12 +1,16 @@
 #include "toolkit_win32/modal.h"
 
+#include <utility>
+
 #include "toolkit_win32/window.h"
 
 namespace corvane::toolkit_win32 {
 namespace {
 
+thread_local ModalRun* newest_run = nullptr;
+
 BOOL CALLBACK NoteUsable(HWND window, LPARAM list) {
-  if (IsWindowVisible(window) && IsWindowEnabled(window)) reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+  if (IsWindowVisible(window) && IsWindowEnabled(window)) reinterpret_cast<std::list<HWND>*>(list)->push_back(window);
   return TRUE;
 }
 
@@ -17,7 +21,9 @@ void Run(MSG& message) {
 
 }  // namespace
 
-ModalRun::ModalRun(HWND window) : active_before_(GetActiveWindow()), focus_before_(GetFocus()) {
+ModalRun::ModalRun(HWND window)
+    : below_(std::exchange(newest_run, this)), active_before_(GetActiveWindow()), focus_before_(GetFocus()) {
+  if (below_) below_->above_ = this;
   ReleaseCapture();
   EnumThreadWindows(GetCurrentThreadId(), NoteUsable, reinterpret_cast<LPARAM>(&disabled_));
   std::erase(disabled_, window);
@@ -40,6 +46,9 @@ void ModalRun::RunLoop() {
 void ModalRun::End() {
   if (ended_) return;
   ended_ = true;
+  if (below_) below_->above_ = above_;
+  (above_ ? above_->below_ : newest_run) = below_;
+  if (above_) return above_->disabled_.splice(above_->disabled_.end(), disabled_);
   for (HWND each : disabled_) EnableWindow(each, TRUE);
   disabled_.clear();
 }

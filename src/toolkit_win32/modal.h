@@ -1,8 +1,9 @@
 // ModalRun: one modal window's rule over this thread: its own message loop, all other windows disabled meanwhile, the
-// focus given back behind it. It outlives the window and the toolkit when they go inside it.
+// focus given back behind it. It outlives the window and the toolkit when they go inside it. When it
+// ends before one that began inside it, that one goes on to rule over what this disabled.
 #pragma once
 
-#include <vector>
+#include <list>
 
 #include "toolkit_win32/win.h"
 
@@ -25,7 +26,8 @@ class ModalRun {
   void GiveFocusBack() const;
 
  private:
-  std::vector<HWND> disabled_;
+  std::list<HWND> disabled_;
+  ModalRun *below_, *above_ = nullptr;  // of those that have not ended
   HWND active_before_, focus_before_;
   bool ended_ = false;
 };

@@ -134,6 +134,23 @@ TEST_F(Modal, InnerWindowsGiveBackToOuterOnes) {
   EXPECT_TRUE(IsWindowEnabled(host));
 }
 
+TEST_F(Modal, AnOuterWindowThatEndsFirstLeavesTheOthersToTheInnerOne) {
+  Dialog outer(*toolkit, "frmOuter"), inner(*toolkit, "frmInner");
+  bool host_in_inner = true;
+  Soon([&] {
+    Soon([&] {
+      outer.Hide();
+      host_in_inner = IsWindowEnabled(host) != FALSE;
+      inner.Hide();
+    });
+    inner.ShowModal();
+  });
+  outer.ShowModal();
+  EXPECT_FALSE(host_in_inner);
+  EXPECT_TRUE(IsWindowEnabled(host));
+  EXPECT_TRUE(IsWindowEnabled(toolkit->WindowOf(outer)));
+}
+
 TEST_F(Modal, TheCloseBoxEndsIt) {
   Dialog dialog(*toolkit);
   Soon([&] { PostMessageW(toolkit->WindowOf(dialog), WM_SYSCOMMAND, SC_CLOSE, 0); });
