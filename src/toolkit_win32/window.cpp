@@ -81,7 +81,7 @@ struct WindowSlot {
     if (!slot) return DefWindowProcW(handle, id, w, l);
     if (id == WM_NCDESTROY) return End(slot, handle, w, l);
     const std::shared_ptr<WindowYard> yard = slot->yard;
-    const WindowYard::Visit visit(*yard);
+    const WindowYard::Visit visit(*yard, handle);
     if (!slot->window) return CallWindowProcW(slot->original, handle, id, w, l);
     Win32Toolkit& toolkit = *slot->toolkit;
     try {

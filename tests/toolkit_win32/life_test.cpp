@@ -121,6 +121,42 @@ TEST_F(InTheMiddle, AControlRemovedByItsOwnClickGoes) {
   EXPECT_EQ(faults, Log{});
 }
 
+TEST_F(InTheMiddle, AWindowOpenedAndUnloadedInAClickIsDestroyedInIt) {
+  forms::CommandButton cmd(form, "cmd");
+  Show();
+  int left = 0;
+  cmd.Click = [&] {
+    for (int i = 0; i < 5; ++i) {
+      FullWindow other(toolkit);
+      other.Show();
+      const HWND window = WindowOf(other);
+      other.Unload();
+      left += IsWindow(window) ? 1 : 0;
+    }
+  };
+  Click(cmd);
+  EXPECT_EQ(left, 0);
+}
+
+TEST_F(InTheMiddle, AWindowWithAnotherThatItOwnsStaysWhileAMessageOfThatRuns) {
+  Show();
+  FullWindow other(toolkit);
+  other.Show();
+  SetWindowLongPtrW(WindowOf(other), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(WindowOf(form)));
+  const HWND below = WindowOf(form), window = WindowOf(other), button = WindowOf(other.cmd);
+  bool there = false;
+  other.cmd.Click = [&] {
+    other.Unload();
+    form.Unload();
+    there = IsWindow(below) && IsWindow(window) && IsWindow(button);
+  };
+  Click(other.cmd);
+  EXPECT_TRUE(there);
+  EXPECT_FALSE(IsWindow(below));
+  EXPECT_FALSE(IsWindow(window));
+  EXPECT_EQ(faults, Log{});
+}
+
 TEST_F(InTheMiddle, AFormUnloadedByMouseDownHearsNothingMore) {
   forms::PictureBox pic(form, "pic");
   Show();
