@@ -211,12 +211,13 @@ void Win32Toolkit::Post(Life wanted_by, std::function<void()> act) {
   posted_.push_back({std::move(wanted_by), std::move(act)});
 }
 
+// One at a time: an act that waits for the user, or fails, does not hold up the others.
 void Win32Toolkit::RunPosted() {
-  const std::shared_ptr<WindowYard> yard = yard_;
-  for (const Posted& each : std::exchange(posted_, {})) {
-    if (yard->IsClosed()) return;
-    if (!each.wanted_by.expired()) each.act();
-  }
+  if (posted_.empty()) return;
+  const Posted next = std::move(posted_.front());
+  posted_.erase(posted_.begin());
+  if (!posted_.empty()) PostMessageW(desk_.Handle(), kRunPosted, 0, 0);
+  if (!next.wanted_by.expired()) Guard(next.act);
 }
 
 LRESULT Win32Toolkit::OnMessage(Window& window, const Message& message) {

@@ -157,6 +157,28 @@ TEST_F(InTheMiddle, AWindowWithAnotherThatItOwnsStaysWhileAMessageOfThatRuns) {
   EXPECT_EQ(faults, Log{});
 }
 
+TEST_F(InTheMiddle, APostedActDoesNotWaitForTheEndOfAnother) {
+  const auto life = std::make_shared<int>();
+  toolkit.Post(life, [this] {
+    told.push_back("first");
+    PumpFor(20);
+    told.push_back("first done");
+  });
+  toolkit.Post(life, [this] { told.push_back("second"); });
+  toolkit.Post(life, [this] { told.push_back("third"); });
+  PumpFor(20);
+  EXPECT_EQ(told, (Log{"first", "second", "third", "first done"}));
+}
+
+TEST_F(InTheMiddle, APostedActThatFailsLeavesTheOthers) {
+  const auto life = std::make_shared<int>();
+  toolkit.Post(life, [] { throw std::runtime_error("broken"); });
+  toolkit.Post(life, [this] { told.push_back("second"); });
+  Pump();
+  EXPECT_EQ(told, Log{"second"});
+  EXPECT_EQ(faults, Log{"broken"});
+}
+
 TEST_F(InTheMiddle, AFormUnloadedByMouseDownHearsNothingMore) {
   forms::PictureBox pic(form, "pic");
   Show();
