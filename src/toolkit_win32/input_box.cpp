@@ -1,6 +1,7 @@
 #include "toolkit_win32/input_box.h"
 
 #include <algorithm>
+#include <exception>
 #include <vector>
 
 namespace corvane::toolkit_win32 {
@@ -51,6 +52,7 @@ struct Box {
   const std::wstring& prompt;
   const std::wstring& text;
   std::wstring answer;
+  std::exception_ptr fault;  // for the caller of the dialog
 };
 
 RECT PlaceIn(HWND dialog, HWND item) {
@@ -100,7 +102,7 @@ std::wstring TextOf(HWND item) {
   return text;
 }
 
-INT_PTR CALLBACK HandleMessage(HWND dialog, UINT message, WPARAM w, LPARAM l) {
+INT_PTR CALLBACK HandleMessage(HWND dialog, UINT message, WPARAM w, LPARAM l) noexcept {
   if (message == WM_INITDIALOG) {
     SetWindowLongPtrW(dialog, DWLP_USER, l);
     const auto& box = *reinterpret_cast<const Box*>(l);
@@ -113,7 +115,11 @@ INT_PTR CALLBACK HandleMessage(HWND dialog, UINT message, WPARAM w, LPARAM l) {
   const WORD button = LOWORD(w);
   if (button != IDOK && button != IDCANCEL) return FALSE;
   auto* box = reinterpret_cast<Box*>(GetWindowLongPtrW(dialog, DWLP_USER));
-  if (button == IDOK) box->answer = TextOf(GetDlgItem(dialog, kInputText));
+  try {
+    if (button == IDOK) box->answer = TextOf(GetDlgItem(dialog, kInputText));
+  } catch (...) {
+    box->fault = std::current_exception();
+  }
   EndDialog(dialog, button);
   return TRUE;
 }
@@ -127,9 +133,10 @@ std::wstring ShowInputBox(HWND owner, const std::wstring& prompt, const std::wst
   dialog.Add(kButtonClass, IDOK, WS_TABSTOP | BS_DEFPUSHBUTTON, kOK, L"OK");
   dialog.Add(kButtonClass, IDCANCEL, WS_TABSTOP | BS_PUSHBUTTON, kCancel, L"Cancel");
   dialog.Add(kStaticClass, kInputPrompt, SS_LEFT | SS_NOPREFIX, kPrompt, L"");
-  Box box{prompt, text, {}};
+  Box box{prompt, text, {}, {}};
   DialogBoxIndirectParamW(GetModuleHandleW(nullptr), dialog.Get(), owner, HandleMessage,
                           reinterpret_cast<LPARAM>(&box));
+  if (box.fault) std::rethrow_exception(box.fault);
   return std::move(box.answer);
 }
 

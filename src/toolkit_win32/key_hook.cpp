@@ -1,5 +1,7 @@
 #include "toolkit_win32/key_hook.h"
 
+#include <exception>
+
 #include "toolkit_win32/keys.h"
 #include "toolkit_win32/toolkit.h"
 
@@ -32,7 +34,18 @@ void Run(const MSG& message, Window& window) {
   DispatchMessageW(&message);
 }
 
-LRESULT CALLBACK Hear(int code, WPARAM removed, LPARAM l) {
+// Nothing thrown enters the system.
+void RunGuarded(const MSG& message, Window& window) noexcept {
+  Win32Toolkit& toolkit = window.Toolkit();
+  const std::shared_ptr<WindowYard> yard = toolkit.Yard();
+  try {
+    Run(message, window);
+  } catch (...) {
+    if (!yard->IsClosed()) toolkit.Guard([fault = std::current_exception()] { std::rethrow_exception(fault); });
+  }
+}
+
+LRESULT CALLBACK Hear(int code, WPARAM removed, LPARAM l) noexcept {
   auto& message = *reinterpret_cast<MSG*>(l);
   if (code == HC_ACTION && removed == PM_REMOVE && IsKeyMessage(message.message) && !AreKeysTaken()) {
     if (Window* window = WindowAround(message.hwnd)) {
@@ -40,7 +53,7 @@ LRESULT CALLBACK Hear(int code, WPARAM removed, LPARAM l) {
       message.message = WM_NULL;
       message.wParam = 0;
       message.lParam = 0;
-      Run(taken, *window);
+      RunGuarded(taken, *window);
     }
   }
   return CallNextHookEx(nullptr, code, removed, l);

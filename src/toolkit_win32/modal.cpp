@@ -2,17 +2,13 @@
 
 #include <utility>
 
+#include "toolkit_win32/thread_windows.h"
 #include "toolkit_win32/window.h"
 
 namespace corvane::toolkit_win32 {
 namespace {
 
 thread_local ModalRun* newest_run = nullptr;
-
-BOOL CALLBACK NoteUsable(HWND window, LPARAM list) {
-  if (IsWindowVisible(window) && IsWindowEnabled(window)) reinterpret_cast<std::list<HWND>*>(list)->push_back(window);
-  return TRUE;
-}
 
 void Run(MSG& message) {
   TranslateMessage(&message);
@@ -25,8 +21,7 @@ ModalRun::ModalRun(HWND window)
     : below_(std::exchange(newest_run, this)), active_before_(GetActiveWindow()), focus_before_(GetFocus()) {
   if (below_) below_->above_ = this;
   ReleaseCapture();
-  EnumThreadWindows(GetCurrentThreadId(), NoteUsable, reinterpret_cast<LPARAM>(&disabled_));
-  std::erase(disabled_, window);
+  disabled_ = UsableWindows(window);
   for (HWND each : disabled_) EnableWindow(each, FALSE);
 }
 

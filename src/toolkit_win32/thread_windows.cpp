@@ -1,24 +1,36 @@
 #include "toolkit_win32/thread_windows.h"
 
+#include <utility>
+
 namespace corvane::toolkit_win32 {
 namespace {
 
 struct Search {
-  HWND owner;
-  std::vector<HWND>& found;
+  HWND but;
+  std::list<HWND> found;
 };
 
-BOOL CALLBACK NoteUsable(HWND window, LPARAM search) {
-  const auto& [owner, found] = *reinterpret_cast<Search*>(search);
-  if (window != owner && IsWindowVisible(window) && IsWindowEnabled(window)) found.push_back(window);
-  return TRUE;
+// Where memory ends, the search ends with what it has: nothing thrown enters the system.
+BOOL CALLBACK NoteUsable(HWND window, LPARAM l) noexcept {
+  auto& search = *reinterpret_cast<Search*>(l);
+  if (window == search.but || !IsWindowVisible(window) || !IsWindowEnabled(window)) return TRUE;
+  try {
+    search.found.push_back(window);
+    return TRUE;
+  } catch (...) {
+    return FALSE;
+  }
 }
 
 }  // namespace
 
-OtherWindowsDisabled::OtherWindowsDisabled(HWND owner) {
-  Search search{owner, disabled_};
+std::list<HWND> UsableWindows(HWND but) {
+  Search search{but, {}};
   EnumThreadWindows(GetCurrentThreadId(), NoteUsable, reinterpret_cast<LPARAM>(&search));
+  return std::move(search.found);
+}
+
+OtherWindowsDisabled::OtherWindowsDisabled(HWND owner) : disabled_(UsableWindows(owner)) {
   for (HWND window : disabled_) EnableWindow(window, FALSE);
 }
 
