@@ -220,6 +220,8 @@ LRESULT FormWindowPeer::OnMessage(Window& window, const Message& message) {
     case WM_PRINTCLIENT:
       Fill(reinterpret_cast<HDC>(message.w), window.Client(), form_.BackColor());
       return 1;
+    case WM_HELP:  // F1 that nobody used; the system would ask the owner, which is the environment
+      return TRUE;
     case WM_SETCURSOR:
       if (LOWORD(message.l) == HTCLIENT && ShowPointer()) return TRUE;
       break;

@@ -145,6 +145,55 @@ TEST_F(Window, StaysInFrontOfTheHost) {
   DestroyWindow(host);
 }
 
+// Counts what a window hears of one message.
+class Heard {
+ public:
+  Heard(HWND window, UINT id) : window_(window), id_(id) {
+    SetPropW(window, kName, this);
+    before_ = reinterpret_cast<WNDPROC>(SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure)));
+  }
+  ~Heard() {
+    SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(before_));
+    RemovePropW(window_, kName);
+  }
+  Heard(const Heard&) = delete;
+  Heard& operator=(const Heard&) = delete;
+  int Count() const { return count_; }
+
+ private:
+  static constexpr wchar_t kName[] = L"Heard";
+  static LRESULT CALLBACK Procedure(HWND window, UINT id, WPARAM w, LPARAM l) {
+    auto& self = *static_cast<Heard*>(GetPropW(window, kName));
+    if (id == self.id_) ++self.count_;
+    return CallWindowProcW(self.before_, window, id, w, l);
+  }
+  HWND window_;
+  UINT id_;
+  WNDPROC before_ = nullptr;
+  int count_ = 0;
+};
+
+TEST_F(Window, F1ThatNobodyUsesDoesNotAskTheHostForHelp) {
+  const HWND host = CreateWindowExW(0, L"STATIC", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 200, 100, nullptr,
+                                    nullptr, nullptr, nullptr);
+  toolkit.SetHostWindow(host);
+  form.SetBorderStyle(forms::FormBorder::FixedDialog);
+  forms::TextBox txt(form, "txt");
+  Show();
+  {
+    const Heard asked(host, WM_HELP);
+    HELPINFO help{};
+    help.cbSize = sizeof help;
+    help.iContextType = HELPINFO_WINDOW;
+    help.hItemHandle = WindowOf(txt);
+    SendMessageW(WindowOf(txt), WM_HELP, 0, reinterpret_cast<LPARAM>(&help));
+    EXPECT_EQ(asked.Count(), 0);
+  }
+  form.Unload();
+  toolkit.SetHostWindow(nullptr);
+  DestroyWindow(host);
+}
+
 TEST_F(Window, UnplacedStandsInsideTheScreen) {
   form.Move(0, 0, 6000, 4500);
   Show();
