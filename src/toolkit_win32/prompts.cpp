@@ -24,6 +24,7 @@ class SystemPrompts : public host::Prompts {
     const std::wstring text = ShownText(prompt), caption = TitleOr(title);
     const HWND owner = toolkit_.FrontWindow();
     const OtherWindowsDisabled others(owner);
+    const VisualStyles::Use styled(toolkit_.Styles());
     const int answer = MessageBoxW(owner, text.c_str(), caption.c_str(), SystemStyle(style));
     if (answer == 0) throw runtime::Error(runtime::kInvalidProcedureCall);
     return answer;
@@ -32,6 +33,7 @@ class SystemPrompts : public host::Prompts {
   std::string InputBox(const std::string& prompt, const std::string& title, const std::string& text) override {
     const HWND owner = toolkit_.FrontWindow();
     const OtherWindowsDisabled others(owner);
+    const VisualStyles::Use styled(toolkit_.Styles());
     return BytesOf(ShowInputBox(owner, ShownText(prompt), TitleOr(title), ShownText(text)));
   }
 

@@ -295,6 +295,28 @@ TEST_F(PromptsTest, WithoutAFormTheBoxBelongsToTheEnvironmentsWindow) {
   DestroyWindow(host);
 }
 
+// Whether code asks for a context of its own in this place, as VisualStyles::Use does.
+bool IsContextInUse() {
+  HANDLE context = nullptr;
+  GetCurrentActCtx(&context);
+  if (context) ReleaseActCtx(context);
+  return context != nullptr;
+}
+
+TEST_F(PromptsTest, BothBoxesHaveTheVisualStyles) {
+  ASSERT_TRUE(toolkit.Styles().AreThere());
+  for (bool input : {false, true}) {
+    bool used = false;
+    InDialog([&](HWND dialog) {
+      used = IsContextInUse();
+      PostMessageW(dialog, WM_COMMAND, IDOK, 0);
+    });
+    input ? static_cast<void>(services.Prompts.InputBox("text")) : static_cast<void>(services.Prompts.MsgBox("text"));
+    EXPECT_TRUE(used) << input;
+    EXPECT_FALSE(IsContextInUse()) << input;
+  }
+}
+
 TEST_F(PromptsTest, EscInAMessageBoxIsCancel) {
   InDialog([](HWND) { PostMessageW(GetFocus(), WM_KEYDOWN, VK_ESCAPE, 1); });
   EXPECT_EQ(services.Prompts.MsgBox("text", host::vbOKCancel), host::vbCancel);
