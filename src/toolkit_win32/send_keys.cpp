@@ -84,13 +84,14 @@ std::vector<INPUT> InputsOf(const forms::SentKey& sent) {
   return inputs;
 }
 
-// Until this thread has taken them, or long enough when they go elsewhere.
-void WaitFor(Win32Toolkit& toolkit, const KeysTaken& keys, int count) {
-  const ULONGLONG end = GetTickCount64() + kLongestWait;
+// Until this thread has taken them, or [longest] milliseconds when they go elsewhere. Tells whether it has.
+bool WaitFor(Win32Toolkit& toolkit, const KeysTaken& keys, int count, DWORD longest) {
+  const ULONGLONG end = GetTickCount64() + longest;
   while (true) {
     toolkit.DoEvents();
     const ULONGLONG now = GetTickCount64();
-    if (keys.Count() >= count || now >= end) return;
+    if (keys.Count() >= count) return true;
+    if (now >= end) return false;
     MsgWaitForMultipleObjects(0, nullptr, FALSE, static_cast<DWORD>(end - now), QS_ALLINPUT);
   }
 }
@@ -101,13 +102,15 @@ void SendKeys(Win32Toolkit& toolkit, std::string_view keys) {
   const std::vector<forms::SentKey> sent = forms::ParseSentKeys(keys);
   const KeysTaken taken;
   int count = 0;
+  bool heard = true;
   for (const forms::SentKey& each : sent) {
     std::vector<INPUT> inputs = InputsOf(each);
     const auto size = static_cast<UINT>(inputs.size());
     if (SendInput(size, inputs.data(), sizeof(INPUT)) != size) throw runtime::Error(runtime::kPermissionDenied);
     count += static_cast<int>(size);
-    WaitFor(toolkit, taken, count);
+    heard = WaitFor(toolkit, taken, count, heard ? kLongestWait : 0);
   }
+  if (!heard) WaitFor(toolkit, taken, count, kLongestWait);  // a busy machine's may still come
 }
 
 }  // namespace corvane::toolkit_win32

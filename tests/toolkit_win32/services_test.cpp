@@ -470,6 +470,16 @@ TEST_F(LoopTest, SendKeysTypesIntoTheWindowWithTheFocus) {
   EXPECT_EQ(faults, std::vector<std::string>{});
 }
 
+// No window of this thread has the focus: each key would be waited for in vain.
+TEST_F(LoopTest, KeysThatAreNotHeardOfHereAreWaitedForOnce) {
+  constexpr ULONGLONG kOneWait = 250;
+  const ULONGLONG start = GetTickCount64();
+  services.Loop.SendKeys("abcdefghijklmnop");
+  const ULONGLONG took = GetTickCount64() - start;
+  EXPECT_GE(took, kOneWait / 2);
+  EXPECT_LT(took, 8 * kOneWait);
+}
+
 TEST_F(LoopTest, KeysThatCannotBeReadAreError5AndNoneIsSent) {
   forms::TextBox box(form, "txt");
   Show();
