@@ -65,6 +65,12 @@ BOOL CALLBACK ChangeOwner(HWND window, LPARAM owners) noexcept {
   return TRUE;
 }
 
+BOOL CALLBACK PassOn(HWND child, LPARAM l) noexcept {
+  const auto& message = *reinterpret_cast<const Message*>(l);
+  SendMessageW(child, message.id, message.w, message.l);
+  return TRUE;
+}
+
 }  // namespace
 
 forms::Rect FrameOfForm(const Win32Toolkit& toolkit, const forms::Form& form) {
@@ -202,6 +208,12 @@ void FormWindowPeer::RunModalLoop() {
   modal->GiveFocusBack();
 }
 
+// Of colours and styles the system tells top-level windows alone.
+void FormWindowPeer::TellControls(const Message& message) {
+  EnumChildWindows(Handle(), PassOn, reinterpret_cast<LPARAM>(&message));
+  RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+}
+
 LRESULT FormWindowPeer::OnMessage(Window& window, const Message& message) {
   switch (message.id) {
     case WM_CLOSE:
@@ -220,6 +232,10 @@ LRESULT FormWindowPeer::OnMessage(Window& window, const Message& message) {
     case WM_PRINTCLIENT:
       Fill(reinterpret_cast<HDC>(message.w), window.Client(), form_.BackColor());
       return 1;
+    case WM_SYSCOLORCHANGE:
+    case WM_THEMECHANGED:
+      TellControls(message);
+      break;
     case WM_HELP:  // F1 that nobody used; the system would ask the owner, which is the environment
       return TRUE;
     case WM_SETCURSOR:

@@ -39,6 +39,7 @@ class FormWindowPeer : public forms::FormPeer, public MessageSink {
   void Activated(bool active);
   void WindowResized(WPARAM how);
   void WindowMoved();
+  void TellControls(const Message& message);
   void PutWhereFocusBelongs();
   void ShowIcon();
   void ShowPlace();

@@ -194,6 +194,22 @@ TEST_F(Window, F1ThatNobodyUsesDoesNotAskTheHostForHelp) {
   DestroyWindow(host);
 }
 
+TEST_F(Window, ColoursAndStylesOfTheSystemThatChangeReachAllControls) {
+  forms::Frame fra(form, "fra");
+  forms::TextBox txt(fra, "txt");
+  fra.Move(120, 120, 2000, 2000), txt.Move(240, 240, 1000, 315);
+  Show();
+  UpdateWindow(WindowOf(form));
+  for (UINT id : {UINT{WM_SYSCOLORCHANGE}, UINT{WM_THEMECHANGED}}) {
+    const Heard told_frame(WindowOf(fra), id), told_text(WindowOf(txt), id);
+    SendMessageW(WindowOf(form), id, 0, 0);
+    EXPECT_EQ(told_frame.Count(), 1) << id;
+    EXPECT_EQ(told_text.Count(), 1) << id;
+    EXPECT_TRUE(GetUpdateRect(WindowOf(txt), nullptr, FALSE)) << id;
+    Pump();
+  }
+}
+
 TEST_F(Window, UnplacedStandsInsideTheScreen) {
   form.Move(0, 0, 6000, 4500);
   Show();
