@@ -81,7 +81,7 @@ screenshots-win32: packages
 sanitize: packages
 	cmake --preset sanitize -Wno-dev --log-level=WARNING
 	cmake --build build/sanitize -j $(JOBS)
-	scripts/tests build/sanitize
+	LSAN_OPTIONS="suppressions=$(CURDIR)/scripts/library-leaks.txt:print_suppressions=0" scripts/tests build/sanitize
 
 # Each fuzz target for a minute; `fuzz-quick` the same inputs each time, for some seconds.
 FUZZ_SECONDS ?= 60
