@@ -3,7 +3,11 @@
 
 #include <cstdint>
 
+#include "forms/types.h"
+
 namespace corvane::codelist {
+
+using forms::Twips;
 
 struct Drag {
   bool running = false;
@@ -11,6 +15,7 @@ struct Drag {
   long row = 0, line = 0;  // of the last step
   long direction = 0;      // of the last step
   long scrolling = 0;      // while the pointer is outside the surface
+  Twips x = 0;             // of the pointer
 };
 
 }  // namespace corvane::codelist

@@ -84,6 +84,7 @@ void ucListBox::pic_MouseDown(int button, Twips x, Twips y) {
 void ucListBox::pic_MouseMove(int button, int shift, Twips x, Twips y) {
   if (!SelectionIsLocked()) MouseMove(button, shift, x, y);
   tmr.SetEnabled(false);
+  drag.x = x;
   if (drag.running && (button & forms::vbLeftButton)) DragTo(y);
 }
 
@@ -123,7 +124,7 @@ bool ucListBox::DragStep(bool down) {
 void ucListBox::tmr_Timer() {
   tmr.SetEnabled(false);
   if (!drag.running || currentLine < 2 || currentLine >= store.Count()) return;
-  DragTo(drag.scrolling < 0 ? -1 : pic.ScaleHeight() + 1);
+  pic_MouseMove(forms::vbLeftButton, 0, drag.x, drag.scrolling < 0 ? -1 : pic.ScaleHeight() + 1);
 }
 
 void ucListBox::pic_MouseUp(int button, Twips x, Twips y) {

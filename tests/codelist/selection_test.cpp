@@ -126,6 +126,22 @@ TEST_F(Selection, AboveTheSurfaceTheTimerScrollsUp) {
   EXPECT_THAT(SelectedLines(), ElementsAre(16, 17, 18));
 }
 
+TEST_F(Selection, ATurnOfTheTimerMovesThePointerToJustOutsideTheSurface) {
+  Load(30);
+  Press(9);
+  Wait(300);
+  std::vector<forms::Twips> told;
+  list.MouseMove = [&told](int button, int, forms::Twips, forms::Twips y) {
+    if (button == forms::vbLeftButton) told.push_back(y);
+  };
+  DragToY(5000);
+  toolkit.Tick(list.tmr);
+  EXPECT_THAT(told, ElementsAre(5000, list.pic.ScaleHeight() + 1));
+  DragToY(-10);
+  toolkit.Tick(list.tmr);
+  EXPECT_THAT(told, ElementsAre(5000, list.pic.ScaleHeight() + 1, -10, -1));
+}
+
 TEST_F(Selection, ThePointerComingBackStopsTheTimer) {
   Load(30);
   Press(9);
