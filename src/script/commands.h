@@ -23,7 +23,8 @@ struct CommandUse {
 };
 
 struct CommandRow {
-  std::string_view keyword;
+  std::string_view keyword;    // in upper case
+  std::string_view arguments;  // as a reader sees them; those in brackets may be left out
   std::string_view help;
   // None for those whose argument is read in a way of its own.
   void (*act)(CommandUse& use);

@@ -4,6 +4,7 @@
 
 #include "script/oem_text.h"
 #include "tests/script/engine_test.h"
+#include "tests/script/shapes.h"
 
 namespace corvane::script {
 namespace {
@@ -136,15 +137,25 @@ TEST_F(BuiltInsTest, EachFunctionGivesWhatItsRowSays) {
   EXPECT_EQ(world.services.prompts.input_boxes.back().default_text, "x");
 }
 
-TEST_F(BuiltInsTest, EachRowHasHelpAndAForm) {
+TEST_F(BuiltInsTest, EachRowHasItsShapeOneLineOfHelpAndAForm) {
   for (const auto group : {TextFunctions(), NumberFunctions(), OutsideFunctions()})
     for (const FunctionRow& row : group) {
       EXPECT_EQ(FindFunction(row.key), &row) << row.key;
       EXPECT_EQ(row.key.back(), '(') << row.key;
-      EXPECT_GT(row.help.size(), 5u) << row.key;
+      EXPECT_TRUE(IsShape(row.arguments)) << row.key << row.arguments;
+      EXPECT_TRUE(IsHelp(row.help)) << row.key << row.help;
       EXPECT_TRUE(row.one || row.two || row.three || row.names_array) << row.key;
     }
   EXPECT_EQ(FindFunction("NOSUCH("), nullptr);
+}
+
+TEST_F(BuiltInsTest, TheShapeOfAFunctionSaysHowManyArgumentsItTakes) {
+  for (const auto group : {TextFunctions(), NumberFunctions(), OutsideFunctions()})
+    for (const FunctionRow& row : group) {
+      if (!row.two && !row.three) continue;  // a list is taken as it is
+      EXPECT_EQ(Arguments(row.arguments, false), row.three ? 3 : 2) << row.key;
+      EXPECT_EQ(Arguments(row.arguments, true), row.one ? 1 : row.two ? 2 : 3) << row.key;
+    }
 }
 
 TEST_F(BuiltInsTest, MidWithOneArgumentQuietlyIsEmpty) {

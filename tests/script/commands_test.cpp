@@ -2,6 +2,7 @@
 #include "script/commands.h"
 
 #include "tests/script/lib_test.h"
+#include "tests/script/shapes.h"
 
 namespace corvane::script {
 namespace {
@@ -181,10 +182,12 @@ TEST_F(CommandsTest, PushOutsideASelectKeepsItsValue) {
   EXPECT_EQ(Boxes(), Lines());
 }
 
-TEST(CommandTableTest, EveryCommandHasItsLineOfHelp) {
+TEST(CommandTableTest, EachRowHasItsShapeAndOneLineOfHelp) {
   for (const CommandRow& row : CommandTable()) {
-    EXPECT_EQ(row.help.substr(0, row.keyword.size() + 1), std::string(row.keyword) + "(") << row.keyword;
-    EXPECT_NE(row.help.find("): "), std::string_view::npos) << row.keyword;
+    EXPECT_EQ(row.keyword, runtime::UCase(row.keyword));
+    EXPECT_EQ(row.keyword.find('('), std::string_view::npos) << row.keyword;
+    EXPECT_TRUE(IsShape(row.arguments)) << row.keyword << ": " << row.arguments;
+    EXPECT_TRUE(IsHelp(row.help)) << row.keyword << ": " << row.help;
   }
 }
 
