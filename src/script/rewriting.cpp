@@ -1,33 +1,45 @@
 // The rules that rewrite a statement, in the order in which they are tried.
+#include "script/keywords.h"
 #include "script/translation.h"
 
 namespace corvane::script {
 
 const Translation::KeywordRule Translation::kRules[] = {
-    {"ELSEIF", &Translation::ElseIf},
-    {"SELECT CASE", &Translation::SelectCase},
-    {"END SELECT:", &Translation::EndSelect},
-    {"CASE ELSE:", &Translation::CaseElse},
-    {"CASE ", &Translation::Case},
-    {"CASE(", &Translation::Case},
-    {"EXIT FOR:", &Translation::ExitLoop},
-    {"EXIT WHILE:", &Translation::ExitLoop},
-    {"END SUB:", &Translation::EndSub},
-    {"EXIT FUNCTION", &Translation::ExitFunction},
-    {"FUNCTION ", &Translation::Function},
-    {"END FUNCTION:", &Translation::EndFunction},
-    {"ELSE:", &Translation::Else},
-    {"END IF", &Translation::EndIf},
-    {"IF(", &Translation::If},
-    {"IF ", &Translation::If},
-    {"CONTINUE:", &Translation::Continue},
-    {"NEXT ", &Translation::EndLoop},
-    {"NEXT:", &Translation::EndLoop},
-    {"WEND:", &Translation::EndLoop},
-    {"LOOP:", &Translation::EndLoop},
-    {"WHILE ", &Translation::While},
-    {"FOR ", &Translation::For},
-    {"", nullptr},
+    {"ELSEIF", &Translation::ElseIf, "ELSEIF condition THEN [statement]",
+     "runs if the tests before it failed and the condition is true"},
+    {"SELECT CASE", &Translation::SelectCase, "SELECT CASE value", "runs the CASE that lists the value"},
+    {"END SELECT:", &Translation::EndSelect, "END SELECT", "ends the innermost SELECT CASE"},
+    {"CASE ELSE:", &Translation::CaseElse, "CASE ELSE", "runs if no CASE before it lists the value"},
+    {"CASE ", &Translation::Case, "CASE value[, value ...]", "runs if the value of SELECT CASE is one of these texts"},
+    {"CASE(", &Translation::Case, "CASE(value)", "compares nothing: write a blank behind CASE"},
+    {"EXIT FOR:", &Translation::ExitLoop, "EXIT FOR", "leaves the innermost loop, a WHILE too"},
+    {"EXIT WHILE:", &Translation::ExitLoop, "EXIT WHILE", "leaves the innermost loop, a FOR too"},
+    {"END SUB:", &Translation::EndSub, "END SUB", "ends the definition of a SUB"},
+    {"EXIT FUNCTION", &Translation::ExitFunction, "EXIT FUNCTION", "leaves the function with the value it has so far"},
+    {"FUNCTION ", &Translation::Function, "FUNCTION name([argument, ...])",
+     "begins a function, whose value is that of the variable of its name"},
+    {"END FUNCTION:", &Translation::EndFunction, "END FUNCTION", "ends the definition of a function"},
+    {"ELSE:", &Translation::Else, "ELSE", "runs if the tests before it failed"},
+    {"END IF", &Translation::EndIf, "END IF", "ends the innermost IF that has lines of its own"},
+    {"IF(", &Translation::If, "IF(condition)THEN [statement]", "as IF with a blank behind it"},
+    {"IF ", &Translation::If, "IF condition THEN [statement]",
+     "runs the one statement, or the lines up to ELSEIF, ELSE or END IF, if the condition is true"},
+    {"CONTINUE:", &Translation::Continue, "CONTINUE", "begins the next pass of the innermost loop"},
+    {"NEXT ", &Translation::EndLoop, "NEXT variable", "ends the innermost loop, whatever variable it names"},
+    {"NEXT:", &Translation::EndLoop, "NEXT", "ends the innermost loop, a WHILE too"},
+    {"WEND:", &Translation::EndLoop, "WEND", "ends the innermost loop, a FOR too"},
+    {"LOOP:", &Translation::EndLoop, "LOOP", "ends the innermost loop of either kind"},
+    {"WHILE ", &Translation::While, "WHILE condition", "repeats the lines up to WEND while the condition is true"},
+    {"FOR ", &Translation::For, "FOR variable=start TO limit [STEP step]",
+     "repeats the lines up to NEXT while the variable rises to the limit"},
+    {"", nullptr, "", ""},
 };
+
+std::vector<Keyword> RewrittenKeywords() {
+  std::vector<Keyword> keywords;
+  for (const auto* rule = Translation::kRules; rule->apply != nullptr; ++rule)
+    keywords.push_back(KeywordOf(rule->start, rule->shape, rule->help));
+  return keywords;
+}
 
 }  // namespace corvane::script

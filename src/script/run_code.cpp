@@ -117,12 +117,12 @@ void CodeRun::Dispatch(ProgramItem& statement) {
   if (defining_) return CopyToDefinition(statement);
   for (;; ++statement.row) {
     const Row& row = kRows[statement.row];
-    if (!row.fits(statement)) continue;
+    if (!row.Fits(statement)) continue;
     if (!row.in_sub_only || state_.subDepth >= 1) return (this->*row.act)(statement);
     break;
   }
   for (const Row* row = &kRows[statement.row + 1];; ++row)
-    if (row->fits(statement) && (!row->in_sub_only || state_.subDepth >= 1)) return (this->*row->act)(statement);
+    if (row->Fits(statement) && (!row->in_sub_only || state_.subDepth >= 1)) return (this->*row->act)(statement);
 }
 
 }  // namespace corvane::script

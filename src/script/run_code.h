@@ -21,11 +21,16 @@ class CodeRun {
   void Run(const std::string& text);
   void RunFlat(std::shared_ptr<FlatProgram> program);
 
-  // A row of the table of statements: which it fits, whether only inside a SUB, what it does. The first that fits acts.
+  // A row of the table of statements: its word, whether it fits, whether only inside a SUB, what it does, and how the
+  // reference tells it. The first that fits acts; the last fits all.
   struct Row {
-    bool (*fits)(const ProgramItem& statement);
+    std::string_view word;  // in upper case
+    bool (*fits)(const ProgramItem& statement, std::string_view word);
     bool in_sub_only;
     void (CodeRun::*act)(ProgramItem& statement);
+    std::string_view shape, help;
+
+    bool Fits(const ProgramItem& statement) const { return fits(statement, word); }
   };
   static const Row kRows[];
 

@@ -1,10 +1,10 @@
 // The table of statements, and what the plain ones do.
 #include <algorithm>
-#include <array>
 
 #include "runtime/strings.h"
 #include "script/arguments.h"
 #include "script/commands.h"
+#include "script/keywords.h"
 #include "script/marks.h"
 #include "script/run_code.h"
 
@@ -15,51 +15,79 @@ using runtime::BeginsWith;
 namespace {
 
 using Statement = const ProgramItem&;
+using Word = std::string_view;
 
-// Whether the statement begins with one of [words], in any case.
-template <const char*... words>
-bool Begins(Statement statement) {
-  return (BeginsWith(statement.upper, words) || ...);
+bool Begins(Statement statement, Word word) {
+  return BeginsWith(statement.upper, word);
 }
 
-// Whether it is one of [words].
-template <const char*... words>
-bool Is(Statement statement) {
-  return ((statement.upper == words) || ...);
+bool Is(Statement statement, Word word) {
+  return statement.upper == word;
 }
 
-constexpr char kSub[] = "SUB ", kEndSubWord[] = "END SUB", kGoTf[] = "GOTF ", kCase[] = "CASE ", kGoTb[] = "GOTB ",
-               kGoTn[] = "GOTN ", kGo[] = "GO ", kGoTo[] = "GOTO ", kExitSub[] = "EXIT SUB", kDim[] = "DIM ",
-               kCall[] = "CALL ", kEndCode[] = "END CODE:", kExit[] = "EXIT:", kExitFor[] = "EXIT FOR:",
-               kExitWhile[] = "EXIT WHILE:", kDebug[] = "DEBUG:", kStopEx[] = "STOPEX:", kStop[] = "STOP:";
+bool IsWithoutBracket(Statement statement, Word word) {
+  return *statement.paren < 1 && Is(statement, word);
+}
+
+bool IsOutput(Statement statement, Word) {
+  return *statement.eq == 1;
+}
+
+bool IsPlain(Statement statement, Word) {
+  return *statement.paren < 1 && *statement.eq < 2;
+}
+
+bool IsAssignment(Statement statement, Word) {
+  return *statement.paren < 1;
+}
+
+bool IsAny(Statement, Word) {
+  return true;
+}
 
 constexpr size_t kCaseLength = 5, kDimLength = 4;
+constexpr bool kInSub = true, kAnywhere = false;
 
 }  // namespace
 
 const CodeRun::Row CodeRun::kRows[] = {
-    {Begins<kSub>, false, &CodeRun::BeginDefinition},
-    {Begins<kEndSubWord>, true, &CodeRun::ReturnFromSub},
-    {Begins<kGoTf>, false, &CodeRun::JumpForward},
-    {Begins<kCase>, false, &CodeRun::TestCase},
-    {Begins<kGoTb>, false, &CodeRun::JumpBackward},
-    {Begins<kGoTn>, false, &CodeRun::JumpToEndIf},
-    {Begins<kGo>, false, &CodeRun::JumpUnlessTrue},
-    {Begins<kGoTo>, false, &CodeRun::GoTo},
-    {Begins<kExitSub>, true, &CodeRun::ExitSub},
-    {[](Statement statement) { return *statement.eq == 1; }, false, &CodeRun::Output},
-    {Begins<kDim>, false, &CodeRun::Dim},
-    {Begins<kCall>, false, &CodeRun::Call},
-    {[](Statement statement) { return *statement.paren < 1 && Is<kEndCode>(statement); }, false, &CodeRun::EndCode},
-    {Is<kExit>, false, &CodeRun::Exit},
-    {Is<kExitFor, kExitWhile>, false, &CodeRun::Ignore},
-    {Is<kDebug>, false, &CodeRun::Debug},
-    {Is<kStopEx>, false, &CodeRun::StopAndShowWide},
-    {Is<kStop>, false, &CodeRun::StopAndShow},
-    {[](Statement statement) { return *statement.paren < 1 && *statement.eq < 2; }, false, &CodeRun::Plain},
-    {[](Statement statement) { return *statement.paren < 1; }, false, &CodeRun::Assign},
-    {[](Statement) { return true; }, false, &CodeRun::InBrackets},
+    {"SUB ", Begins, kAnywhere, &CodeRun::BeginDefinition, "SUB name([argument, ...])",
+     "defines a SUB by being run over; the first of a name stays"},
+    {"END SUB", Begins, kInSub, &CodeRun::ReturnFromSub, "END SUB", "goes back behind the CALL; the locals are gone"},
+    {"GOTF ", Begins, kAnywhere, &CodeRun::JumpForward, "GOTF label", "made for loops: jumps forward to the label"},
+    {"CASE ", Begins, kAnywhere, &CodeRun::TestCase, "CASE slot, value[, value ...]",
+     "made for CASE: whether the value kept in the slot is one of the others"},
+    {"GOTB ", Begins, kAnywhere, &CodeRun::JumpBackward, "GOTB label",
+     "made for loops: jumps to the label, looked for from the start"},
+    {"GOTN ", Begins, kAnywhere, &CodeRun::JumpToEndIf, "GOTN label",
+     "made for ELSE and CASE: jumps forward to the END IF that the label follows"},
+    {"GO ", Begins, kAnywhere, &CodeRun::JumpUnlessTrue, "GO label",
+     "made for IF and CASE: jumps forward to the label if the test before it failed"},
+    {"GOTO ", Begins, kAnywhere, &CodeRun::GoTo, "GOTO label",
+     "jumps to the label: forward if it follows, else the search begins anew at the start"},
+    {"EXIT SUB", Begins, kInSub, &CodeRun::ExitSub, "EXIT SUB", "goes on at the END SUB of the SUB that runs"},
+    {"=", IsOutput, kAnywhere, &CodeRun::Output, "=value[&value ...]", "puts out the values, one behind the other"},
+    {"DIM ", Begins, kAnywhere, &CodeRun::Dim, "DIM name[, array() ...]", "declares variables, and arrays with ()"},
+    {"CALL ", Begins, kAnywhere, &CodeRun::Call, "CALL name([value, ...])", "runs a SUB that was defined before"},
+    {"END CODE:", IsWithoutBracket, kAnywhere, &CodeRun::EndCode, "END CODE", "ends the script"},
+    {"EXIT:", Is, kAnywhere, &CodeRun::Exit, "EXIT", "ends the script and drops its result"},
+    {"EXIT FOR:", Is, kAnywhere, &CodeRun::Ignore, "EXIT FOR", "outside a loop: nothing"},
+    {"EXIT WHILE:", Is, kAnywhere, &CodeRun::Ignore, "EXIT WHILE", "outside a loop: nothing"},
+    {"DEBUG:", Is, kAnywhere, &CodeRun::Debug, "DEBUG", "goes on statement by statement in the debug window"},
+    {"STOPEX:", Is, kAnywhere, &CodeRun::StopAndShowWide, "STOPEX",
+     "ends the script and shows its result in the wide window"},
+    {"STOP:", Is, kAnywhere, &CodeRun::StopAndShow, "STOP", "ends the script and shows its result"},
+    {"", IsPlain, kAnywhere, &CodeRun::Plain, "variable++", "adds 1 to the variable; variable-- takes 1 off it"},
+    {"", IsAssignment, kAnywhere, &CodeRun::Assign, "variable=value",
+     "sets a variable or a property; with += -= *= /= &= to what it is and the value"},
+    {"", IsAny, kAnywhere, &CodeRun::InBrackets, "array(index)=value", "sets an element of an array, counted from 1"},
 };
+
+std::vector<Keyword> StatementKeywords() {
+  std::vector<Keyword> keywords;
+  for (const CodeRun::Row& row : CodeRun::kRows) keywords.push_back(KeywordOf(row.word, row.shape, row.help));
+  return keywords;
+}
 
 // The value is slot, listSep, values; the slot's own must be one of them, exactly.
 void CodeRun::TestCase(ProgramItem& statement) {

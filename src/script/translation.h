@@ -23,15 +23,16 @@ class Translation {
 
   std::string Run(std::string text);
 
- private:
   // Whether the statement is used up: false lets the tests go on.
   using Rule = bool (Translation::*)();
   struct KeywordRule {
     std::string_view start;  // in upper case
-    Rule apply;
+    Rule apply;              // none behind the last
+    std::string_view shape, help;
   };
   static const KeywordRule kRules[];
 
+ private:
   // A text under translation: the whole one, or the tail of a one-line IF. The IF waits meanwhile, with its head up to
   // the tail in place of its text.
   struct Piece {
