@@ -24,14 +24,21 @@ HWND MainWindowOf(const Value& application) {
   return IsWindow(window) ? window : nullptr;
 }
 
-// A modal window would keep its handler waiting for a user who sees it no more.
+bool IsShown(const forms::Toolkit& toolkit, const forms::Form* form) {
+  const auto& shown = toolkit.ShownForms();
+  return std::find(shown.begin(), shown.end(), form) != shown.end();
+}
+
+// A modal window would keep its handler waiting for a user who sees it no more. Each window is asked once: one that is
+// being unloaded below this call stays as it is until that goes on.
 void CloseAll(forms::Toolkit& toolkit) {
-  while (!toolkit.ShownForms().empty()) {
-    forms::Form* form = toolkit.ShownForms().back();
-    bool closed = false;
-    host::PassOverErrors([&] { closed = form->Unload(); });
-    if (!closed) form->Hide();
-  }
+  const std::vector<forms::Form*> shown = toolkit.ShownForms();
+  for (auto form = shown.rbegin(); form != shown.rend(); ++form)
+    if (IsShown(toolkit, *form)) host::PassOverErrors([&] { (*form)->Unload(); });
+  // Those that refused, and what came up meanwhile.
+  const std::vector<forms::Form*> left = toolkit.ShownForms();
+  for (auto form = left.rbegin(); form != left.rend(); ++form)
+    if (IsShown(toolkit, *form)) (*form)->Hide();
 }
 
 }  // namespace

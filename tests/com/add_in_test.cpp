@@ -237,6 +237,65 @@ TEST_F(AddInTest, ADisconnectionInTheStartOfAProgramWaitsToo) {
   EXPECT_EQ(environment_.Held(), 0u);
 }
 
+// The window is still there while it is asked, and asking it once more would change nothing.
+TEST_F(AddInTest, ADisconnectionWhileAWindowIsBeingUnloadedIsOver) {
+  for (const bool as_it_goes : {false, true}) {
+    Connect();
+    environment_.Click();
+    auto& window = *add_in_->Current()->AddIn().mfrmAddIn();
+    long asked = 0;
+    const auto disconnect = [&] {
+      if (++asked > 1) return;
+      Disconnect();
+      EXPECT_FALSE(window.Visible()) << "nobody sees it any more";
+      EXPECT_NE(rooms_.toolkit, nullptr) << "its handler is still running";
+    };
+    if (as_it_goes)
+      window.UnloadEvent = [&](bool&) { disconnect(); };
+    else
+      window.QueryUnload = [&](bool&, forms::UnloadMode) { disconnect(); };
+    rooms_.toolkit->Guard([&] { window.tlbr.UserButtonClick(window.tlbr.PositionOf("pExit")); });
+    EXPECT_EQ(asked, 1);
+    EXPECT_EQ(environment_.Held(), 0u);
+    RunMessages();
+    EXPECT_EQ(rooms_.toolkit, nullptr);
+  }
+}
+
+TEST_F(AddInTest, AWindowThatWillNotCloseIsAskedOnceAndHidden) {
+  Connect();
+  forms::Form other(*rooms_.toolkit, "other");
+  long asked = 0;
+  other.QueryUnload = [&](bool& cancel, forms::UnloadMode) {
+    ++asked;
+    cancel = true;
+  };
+  other.Show();
+  rooms_.toolkit->Guard([&] {
+    Disconnect();
+    EXPECT_FALSE(other.Visible());
+    EXPECT_TRUE(rooms_.toolkit->ShownForms().empty());
+  });
+  EXPECT_EQ(asked, 1);
+  other.QueryUnload = nullptr;
+  other.Unload();
+  RunMessages();
+}
+
+TEST_F(AddInTest, AWindowThatComesUpDuringADisconnectionGoesToo) {
+  Connect();
+  environment_.Click();
+  forms::Form farewell(*rooms_.toolkit, "farewell"), other(*rooms_.toolkit, "other");
+  other.UnloadEvent = [&](bool&) { farewell.Show(); };
+  other.Show();
+  rooms_.toolkit->Guard([&] {
+    Disconnect();
+    EXPECT_FALSE(farewell.Visible());
+  });
+  farewell.Unload();
+  RunMessages();
+}
+
 TEST_F(AddInTest, ADisconnectionClosesAModalWindow) {
   Connect();
   environment_.Click();
