@@ -77,29 +77,37 @@ HRESULT AddIn::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* 
   return ids[0] == DISPID_UNKNOWN || count > 1 ? DISP_E_UNKNOWNNAME : S_OK;
 }
 
-HRESULT AddIn::Invoke(DISPID id, REFIID, LCID, WORD how, DISPPARAMS* parameters, VARIANT* result, EXCEPINFO*, UINT*) {
+HRESULT AddIn::Invoke(DISPID id, REFIID, LCID, WORD how, DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* told,
+                      UINT*) {
   const ComPointer<AddIn> alive(this);
-  if (id < kOnConnection || id > kOnBeginShutdown) {
-    if (!parameters) return E_INVALIDARG;
-    return Guarded([&] { return InvokeMember(session_.get(), id, how, *parameters, result); });
-  }
-  if (!(how & DISPATCH_METHOD)) return DISP_E_MEMBERNOTFOUND;
-  if (!parameters || parameters->cArgs != kArguments[id - 1]) return DISP_E_BADPARAMCOUNT;
-  if (parameters->cNamedArgs != 0) return DISP_E_NONAMEDARGS;
+  if (!parameters) return E_INVALIDARG;
   return Guarded([&] {
-    switch (id) {
-      case kOnConnection:
-        return OnConnection(ArgumentAt(*parameters, 0).ToObject().Get(), ArgumentAt(*parameters, 1).ToLong(), nullptr,
-                            nullptr);
-      case kOnDisconnection:
-        return OnDisconnection(ArgumentAt(*parameters, 0).ToLong(), nullptr);
-      case kOnAddInsUpdate:
-        return OnAddInsUpdate(nullptr);
-      case kOnStartupComplete:
-        return OnStartupComplete(nullptr);
+    try {
+      const bool is_method = id >= kOnConnection && id <= kOnBeginShutdown;
+      return is_method ? InvokeMethod(id, how, *parameters)
+                       : InvokeMember(session_.get(), id, how, *parameters, result);
+    } catch (const host::Error& error) {
+      return Raise(error, told);
     }
-    return OnBeginShutdown(nullptr);
   });
+}
+
+HRESULT AddIn::InvokeMethod(DISPID id, WORD how, const DISPPARAMS& parameters) {
+  if (!(how & DISPATCH_METHOD)) return DISP_E_MEMBERNOTFOUND;
+  if (parameters.cArgs != kArguments[id - 1]) return DISP_E_BADPARAMCOUNT;
+  if (parameters.cNamedArgs != 0) return DISP_E_NONAMEDARGS;
+  switch (id) {
+    case kOnConnection:
+      return OnConnection(ArgumentAt(parameters, 0).ToObject().Get(), ArgumentAt(parameters, 1).ToLong(), nullptr,
+                          nullptr);
+    case kOnDisconnection:
+      return OnDisconnection(ArgumentAt(parameters, 0).ToLong(), nullptr);
+    case kOnAddInsUpdate:
+      return OnAddInsUpdate(nullptr);
+    case kOnStartupComplete:
+      return OnStartupComplete(nullptr);
+  }
+  return OnBeginShutdown(nullptr);
 }
 
 HRESULT AddIn::OnConnection(IDispatch* application, long connect_mode, IDispatch*, SAFEARRAY**) {

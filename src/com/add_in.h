@@ -38,6 +38,8 @@ class AddIn : public IDTExtensibility2 {
   Session* Current() { return session_.get(); }
 
  private:
+  // One of the methods of IDTExtensibility2. Throws host::Error for arguments of other types.
+  HRESULT InvokeMethod(DISPID id, WORD how, const DISPPARAMS& parameters);
   virtual ~AddIn() { Disconnect(addin::DisconnectMode::HostShutdown); }
   void Connect(IDispatch* application, addin::ConnectMode mode);
   void Disconnect(addin::DisconnectMode mode);

@@ -1,5 +1,6 @@
 #include "com/errors.h"
 
+#include "addin/connect.h"
 #include "com/texts.h"
 
 namespace corvane::com {
@@ -102,6 +103,15 @@ HRESULT CodeOf(const host::Error& error) {
   if (number < 0) return static_cast<HRESULT>(number);
   if (number == 0 || number > kLastNumber) return E_FAIL;
   return MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, number);
+}
+
+HRESULT Raise(const host::Error& error, EXCEPINFO* told) {
+  if (!told) return CodeOf(error);
+  *told = {};
+  told->scode = CodeOf(error);
+  told->bstrDescription = NewBstr(error.Description());
+  told->bstrSource = SysAllocString(ToWide(addin::kProgId).c_str());
+  return DISP_E_EXCEPTION;
 }
 
 }  // namespace corvane::com

@@ -12,5 +12,7 @@ host::Error ErrorOf(HRESULT code, const EXCEPINFO* told = nullptr);
 void Check(HRESULT code);
 // Errors of Visual Basic have a facility of their own; a number beyond 16 bits is a code already.
 HRESULT CodeOf(const host::Error& error);
+// The same for a caller by name, who is told the description too; without [told], which may be null, the code alone.
+HRESULT Raise(const host::Error& error, EXCEPINFO* told);
 
 }  // namespace corvane::com

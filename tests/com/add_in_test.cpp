@@ -7,6 +7,7 @@
 
 #include "com/class_factory.h"
 #include "com/dispatch.h"
+#include "com/errors.h"
 #include "com/texts.h"
 #include "forms/headless_toolkit.h"
 #include "tests/com/scripted_environment.h"
@@ -561,6 +562,48 @@ TEST_F(ByName, WhatCannotBeDoneIsTold) {
   EXPECT_EQ(ErrorOf([&] { object.Get(L"FormDisplayed", true); }), 450);
   EXPECT_EQ(ErrorOf([&] { object.Call(L"Show", std::string("perhaps")); }), 13);
   EXPECT_TRUE(rooms_.services.prompts.Texts().empty());
+}
+
+// What an object raises reaches its caller with number and description.
+TEST_F(ByName, AnErrorIsToldWithItsDescription) {
+  Connect();
+  Dispatch object = Object();
+  const auto told_of = [](const std::function<void()>& act) {
+    try {
+      act();
+    } catch (const host::Error& error) {
+      return std::to_string(error.Number()) + " " + error.Description();
+    }
+    return std::string();
+  };
+  environment_.clicks->advise_answer = E_NOTIMPL;
+  EXPECT_EQ(told_of([&] { object.Put(L"MenuHandler", Value(environment_.clicks.As<IDispatch>().Get())); }),
+            "445 Object doesn't support this action");
+  environment_.clicks->advise_answer = DISP_E_BADCALLEE;
+  EXPECT_EQ(told_of([&] { object.Put(L"MenuHandler", Value(environment_.clicks.As<IDispatch>().Get())); }),
+            std::to_string(DISP_E_BADCALLEE) + " " + com::ErrorOf(DISP_E_BADCALLEE).Description());
+  EXPECT_EQ(told_of([&] { object.Put(L"FormDisplayed", std::string("perhaps")); }), "13 Type mismatch");
+}
+
+TEST_F(ByName, AnErrorIsToldAsObjectsTellIt) {
+  Connect();
+  const Value perhaps(std::string("perhaps"));
+  VARIANT argument = perhaps.Get();
+  DISPID put = DISPID_PROPERTYPUT;
+  DISPPARAMS parameters{&argument, &put, 1, 1};
+  const DISPID id = 0x100;  // FormDisplayed
+  EXCEPINFO told{};
+  const auto invoke = [&](EXCEPINFO* out) {
+    return add_in_->Invoke(id, IID_NULL, 0, DISPATCH_PROPERTYPUT, &parameters, nullptr, out, nullptr);
+  };
+  EXPECT_EQ(invoke(&told), DISP_E_EXCEPTION);
+  EXPECT_EQ(told.scode, static_cast<HRESULT>(0x800A000D));
+  EXPECT_EQ(told.wCode, 0);
+  EXPECT_EQ(TextOf(told.bstrDescription), "Type mismatch");
+  EXPECT_EQ(TextOf(told.bstrSource), "corvane.Connect");
+  SysFreeString(told.bstrDescription);
+  SysFreeString(told.bstrSource);
+  EXPECT_EQ(invoke(nullptr), static_cast<HRESULT>(0x800A000D)) << "who asks for no more is told the code";
 }
 
 TEST_F(ByName, ADisconnectionInsideACallWaitsForItsEnd) {
