@@ -26,10 +26,14 @@ ComPointer<ITypeInfo> FindType(ITypeLib& library, const wchar_t* name) {
   return {};
 }
 
-IID IidOf(ITypeInfo& type) {
+// GUID_NULL for one whose members cannot be called by name.
+IID IidOfDispatch(ITypeInfo& type) {
   TYPEATTR* attributes = nullptr;
   if (FAILED(type.GetTypeAttr(&attributes))) return GUID_NULL;
-  const IID iid = attributes->guid;
+  const bool by_name =
+      attributes->typekind == TKIND_DISPATCH ||
+      (attributes->typekind == TKIND_INTERFACE && (attributes->wTypeFlags & (TYPEFLAG_FDUAL | TYPEFLAG_FDISPATCHABLE)));
+  const IID iid = by_name ? attributes->guid : GUID_NULL;
   type.ReleaseTypeAttr(attributes);
   return iid;
 }
@@ -49,7 +53,8 @@ ComPointer<IDispatch> AsInterface(IDispatch* object, const wchar_t* name) {
   const ComPointer<ITypeLib> library = LibraryOf(object);
   if (!library) return {};
   const ComPointer<ITypeInfo> type = FindType(*library.Get(), name);
-  return type ? ComPointer(object).As<IDispatch>(IidOf(*type.Get())) : ComPointer<IDispatch>();
+  const IID iid = type ? IidOfDispatch(*type.Get()) : GUID_NULL;
+  return iid == GUID_NULL ? ComPointer<IDispatch>() : ComPointer(object).As<IDispatch>(iid);
 }
 
 }  // namespace corvane::com

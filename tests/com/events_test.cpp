@@ -234,5 +234,19 @@ TEST_F(EventsTest, BuildEventsMayStandInALaterInterface) {
   object_->type = {};
 }
 
+// Nothing can be called by name where the slots of IDispatch are not.
+TEST_F(EventsTest, ALaterInterfaceOfSlotsAloneIsNotUsed) {
+  auto later = New("later"), build = New("build");
+  later->Answer("VBBuildEvents", build);
+  object_->others[kMadeEvents2] = later;
+  for (const bool by_name : {false, true}) {
+    object_->type = MadeType(L"Source", by_name ? EventsKind::Dual : EventsKind::Slots);
+    ASSERT_TRUE(object_->type);
+    EXPECT_EQ(ErrorOf([&] { As<host::Events>()->VBBuildEvents(); }), by_name ? 0 : 438);
+  }
+  object_->others.clear();
+  object_->type = {};
+}
+
 }  // namespace
 }  // namespace corvane::com

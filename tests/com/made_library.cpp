@@ -35,9 +35,18 @@ void AddType(ICreateTypeLib2& library, const wchar_t* name, const IID& iid, cons
   Check(type->LayOut());
 }
 
+// An interface without members.
+void AddInterface(ICreateTypeLib2& library, const wchar_t* name, const IID& iid, UINT flags) {
+  ComPointer<ICreateTypeInfo> type;
+  Check(library.CreateTypeInfo(const_cast<LPOLESTR>(name), TKIND_INTERFACE, type.Out()));
+  Check(type->SetGuid(iid));
+  Check(type->SetTypeFlags(flags));
+  Check(type->LayOut());
+}
+
 }  // namespace
 
-ComPointer<ITypeInfo> MadeType(const wchar_t* name) {
+ComPointer<ITypeInfo> MadeType(const wchar_t* name, EventsKind kind) {
   wchar_t folder[MAX_PATH], file[MAX_PATH];
   GetTempPathW(MAX_PATH, folder);
   GetTempFileNameW(folder, L"tlb", 0, file);
@@ -47,7 +56,10 @@ ComPointer<ITypeInfo> MadeType(const wchar_t* name) {
   Check(made->SetGuid(kLibrary));
   AddType(*made.Get(), L"Source", kSource, L"Name", 1);
   AddType(*made.Get(), L"MadeEvents", kMadeEvents, L"EnterRunMode", kMadeEventId);
-  AddType(*made.Get(), L"Events2", Iid(kMadeEvents2), L"VBBuildEvents", 2);
+  if (kind == EventsKind::Names)
+    AddType(*made.Get(), L"Events2", Iid(kMadeEvents2), L"VBBuildEvents", 2);
+  else
+    AddInterface(*made.Get(), L"Events2", Iid(kMadeEvents2), kind == EventsKind::Dual ? TYPEFLAG_FDISPATCHABLE : 0);
   const auto library = made.As<ITypeLib>();
   ComPointer<ITypeInfo> type;
   MEMBERID id;

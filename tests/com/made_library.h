@@ -11,7 +11,10 @@ inline constexpr DISPID kMadeEventId = 17;
 // The later interface "Events2" of its objects.
 inline constexpr char kMadeEvents2[] = "{4A5E4E22-1C7B-4F0A-8D52-610B7C9E3302}";
 
+// How that one is called: by name, by its slots, or both.
+enum class EventsKind { Names, Slots, Dual };
+
 // One of its types: "Source", "Events2" or "MadeEvents". Null where it could not be made.
-ComPointer<ITypeInfo> MadeType(const wchar_t* name);
+ComPointer<ITypeInfo> MadeType(const wchar_t* name, EventsKind kind = EventsKind::Names);
 
 }  // namespace corvane::com
