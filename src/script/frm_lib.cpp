@@ -20,10 +20,11 @@ constexpr char kEmptyScript[] =
     "May be current script file is empty.\r\nUse Form{...} or CODE{...} blocks for execution.";
 constexpr char kShowError[] = "Show function Error. Use Form{} script as parameter.";
 
+template <class T>
 struct SetWhile {
-  bool& flag;
-  explicit SetWhile(bool& flag) : flag(flag) { flag = true; }
-  ~SetWhile() { flag = false; }
+  T& value;
+  explicit SetWhile(T& value, T set) : value(value) { value = set; }
+  ~SetWhile() { value = T(); }
 };
 
 }  // namespace
@@ -42,12 +43,14 @@ frmLib::frmLib(Surroundings& around)
 frmLib::~frmLib() = default;
 
 // It starts with the parameters that are on their way.
-std::unique_ptr<frmLib> frmLib::Inside(frmLib& caller) {
-  auto lib = std::make_unique<frmLib>(caller.around_);
-  lib->state_.scriptParams = caller.around_.paramExchange;
-  lib->depth_ = caller.depth_ + 1;
-  lib->engine_.nested_runs = caller.engine_.nested_runs;
-  return lib;
+void frmLib::RunInside(const std::string& file) {
+  const auto lib = std::make_unique<frmLib>(around_);
+  lib->state_.scriptParams = around_.paramExchange;
+  lib->depth_ = depth_ + 1;
+  lib->engine_.nested_runs = engine_.nested_runs;
+  lib->errors_.ShareBox(errors_);
+  const SetWhile reached(inner_, lib.get());
+  lib->Execute(std::string(1, labelMark) + file);
 }
 
 std::string frmLib::Execute(const std::string& title, const std::string& entry) {
@@ -59,7 +62,7 @@ std::string frmLib::Execute(const std::string& title, const std::string& entry) 
   if (parameters || !entry.empty()) state_.scriptParams = around_.paramExchange = passed;
   const std::string script = parameters ? std::string() : LibraryScript(title);
   if (script.size() > kLongestIgnored) {
-    const SetWhile from_library(from_library_);
+    const SetWhile from_library(from_library_, true);
     RunScriptText(script);
   }
   if (state_.resultText.size() >= 2) {
@@ -82,7 +85,7 @@ std::string frmLib::LibraryScript(const std::string& title) {
 
 void frmLib::RunScriptText(const std::string& script) {
   if (running_) return;
-  const SetWhile running(running_);
+  const SetWhile running(running_, true);
   stop_asked_ = false;
   for (std::string next = script; RunOnce(next);) {
     around_.services.Loop.DoEvents();
@@ -154,6 +157,7 @@ std::string frmLib::FormNamed(const std::string& name) const {
 
 void frmLib::StopMe() {
   state_.stopFlag = stop_asked_ = true;
+  if (inner_ != nullptr) inner_->StopMe();
 }
 
 std::string frmLib::ResolveScriptPath(const std::string& spec) {

@@ -22,8 +22,8 @@ class frmLib : public CodeRunner, private Dialogs {
   frmLib(const frmLib&) = delete;
   frmLib& operator=(const frmLib&) = delete;
 
-  // The engine that SCRIPTRUN starts from [caller].
-  static std::unique_ptr<frmLib> Inside(frmLib& caller);
+  // Runs a file in an engine of its own, as SCRIPTRUN does. Its errors come in this one's box, and a stop reaches it.
+  void RunInside(const std::string& file);
   int Depth() const { return depth_; }  // of engines in one another
 
   void Display() { around_.window.Display(); }
@@ -69,6 +69,7 @@ class frmLib : public CodeRunner, private Dialogs {
   Commands commands_;
   Engine engine_;
   std::string menu_text_;
+  frmLib* inner_ = nullptr;  // while a script of RunInside runs
   int depth_ = 0;
   bool running_ = false, from_library_ = false, stop_asked_ = false, plan_ = false;
 };

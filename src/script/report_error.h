@@ -24,6 +24,7 @@ class ErrorBoxes : public ErrorReport {
 
   // Takes the place of the message box.
   void SetBox(Box box) { box_ = std::move(box); }
+  void ShareBox(const ErrorBoxes& other) { box_ = other.box_; }
 
   // Runs [work] and returns what it reports, which is not shown and stops nothing.
   std::vector<std::string> Unreported(const std::function<void()>& work);

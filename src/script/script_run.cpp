@@ -25,7 +25,7 @@ void ScriptRun(CommandUse& use) {
     use.engine.state.stopFlag = true;
     return;
   }
-  runtime::PassOverErrors([&] { frmLib::Inside(use.lib)->Execute(mark + name); });
+  runtime::PassOverErrors([&] { use.lib.RunInside(name); });
   if (!exchange.empty()) {
     use.engine.state.scriptParams = exchange;
     exchange.clear();

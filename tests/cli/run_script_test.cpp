@@ -2,9 +2,13 @@
 
 #include <chrono>
 #include <csignal>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
 #include <thread>
+
+#include "environment/disk_files.h"
+#include "tests/support/program.h"
 
 namespace corvane::cli {
 namespace {
@@ -84,6 +88,38 @@ TEST(RunScriptFile, CtrlCEndsAnEndlessScript) {
   std::signal(SIGINT, SIG_DFL);
   EXPECT_EQ(ran.out, "begun");
   EXPECT_EQ(ran.status, 0);
+}
+
+// A file on disk, and its name as scripts write it.
+struct ScriptFile {
+  tests::TemporaryFolder folder;
+  std::string path = folder.Path() + "/inner.txt", name = environment::WindowsPath(path);
+
+  explicit ScriptFile(const std::string& text) { std::ofstream(path, std::ios::binary) << text; }
+};
+
+TEST(RunScriptFile, CtrlCEndsAnEndlessScriptInsideAScript) {
+  const ScriptFile inner("CODE{\r\n<%while 1=1:wend%>\r\n}\r\n");
+  std::signal(SIGINT, SIG_IGN);
+  std::thread user([] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    std::raise(SIGINT);
+  });
+  EXPECT_EQ(RunScript("CODE{\n<%\n=1\nscriptrun(\"" + inner.name + "\")\n=2\n%>\n}\n").out, "1");
+  user.join();
+  std::signal(SIGINT, SIG_DFL);
+}
+
+TEST(RunScriptFile, AnErrorBoxInsideScriptRunIsOneToo) {
+  const ScriptFile inner("CODE{\r\n<%foo bar%>\r\n}\r\n");
+  ScriptOptions options;
+  options.json = true;
+  const Ran ran = RunScript("CODE{\n<%\n=1\nscriptrun(\"" + inner.name + "\")\n=2\n%>\n}\n", options);
+  EXPECT_EQ(ran.out, "12");
+  EXPECT_EQ(ran.errors,
+            "{\"box\":\"error\",\"title\":\"Weaver\",\"message\":\"foo bar: *** Unknown function ***\","
+            "\"flat\":\"foo bar:\\u000d\\u000a\",\"answer\":\"cancel\"}\n");
+  EXPECT_EQ(ran.status, 1);
 }
 
 }  // namespace

@@ -169,6 +169,31 @@ TEST_F(CommandsTest, ScriptRunHasStoresOfItsOwn) {
   EXPECT_EQ(RunCode("dim aa\naa=1\nscriptrun(\"C:\\sub.txt\")\n=aa"), "1");
 }
 
+TEST_F(CommandsTest, AStopReachesTheScriptInsideAScript) {
+  world.services.files.Put("C:\\endless.txt", "CODE{\r\n<%while 1=1:wend%>\r\n}\r\n");
+  world.services.files.Put("C:\\between.txt",
+                           "CODE{\r\n<%scriptrun(\"C:\\endless.txt\"):print(\"between\")%>\r\n}\r\n");
+  int yields = 0;
+  world.services.loop.on_do_events = [&] {
+    if (++yields == 3) lib.StopMe();
+    if (yields > 20) throw std::runtime_error("the stop does not reach it");
+  };
+  EXPECT_EQ(RunCode("=1\nscriptrun(\"C:\\between.txt\")\n=2"), "1");
+  EXPECT_EQ(Boxes(), Lines());
+}
+
+TEST_F(CommandsTest, AnErrorInAScriptInsideAScriptComesInTheBoxOfTheFirst) {
+  world.services.files.Put("C:\\sub.txt", "CODE{\r\n<%foo bar%>\r\n}\r\n");
+  Lines told;
+  lib.Errors().SetBox([&](const std::string& message, const std::string& flat) {
+    told.push_back(message + "/" + Readable(flat));
+    return host::vbCancel;
+  });
+  EXPECT_EQ(RunCode("scriptrun(\"C:\\sub.txt\")\n=1"), "1") << "a Cancel ends the inner script alone";
+  EXPECT_EQ(told, Lines{"foo bar: *** Unknown function ***/foo bar:\n"});
+  EXPECT_EQ(Boxes(), Lines());
+}
+
 TEST_F(CommandsTest, AScriptThatRunsItselfWithoutEndIsStopped) {
   world.services.files.Put("C:\\me.txt", "CODE{\r\n<%scriptrun(\"C:\\me.txt\")%>\r\n}\r\n");
   RunScript("FILE:C:\\me.txt\n");
