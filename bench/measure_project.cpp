@@ -30,13 +30,26 @@ struct OpenProject {
   std::shared_ptr<environment::Environment> environment;
 };
 
-struct Hit {
-  long component, line;
-  std::string text;
+// The lines found, their texts behind one another.
+struct Hits {
+  struct Hit {
+    long component, line;
+    size_t end;  // of its text
+  };
+  void Add(long component, long line, const std::string& text) {
+    texts += text;
+    hits.push_back({component, line, texts.size()});
+  }
+  void Clear() {
+    texts.clear();
+    hits.clear();
+  }
+  std::string texts;
+  std::vector<Hit> hits;
 };
 
 // Adds each line that holds [word] in any case, once, as the explorer would list it.
-void Search(OpenProject& project, const std::string& word, std::vector<Hit>& hits) {
+void Search(OpenProject& project, const std::string& word, Hits& hits) {
   const auto components = project.environment->ActiveVBProject()->VBComponents();
   for (long component = 1; component <= components->Count(); ++component) {
     const auto module = components->Item(component)->CodeModule();
@@ -44,7 +57,7 @@ void Search(OpenProject& project, const std::string& word, std::vector<Hit>& hit
     for (long line = 1, column = 1, end_line = -1, end_column = -1;
          module->Find(word, line, column, end_line, end_column, false, false, false);
          ++line, column = 1, end_line = end_column = -1) {
-      hits.push_back({component, line, module->Lines(line, 1)});
+      hits.Add(component, line, module->Lines(line, 1));
       if (line >= module->CountOfLines()) break;
     }
   }
@@ -121,13 +134,13 @@ void MeasureSearch(const Setting& setting, Table& table) {
     OpenProject open(project.path);
     std::vector<std::string> grep = {"xargs", "-a", ListOfFiles(setting, project), "grep", "-F", "-i", "-n", "-H"};
     for (const char* word : kWords) {
-      std::vector<Hit> hits;
+      Hits found;
       std::vector<double> used;  // of the processor: what else runs meanwhile is no growth of the search
       long lines = 0;
       const auto ours = [&] {
-        hits.clear();  // letting go of those of the round before is no part of a search
+        found.Clear();
         const double before = ProcessorSeconds();
-        const double seconds = Seconds([&] { Search(open, word, hits); });
+        const double seconds = Seconds([&] { Search(open, word, found); });
         used.push_back(ProcessorSeconds() - before);
         return seconds;
       };
@@ -143,7 +156,7 @@ void MeasureSearch(const Setting& setting, Table& table) {
       const auto [our_time, peer_time] = InTurn(kRounds, ours, peer);
       table.AtMost("searching " + Count(project.lines) + " lines for \"" + word + "\" (peer: grep -Fin)",
                    Milliseconds(our_time), Milliseconds(peer_time), our_time / peer_time, 1.0);
-      table.Note("  ours " + Count(static_cast<long>(hits.size())) + " lines of code; grep " + Count(lines) +
+      table.Note("  ours " + Count(static_cast<long>(found.hits.size())) + " lines of code; grep " + Count(lines) +
                  " lines, designer parts with them");
       growth[word].Add(Median(used), static_cast<double>(project.lines));
     }
