@@ -25,6 +25,11 @@ bool IsBracketLiteral(std::string_view right) {
   return runtime::BeginsWith(right, "[[");
 }
 
+Text AsText(const Cell& value) {
+  const auto* text = std::get_if<Text>(&value);
+  return text != nullptr ? *text : Text(TextOf(value));
+}
+
 // Place of the ")=" of name(index)=value, from 1; 0 if there is none or a double quote stands before it.
 long EndOfIndex(const std::string& statement, long paren) {
   const long end = InStr(std::max(paren, 1L), statement, ")=");
@@ -65,6 +70,58 @@ const KnownAssignment* Assignment::Known(std::string_view statement, long eq) {
   return found->second && found->second->eq == eq ? &*found->second : nullptr;
 }
 
+// Appends in place to a text that is too long to be anything but a text.
+class Assignment::Appending : public LastStep {
+ public:
+  Appending(Assignment& assignment, const KnownAssignment& known, long cell)
+      : assignment_(assignment), known_(known), cell_(cell) {}
+
+  bool Take(const PlannedStep& step, const std::vector<SlotValue>& values) override {
+    ScriptState& state = assignment_.state_;
+    if (state.stopFlag || state.notFlag) return false;
+    Text* text = TextNamed(step.terms[0].name);
+    if (text == nullptr || text->Size() <= kLongestNumber) return false;
+    std::string more, value;
+    for (size_t i = 1; i < step.terms.size(); ++i) {
+      if (!ValueOf(step.terms[i], values, value)) return false;
+      more += value;
+    }
+    text->Append(more);
+    state.lastValue = *text;
+    return done = true;
+  }
+
+  bool done = false;
+
+ private:
+  // The target's text, if [name] is the target for reading too.
+  Text* TextNamed(const NameReference& name) {
+    if (known_.to_result) return &assignment_.state_.resultText;
+    VariableStore& store = assignment_.store_;
+    const int depth = assignment_.state_.subDepth;
+    if (!name.IsFresh(store.Generation(), depth)) {
+      const long place = store.FindVisible(name.upper, depth);
+      name.Remember(place == 0 ? 0 : store.CellNumberAt(place), store.Generation(), depth);
+    }
+    return name.cell == cell_ && store.HasCell(cell_) ? std::get_if<Text>(&store.At(cell_)) : nullptr;
+  }
+
+  bool ValueOf(const PlannedTerm& term, const std::vector<SlotValue>& values, std::string& value) {
+    if (term.kind == PlannedTerm::kName) return assignment_.primary_.EvalVariable(term.name, value);
+    if (term.kind == PlannedTerm::kToken) {
+      std::string token = term.text;
+      value = assignment_.primary_.EvalPrimary(token);
+    } else {
+      value = term.kind == PlannedTerm::kSlot ? values[term.slot].text : term.text;
+    }
+    return true;
+  }
+
+  Assignment& assignment_;
+  const KnownAssignment& known_;
+  const long cell_;
+};
+
 // False if the variable is not there.
 bool Assignment::AssignKnown(const KnownAssignment& known) {
   struct Running {
@@ -73,36 +130,14 @@ bool Assignment::AssignKnown(const KnownAssignment& known) {
     ~Running() { --depth; }
   } running(running_);
   const NameReference& target = known.target;
-  if (!target.IsFresh(store_.Generation(), state_.subDepth))
+  if (!known.to_result && !target.IsFresh(store_.Generation(), state_.subDepth))
     target.Remember(store_.CellForStoring(target.upper, state_.subDepth), store_.Generation(), state_.subDepth);
   const long cell = target.cell;
-  if (cell == 0) return false;
-  if (!known.behind.empty() && Join(known, cell)) return true;
+  if (cell == 0 && !known.to_result) return false;
   state_.lastValue = known.right;
-  expressions_.EvalExpression(known.right.Get());
-  if (!state_.stopFlag) store_.Store(cell, state_.lastValue);
-  return true;
-}
-
-// Appends in place to a text that is too long to be anything but a text. False if there is more to it.
-bool Assignment::Join(const KnownAssignment& known, long cell) {
-  if (state_.stopFlag || state_.notFlag || !store_.HasCell(cell)) return false;
-  const auto* text = std::get_if<Text>(&store_.Value(cell));
-  if (!text || text->Get().size() <= kLongestNumber) return false;
-  const NameReference& joined = known.joined;
-  if (!joined.IsFresh(store_.Generation(), state_.subDepth)) {
-    const long place = store_.FindVisible(joined.upper, state_.subDepth);
-    joined.Remember(place == 0 ? 0 : store_.CellNumberAt(place), store_.Generation(), state_.subDepth);
-  }
-  if (joined.cell != cell) return false;
-  std::string more, value;
-  for (const PlannedTerm& term : known.behind) {
-    if (term.kind == PlannedTerm::kName && !primary_.EvalVariable(term.name, value)) return false;
-    more += term.kind == PlannedTerm::kName ? value : term.text;
-  }
-  state_.lastValue = 0;  // which may share the text
-  std::get<Text>(store_.At(cell)).Append(more);
-  state_.lastValue = store_.At(cell);
+  Appending appending(*this, known, cell);
+  expressions_.EvalExpression(known.right.Get(), known.appends ? &appending : nullptr);
+  if (!state_.stopFlag && !appending.done) Store({known.to_result ? Target::kResult : Target::kCell, cell, {}});
   return true;
 }
 
@@ -154,7 +189,7 @@ bool Assignment::Evaluate(const std::string& right) {
 void Assignment::Store(const Target& target) {
   switch (target.kind) {
     case Target::kResult:
-      state_.resultText = TextOf(state_.lastValue);
+      state_.resultText = AsText(state_.lastValue);
       break;
     case Target::kProperty:
       outside_.ide.SetProp(target.address, TextOf(state_.lastValue));

@@ -42,6 +42,7 @@ class Assignment {
 
  private:
   struct Target;
+  class Appending;
   Target FindTarget(std::string name);
   std::string PropertyAddress(const std::string& name);
   // False if there is nothing to store.
@@ -51,7 +52,6 @@ class Assignment {
 
   const KnownAssignment* Known(std::string_view statement, long eq);
   bool AssignKnown(const KnownAssignment& known);
-  bool Join(const KnownAssignment& known, long cell);
 
   ScriptState& state_;
   VariableStore& store_;

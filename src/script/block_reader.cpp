@@ -111,7 +111,7 @@ void BlockReader::Restart() {
 }
 
 void BlockReader::PutOut(std::string_view text) {
-  if (state_.labelSearch == kNone) state_.resultText += text;
+  if (state_.labelSearch == kNone) state_.resultText.Append(text);
 }
 
 void BlockReader::ReadTemplateLine(std::string_view line) {

@@ -8,8 +8,9 @@
 
 namespace corvane::script {
 
-// A text value. A long one is shared by its copies until one of them is changed, so that a variable and the value of
-// the expression that was stored in it are one text, and appending to it costs no copy.
+// A text value. Long ones share what they have in common from the first character on: a copy costs nothing, and neither
+// does appending to the longest of them, so that a variable, the value of the expression that was stored in it, and
+// what it was before are one text in memory.
 class Text {
  public:
   Text() = default;
@@ -17,10 +18,11 @@ class Text {
   Text(std::string_view text) : Text(std::string(text)) {}
   Text(const char* text) : Text(std::string(text)) {}
 
-  const std::string& Get() const { return shared_ ? *shared_ : own_; }
-  operator const std::string&() const { return Get(); }
+  // Good until this text or a copy of it is appended to.
+  std::string_view Get() const { return shared_ ? std::string_view(*shared_).substr(0, length_) : own_; }
+  size_t Size() const { return shared_ ? length_ : own_.size(); }
 
-  // In place where no other copy shares the text. [more] may not stand in this text itself.
+  // [more] may not stand in this text itself.
   void Append(std::string_view more);
 
   friend bool operator==(const Text& left, const Text& right) { return left.Get() == right.Get(); }
@@ -28,6 +30,7 @@ class Text {
  private:
   std::string own_;
   std::shared_ptr<std::string> shared_;  // instead of own_, when long
+  size_t length_ = 0;                    // of it are this text
 };
 
 using Cell = std::variant<int, Text, double, bool>;

@@ -94,9 +94,9 @@ bool Expressions::EvalLiterally(std::string text) {
   return Rewrite(rewriting, std::move(text));
 }
 
-bool Expressions::EvalExpression(std::string_view text) {
+bool Expressions::EvalExpression(std::string_view text, LastStep* last) {
   const ExpressionPlan* plan = PlanOf(text);
-  return plan ? Follow(*plan) : EvalLiterally(std::string(text));
+  return plan ? Follow(*plan, last) : EvalLiterally(std::string(text));
 }
 
 const ExpressionPlan* Expressions::PlanOf(std::string_view text) {
@@ -104,7 +104,7 @@ const ExpressionPlan* Expressions::PlanOf(std::string_view text) {
   return plans_.Find(text);
 }
 
-bool Expressions::Follow(const ExpressionPlan& plan) {
+bool Expressions::Follow(const ExpressionPlan& plan, LastStep* last) {
   struct Following {
     int& depth;
     explicit Following(int& depth) : depth(depth) { ++depth; }
@@ -114,6 +114,8 @@ bool Expressions::Follow(const ExpressionPlan& plan) {
   std::vector<SlotValue> values;
   values.reserve(plan.slots);
   for (const PlannedStep& step : plan.steps) {
+    const bool is_last = &step == &plan.steps.back() && !rewriting.truth;
+    if (is_last && last != nullptr && last->Take(step, values)) return true;
     const bool result = EvalTerms(step, values);
     if (step.counts) rewriting.result = result;
     if (step.into == PlannedStep::kNowhere) continue;

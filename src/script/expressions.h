@@ -24,13 +24,22 @@ class Primary {
   }
 };
 
+// May do the last step of an expression in a way of its own.
+class LastStep {
+ public:
+  virtual ~LastStep() = default;
+  // False, and nothing done, where the step has to be evaluated. [values] are those that the steps before put back.
+  virtual bool Take(const PlannedStep& step, const std::vector<SlotValue>& values) = 0;
+};
+
 class Expressions {
  public:
   Expressions(ScriptState& state, ErrorReport& errors, Primary& primary)
       : state_(state), errors_(errors), primary_(primary) {}
 
-  // The truth of the expression; its value goes to lastValue. An expression met again follows its plan.
-  bool EvalExpression(std::string_view text);
+  // The truth of the expression; its value goes to lastValue. An expression met again follows its plan, and [last] is
+  // asked for its last step, if the value of that is the expression's.
+  bool EvalExpression(std::string_view text, LastStep* last = nullptr);
   // The same for an expression without inner structure.
   bool EvalSimple(std::string_view text);
 
@@ -46,7 +55,7 @@ class Expressions {
   bool Finish(Rewriting& rewriting, const std::string& working);
 
   const ExpressionPlan* PlanOf(std::string_view text);
-  bool Follow(const ExpressionPlan& plan);
+  bool Follow(const ExpressionPlan& plan, LastStep* last);
   bool EvalTerms(const PlannedStep& step, const std::vector<SlotValue>& values);
   std::string ValueOf(const PlannedTerm& term, const std::vector<SlotValue>& values);
   bool LeavePlan(Rewriting& rewriting, const PlannedStep& step, const std::vector<SlotValue>& values);

@@ -55,7 +55,7 @@ void frmLib::RunInside(const std::string& file) {
 
 std::string frmLib::Execute(const std::string& title, const std::string& entry) {
   constexpr size_t kLongestIgnored = 5;
-  state_.resultText.clear();
+  state_.resultText = {};
   menu_text_.clear();
   const bool parameters = BeginsWith(title, std::string(1, paramMark));
   const std::string& passed = parameters ? title.substr(1) : entry;
@@ -65,9 +65,9 @@ std::string frmLib::Execute(const std::string& title, const std::string& entry) 
     const SetWhile from_library(from_library_, true);
     RunScriptText(script);
   }
-  if (state_.resultText.size() >= 2) {
+  if (state_.resultText.Size() >= 2) {
     around_.services.Clipboard.Clear();
-    around_.services.Clipboard.SetText(state_.resultText);
+    around_.services.Clipboard.SetText(ResultText());
     return "Good thing";
   }
   return menu_text_.size() > kLongestIgnored ? menu_text_ : std::string();
@@ -134,7 +134,7 @@ void frmLib::ShowEnd(bool met_block) {
   host::Prompts& prompts = around_.services.Prompts;
   if (!met_block) prompts.MsgBox(kEmptyScript);
   if (state_.printText.size() > 1) prompts.MsgBox(state_.printText, host::vbOKOnly, "Print Box");
-  if (!state_.wizardMode) around_.window.ShowResult(state_.resultText);
+  if (!state_.wizardMode) around_.window.ShowResult(ResultText());
 }
 
 void frmLib::RunDialog(const std::string& form, bool show) {

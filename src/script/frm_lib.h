@@ -42,7 +42,7 @@ class frmLib : public CodeRunner, private Dialogs {
   // One piece of code: the loop of the language.
   void RunCode(std::string text) override;
 
-  const std::string& ResultText() const { return state_.resultText; }
+  std::string ResultText() const { return std::string(state_.resultText.Get()); }
   const std::string& MenuText() const { return menu_text_; }
   ErrorBoxes& Errors() { return errors_; }
   Engine& Parts() { return engine_; }

@@ -10,25 +10,29 @@ using runtime::Left;
 using runtime::Mid;
 
 bool IsPlainTarget(std::string_view upper) {
-  return !upper.empty() && upper != "RESULT" && !runtime::BeginsWith(upper, "VAR(") && !runtime::Holds(upper, ".");
+  return !upper.empty() && !runtime::BeginsWith(upper, "VAR(") && !runtime::Holds(upper, ".");
+}
+
+bool IsName(const PlannedTerm& term, std::string_view upper) {
+  if (term.kind == PlannedTerm::kName) return term.name.upper == upper;
+  return term.kind == PlannedTerm::kToken && runtime::UCase(term.text) == upper;
 }
 
 // A value that can be had without running code.
 bool IsQuiet(const PlannedTerm& term) {
-  return term.kind == PlannedTerm::kText || term.kind == PlannedTerm::kName;
+  return term.kind == PlannedTerm::kText || term.kind == PlannedTerm::kName || term.kind == PlannedTerm::kSlot ||
+         IsName(term, "VBCRLF");
 }
 
-// Fills what is joined if the right side is the target itself with "&" or "+" and quiet values behind it.
-void FindJoined(KnownAssignment& known) {
+// Whether the right side is the target itself with "&" or "+" and quiet values behind it.
+bool Appends(const KnownAssignment& known) {
   const auto plan = PlanExpression(known.right.Get());
-  if (!plan || plan->steps.size() != 1) return;
-  const auto& terms = plan->steps[0].terms;
-  if (terms.size() < 2 || terms[0].kind != PlannedTerm::kName || terms[0].name.upper != known.target.upper) return;
+  if (!plan || plan->steps.empty()) return false;
+  const auto& terms = plan->steps.back().terms;
+  if (terms.size() < 2 || !IsName(terms[0], known.target.upper)) return false;
   for (size_t i = 0; i + 1 < terms.size(); ++i)
-    if ((terms[i].op != "&" && terms[i].op != "+") || !IsQuiet(terms[i + 1])) return;
-  if (!terms.back().last || terms.back().op != " ") return;
-  known.joined = terms[0].name;
-  known.behind.assign(terms.begin() + 1, terms.end());
+    if ((terms[i].op != "&" && terms[i].op != "+") || !IsQuiet(terms[i + 1])) return false;
+  return terms.back().last && terms.back().op == " ";
 }
 
 }  // namespace
@@ -45,11 +49,13 @@ std::string WithOwnOperator(const std::string& statement, long& eq) {
 std::optional<KnownAssignment> KnownOf(const std::string& statement, long eq) {
   long written_eq = eq;
   const std::string written = WithOwnOperator(statement, written_eq);
-  KnownAssignment known{.eq = eq, .target = {}, .right = Mid(written, written_eq + 1), .joined = {}, .behind = {}};
+  KnownAssignment known{
+      .eq = eq, .target = {}, .to_result = false, .right = Mid(written, written_eq + 1), .appends = false};
   known.target.upper = runtime::UCase(runtime::Trim(Left(written, written_eq - 1)));
-  if (!IsPlainTarget(known.target.upper) || known.right.Get().size() < 2) return {};
+  if (!IsPlainTarget(known.target.upper) || known.right.Size() < 2) return {};
   if (runtime::BeginsWith(known.right.Get(), "[[")) return {};
-  FindJoined(known);
+  known.to_result = known.target.upper == "RESULT";
+  known.appends = Appends(known);
   return known;
 }
 

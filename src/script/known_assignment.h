@@ -14,16 +14,15 @@ namespace corvane::script {
 struct KnownAssignment {
   long eq;               // column of the "=", from 1
   NameReference target;  // as assignment finds it
+  bool to_result;        // it is RESULT, and no variable
   Text right;            // the right side with its ":"
-  // V=V & ...: a name that begins the right side too, as reading finds it, and what is joined behind it.
-  NameReference joined;
-  std::vector<PlannedTerm> behind;
+  bool appends;          // V=V & ...: its last step joins texts to V, and runs no code
 };
 
 // V op= E written out as V = V op E; other statements stay as they are. [eq] follows the "=".
 std::string WithOwnOperator(const std::string& statement, long& eq);
 
-// Nothing for targets other than plain names, for literals in brackets, and where there is no right side.
+// Nothing for targets other than RESULT and plain names, for literals in brackets, and where there is no right side.
 std::optional<KnownAssignment> KnownOf(const std::string& statement, long eq);
 
 }  // namespace corvane::script

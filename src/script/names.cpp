@@ -39,7 +39,8 @@ constexpr PredefinedName kBefore[] = {
     {"WVPREV", "Code of a dialog's back button.", [](NameUse&) { return std::string("1"); }},
     {"$APPNAME", "Name of the project.", [](NameUse& use) { return use.outside.ide.ProjectName(); }},
     {"$APPPATH", "Folder of the project.", ProjectPath},
-    {"RESULT", "The text that the script has produced so far.", [](NameUse& use) { return use.state.resultText; }},
+    {"RESULT", "The text that the script has produced so far.",
+     [](NameUse& use) { return std::string(use.state.resultText.Get()); }},
 };
 
 constexpr PredefinedName kBehind[] = {

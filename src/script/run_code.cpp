@@ -21,7 +21,7 @@ struct Nesting {
 
 size_t SizeOf(const Cell& value) {
   const auto* text = std::get_if<Text>(&value);
-  return text == nullptr ? 0 : text->Get().size();
+  return text == nullptr ? 0 : text->Size();
 }
 
 }  // namespace
@@ -90,7 +90,7 @@ bool CodeRun::AtEnd() {
 }
 
 void CodeRun::TakeLabel(const ProgramItem& label) {
-  if (state_.planOn) state_.resultText.append(label.text).append("  ");
+  if (state_.planOn) state_.resultText.Append(std::string(label.text) + "  ");
   if (defining_) engine_.subs.Append(std::string(1, labelMark).append(label.text));
 }
 
@@ -98,7 +98,7 @@ void CodeRun::TakeStatement(ProgramItem& statement) {
   if (statement.kind != FlatItem::kStatement || !statement.eq || !statement.paren)
     throw runtime::Error(runtime::kTypeMismatch);
   if (state_.planOn) {
-    state_.resultText.append(statement.text).append(runtime::kCrLf);
+    state_.resultText.Append(std::string(statement.text) + runtime::kCrLf);
     return;
   }
   if (state_.debugOn) {
@@ -107,7 +107,7 @@ void CodeRun::TakeStatement(ProgramItem& statement) {
     if (state_.stopFlag) return;
   }
   Dispatch(statement);
-  if (std::max(SizeOf(state_.lastValue), state_.resultText.size()) > engine_.longest_text) {
+  if (std::max(SizeOf(state_.lastValue), state_.resultText.Size()) > engine_.longest_text) {
     Report("A text is too long.");
     state_.stopFlag = true;
   }

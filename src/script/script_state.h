@@ -23,7 +23,7 @@ struct ScriptState {
   bool lvalueMode = false;  // a name that is not found is no error
   Cell lastValue;           // value of the last expression
   bool notFlag = false;     // a NOT is pending
-  std::string resultText;   // what the script produces
+  Text resultText;          // what the script produces
   std::string printText;    // what PRINT collected
   bool condFlag = true;     // of the last IF or CASE
   int subDepth = 0;         // depth of calls; 0 at the top

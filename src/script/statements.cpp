@@ -102,10 +102,10 @@ void CodeRun::TestCase(ProgramItem& statement) {
 
 void CodeRun::Output(ProgramItem& statement) {
   std::string text = runtime::Mid(statement.text, 2);
-  while (!text.empty()) {
+  while (!text.empty() && state_.resultText.Size() <= engine_.longest_text) {
     const std::string part = NextExprPart(text, true);
     engine_.expressions.EvalExpression(part);
-    state_.resultText += TextOf(state_.lastValue);
+    state_.resultText.Append(TextOf(state_.lastValue));
   }
 }
 
@@ -119,7 +119,7 @@ void CodeRun::EndCode(ProgramItem&) {
 
 void CodeRun::Exit(ProgramItem&) {
   state_.stopFlag = state_.wizardMode = true;
-  state_.resultText.clear();
+  state_.resultText = {};
 }
 
 void CodeRun::Debug(ProgramItem&) {
@@ -138,7 +138,7 @@ void CodeRun::StopAndShow(ProgramItem&) {
 
 void CodeRun::ShowResult(bool wide) {
   engine_.result.NewWidth(wide);
-  engine_.result.DisplayRes(state_.resultText, "Result of Execution", "Result of Execution...");
+  engine_.result.DisplayRes(std::string(state_.resultText.Get()), "Result of Execution", "Result of Execution...");
   state_.stopFlag = true;
 }
 
@@ -150,7 +150,7 @@ void CodeRun::Plain(ProgramItem& statement) {
 }
 
 void CodeRun::Assign(ProgramItem& statement) {
-  engine_.assignment.Assign(std::string(statement.text), *statement.eq);
+  engine_.assignment.Assign(statement.text, *statement.eq);
 }
 
 void CodeRun::InBrackets(ProgramItem& statement) {

@@ -57,9 +57,9 @@ TEST_F(AssignmentTest, APropertyIsSetOnTheObjectThatTheVariableNames) {
 TEST_F(AssignmentTest, ResultReplacesTheResultText) {
   state.resultText = "a";
   Assign("Result=result&\"b\"");
-  EXPECT_EQ(state.resultText, "ab");
+  EXPECT_EQ(state.resultText.Get(), "ab");
   Assign("result=5-1");
-  EXPECT_EQ(state.resultText, "4");
+  EXPECT_EQ(state.resultText.Get(), "4");
 }
 
 TEST_F(AssignmentTest, AnUnknownVariableIsReportedWithOkAndWithCancel) {

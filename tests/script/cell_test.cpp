@@ -28,5 +28,18 @@ TEST(Cell, CopiesOfATextDoNotSeeEachOthersChanges) {
   }
 }
 
+TEST(Cell, CopiesOfATextGoOnEachInItsOwnWay) {
+  Text first(std::string(500, 'a'));
+  const Text before = first;
+  first.Append("bcd");
+  Text second = before;
+  second.Append("efg");
+  first.Append("hij");
+  EXPECT_EQ(before.Get(), std::string(500, 'a'));
+  EXPECT_EQ(first.Get(), std::string(500, 'a') + "bcdhij");
+  EXPECT_EQ(second.Get(), std::string(500, 'a') + "efg");
+  EXPECT_EQ(second.Size(), 503u);
+}
+
 }  // namespace
 }  // namespace corvane::script

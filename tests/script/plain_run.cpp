@@ -75,7 +75,7 @@ void PlainLib::Loop(Run& run) {
         return;
       }
       if (run.defining) subs_code_ += Left(run.unread, colon);
-      if (state.planOn) state.resultText += Mid(run.unread, 2, colon - 1) + "  ";
+      if (state.planOn) state.resultText.Append(Mid(run.unread, 2, colon - 1) + "  ");
       run.unread = Mid(run.unread, colon + 1);
       continue;
     }
@@ -84,7 +84,7 @@ void PlainLib::Loop(Run& run) {
     const std::string text = Mid(run.unread, 8, length);
     run.unread = Mid(run.unread, 8 + length);
     if (state.planOn) {
-      state.resultText += text + kLine;
+      state.resultText.Append(text + kLine);
       continue;
     }
     if (state.debugOn) {
@@ -175,7 +175,7 @@ void PlainLib::Statement(Run& run, long eq, long paren, const std::string& text)
     while (!rest.empty()) {
       const std::string part = NextExprPart(rest, true);
       engine.expressions.EvalExpression(part);
-      state.resultText += TextOf(state.lastValue);
+      state.resultText.Append(TextOf(state.lastValue));
     }
     return;
   }
