@@ -1,5 +1,7 @@
 #include "script/block_reader.h"
 
+#include <utility>
+
 #include "runtime/strings.h"
 #include "script/form_pages.h"
 #include "script/line_comments.h"
@@ -34,6 +36,10 @@ void BlockReader::Read(std::string script, bool show) {
   show_ = show;
   text_.Replace(std::move(script));
   while (!ended_ && !state_.stopFlag) {
+    if (!rest_.empty()) {
+      ReadPieces(std::exchange(rest_, {}));
+      continue;
+    }
     const auto line = text_.NextLine();
     if (line) {
       const ScriptText::Place held = text_.Here();
@@ -85,6 +91,7 @@ void BlockReader::BeginCode() {
   met_block_ = in_code_ = true;
   resume_ = text_.Here();
   resume_counters_ = state_.counters;
+  found_from_resume_.clear();
 }
 
 // A "}" is text for as long as a "]]" follows anywhere.
@@ -102,12 +109,22 @@ void BlockReader::EndBlock() {
   ended_ = true;
 }
 
-// Loops over template text come here again and again: the user's acts come in.
+// Loops over template text come here again and again: the user's acts come in. A search runs nothing, so that for a
+// label that was found before it need not be made again.
 void BlockReader::Restart() {
   around_.services.Loop.DoEvents();
-  text_.GoTo(resume_);
-  state_.counters = resume_counters_;
   state_.labelSearch = kGoOn;
+  const auto found = found_from_resume_.find(state_.labelTarget);
+  searching_ = found == found_from_resume_.end();
+  if (searching_) {
+    reported_before_ = engine_.errors.Reported();
+    text_.GoTo(resume_);
+    state_.counters = resume_counters_;
+  } else {
+    text_.GoTo(found->second.behind_line);
+    state_.counters = found->second.counters;
+    rest_ = found->second.rest;
+  }
 }
 
 void BlockReader::PutOut(std::string_view text) {
@@ -117,11 +134,18 @@ void BlockReader::PutOut(std::string_view text) {
 void BlockReader::ReadTemplateLine(std::string_view line) {
   if (ClosesBlock(line)) return EndBlock();
   if (IsRemark(line)) return;
-  std::string rest = std::string(line) + kCrLf;
+  ReadPieces(std::string(line) + kCrLf);
+}
+
+void BlockReader::ReadPieces(std::string rest) {
   for (size_t mark; (mark = rest.find(kCodeOpens)) != std::string::npos;) {
     PutOut(std::string_view(rest).substr(0, mark));
+    const ScriptText::Place behind_line = text_.Here();
     const Piece piece = ReadPiece(std::string_view(rest).substr(mark + kCodeOpens.size()));
-    RunPiece(piece);
+    if (searching_)
+      RunPieceInSearch(piece, {rest.substr(mark), behind_line, state_.counters});
+    else
+      RunPiece(piece);
     if (state_.stopFlag) return;
     if (piece.closed) return EndBlock();
     if (piece.many_lines && state_.labelSearch == kRestart) return Restart();
@@ -175,7 +199,21 @@ void BlockReader::ReadLines(Piece& piece, std::string_view first) {
 // the piece.
 void BlockReader::RunPiece(const Piece& piece) {
   runner_.RunCode(piece.code + ':');
-  if (piece.moves_resume) resume_counters_ = state_.counters;
+  if (!piece.moves_resume) return;
+  resume_counters_ = state_.counters;
+  found_from_resume_.clear();
+  searching_ = false;
+}
+
+// What is reported on the way is reported each time.
+void BlockReader::RunPieceInSearch(const Piece& piece, PieceStart start) {
+  std::string label = state_.labelTarget;
+  engine_.label_found = false;
+  const long reported = engine_.errors.Reported();
+  RunPiece(piece);
+  if (!engine_.label_found || !searching_) return;
+  searching_ = false;
+  if (reported == reported_before_) found_from_resume_.emplace(std::move(label), std::move(start));
 }
 
 }  // namespace corvane::script

@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "script/engine.h"
@@ -35,11 +36,19 @@ class BlockReader {
     bool moves_resume = false;  // a SUB ends in it: restarts begin behind that line
   };
 
+  // Where a piece of code begins: the text from its mark to the end of the line, and what is unread behind that line.
+  struct PieceStart {
+    std::string rest;
+    ScriptText::Place behind_line;
+    Counters counters;
+  };
+
   void ReadOutside(std::string_view line);
   void Include(std::string_view line);
   bool IncludesItself();
   void BeginCode();
   void ReadTemplateLine(std::string_view line);
+  void ReadPieces(std::string rest);
   void EndBlock();
   void Restart();
   bool ClosesBlock(std::string_view line) const;
@@ -47,6 +56,7 @@ class BlockReader {
   Piece ReadPiece(std::string_view behind_mark);
   void ReadLines(Piece& piece, std::string_view first);
   void RunPiece(const Piece& piece);
+  void RunPieceInSearch(const Piece& piece, PieceStart start);
   void PutOut(std::string_view text);
 
   Engine& engine_;
@@ -57,9 +67,13 @@ class BlockReader {
 
   ScriptText text_;
   bool in_code_ = false, ended_ = false, met_block_ = false, failed_ = false, show_ = true;
-  ScriptText::Place resume_;        // resumeText
-  Counters resume_counters_;        // with which reading goes on from there
-  std::vector<size_t> open_files_;  // what was unread behind each included file
+  ScriptText::Place resume_;                                       // resumeText
+  Counters resume_counters_;                                       // with which reading goes on from there
+  std::string rest_;                                               // of a line that is read next
+  bool searching_ = false;                                         // a label, since the block was restarted
+  long reported_before_ = 0;                                       // errors, when it was
+  std::unordered_map<std::string, PieceStart> found_from_resume_;  // where such searches ended, by label
+  std::vector<size_t> open_files_;                                 // what was unread behind each included file
 };
 
 }  // namespace corvane::script

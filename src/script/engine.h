@@ -32,6 +32,7 @@ struct Engine {
 
   int nested_runs = 0;            // runs of code that are under way
   long statements_unyielded = 0;  // over all of them
+  bool label_found = false;       // by a search, since the block reader looked
   size_t longest_text = 64u << 20;
 };
 

@@ -20,6 +20,7 @@ void CodeRun::SearchLabel() {
   if (!unread_.CutBehind(state_.labelTarget)) return LabelNotFound();
   state_.labelTarget.clear();
   state_.labelSearch = kNone;
+  engine_.label_found = true;
 }
 
 void CodeRun::LabelNotFound() {

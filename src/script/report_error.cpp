@@ -6,6 +6,7 @@
 namespace corvane::script {
 
 void ErrorBoxes::ReportError(const std::string& message) {
+  ++reported_;
   if (unreported_ != nullptr) {
     unreported_->push_back(message);
     return;

@@ -26,6 +26,9 @@ class ErrorBoxes : public ErrorReport {
   void SetBox(Box box) { box_ = std::move(box); }
   void ShareBox(const ErrorBoxes& other) { box_ = other.box_; }
 
+  // How many were reported so far.
+  long Reported() const { return reported_; }
+
   // Runs [work] and returns what it reports, which is not shown and stops nothing.
   std::vector<std::string> Unreported(const std::function<void()>& work);
 
@@ -35,6 +38,7 @@ class ErrorBoxes : public ErrorReport {
   ScriptState& state_;
   host::Services& services_;
   Box box_;
+  long reported_ = 0;
   std::vector<std::string>* unreported_ = nullptr;
 };
 

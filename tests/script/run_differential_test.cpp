@@ -19,12 +19,23 @@ class Generator {
     script += "%>\n";
     for (int blocks = Pick(1, 4); blocks > 0; --blocks) {
       if (Chance(3)) script += "text <%=" + Value() + "%>\n";
+      if (Chance(3)) script += OverTemplateText();
       script += Chance(4) ? "<%" + OneLine() + "%>\n" : "<%\n" + Statements(Pick(1, 5), 2) + "%>\n";
     }
     return script + "}\n";
   }
 
  private:
+  // Its end restarts the block.
+  std::string OverTemplateText() {
+    static const char* const kHeads[] = {"for ii=1 to 3\n", "while aa<3\naa++\n", "lab3:\nbb++\n"};
+    const int kind = Pick(0, 2);
+    const std::string end = kind == 0 ? "next\n" : kind == 1 ? "wend\n" : "if bb<6 then goto lab3\n";
+    const std::string head = (Chance(4) ? "before <%=bb%> <%\n" : "<%\n") + std::string(kHeads[kind]);
+    return head + (Chance(3) ? Statements(1, 1) : "") + "%> behind\nin <%=" + Value() + "%>\n" +
+           (Chance(4) ? "<%" + OneLine() + "%>\n" : "") + "<%\n" + end + "%>" + (Chance(4) ? "=<%=aa%>\n" : "\n");
+  }
+
   int Pick(int low, int high) { return std::uniform_int_distribution<int>(low, high)(random_); }
   bool Chance(int of) { return Pick(1, of) == 1; }
   template <size_t n>
