@@ -26,42 +26,48 @@ class WatchedErrors : public ErrorReport {
 
 }  // namespace
 
-const TranslatedPieces::Translated* TranslatedPieces::Find(const std::string& text) const {
-  const auto found = kept_.find(text);
-  if (found == kept_.end()) return nullptr;
+const TranslatedPieces::Translated* TranslatedPieces::Find(const Kept& kept, const std::string& text) const {
+  const auto found = kept.find(text);
+  if (found == kept.end()) return nullptr;
   for (const Translated& translated : found->second)
     if (translated.before == state_.counters) return &translated;
   return nullptr;
 }
 
-void TranslatedPieces::Keep(const std::string& text, Translated translated) {
+void TranslatedPieces::Keep(Kept& kept, const std::string& text, Translated translated) {
   kept_size_ += text.size() + (translated.program ? translated.program->Text().size() : 0);
   if (kept_size_ > kMostKept) {
-    kept_.clear();
+    pieces_.clear();
+    statements_.clear();
     kept_size_ = 0;
     return;
   }
-  kept_[text].push_back(std::move(translated));
+  kept[text].push_back(std::move(translated));
 }
 
 std::shared_ptr<FlatProgram> TranslatedPieces::Translate(const std::string& text) {
-  if (const Translated* known = state_.stopFlag ? nullptr : Find(text)) {
+  return TranslateOnce(pieces_, text, [&](ErrorReport& errors) { return PrepareSource(text, errors); });
+}
+
+std::shared_ptr<FlatProgram> TranslatedPieces::TranslateStatement(const std::string& text) {
+  return TranslateOnce(statements_, text, [&](ErrorReport&) { return text; });
+}
+
+template <class Cleaned>
+std::shared_ptr<FlatProgram> TranslatedPieces::TranslateOnce(Kept& kept, const std::string& text, Cleaned&& cleaned) {
+  if (const Translated* known = state_.stopFlag ? nullptr : Find(kept, text)) {
     state_.counters = known->after;
     return known->program;
   }
   WatchedErrors errors(errors_);
   const bool stopped = state_.stopFlag;
   Translated translated{state_.counters, {}, nullptr};
-  std::string source = PrepareSource(text, errors);
+  std::string source = cleaned(errors);
   if (source.size() >= kShortestPiece)
     translated.program = std::make_shared<FlatProgram>(TranslateCode(source, state_, errors));
   translated.after = state_.counters;
-  if (!stopped && !errors.reported) Keep(text, translated);
+  if (!stopped && !errors.reported) Keep(kept, text, translated);
   return translated.program;
-}
-
-std::shared_ptr<FlatProgram> TranslatedPieces::TranslateStatement(std::string text) {
-  return std::make_shared<FlatProgram>(TranslateCode(text, state_, errors_));
 }
 
 }  // namespace corvane::script

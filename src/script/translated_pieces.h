@@ -19,19 +19,22 @@ class TranslatedPieces {
   // Cleaned and translated; nothing for a piece without content. Moves the counters.
   std::shared_ptr<FlatProgram> Translate(const std::string& text);
   // A generated statement, which needs no cleaning.
-  std::shared_ptr<FlatProgram> TranslateStatement(std::string text);
+  std::shared_ptr<FlatProgram> TranslateStatement(const std::string& text);
 
  private:
   struct Translated {
     Counters before, after;
     std::shared_ptr<FlatProgram> program;
   };
-  const Translated* Find(const std::string& text) const;
-  void Keep(const std::string& text, Translated translated);
+  using Kept = std::unordered_map<std::string, std::vector<Translated>>;  // by text
+  template <class Cleaned>
+  std::shared_ptr<FlatProgram> TranslateOnce(Kept& kept, const std::string& text, Cleaned&& cleaned);
+  const Translated* Find(const Kept& kept, const std::string& text) const;
+  void Keep(Kept& kept, const std::string& text, Translated translated);
 
   ScriptState& state_;
   ErrorReport& errors_;
-  std::unordered_map<std::string, std::vector<Translated>> kept_;
+  Kept pieces_, statements_;
   size_t kept_size_ = 0;
 };
 
