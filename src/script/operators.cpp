@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cmath>
+#include <new>
 
 #include "runtime/strings.h"
 #include "script/marks.h"
@@ -15,6 +16,13 @@ namespace {
 constexpr std::string_view kPrecedence = R"(<*>9</>9<\>9<+>8<&>8<->8<<>7<>>7<=>7< AND >6< OR >5<,>1)";
 
 using runtime::CStr;
+
+// Operands are not too long each, but all of them together may be.
+void Join(std::string& text, std::string_view value) {
+  constexpr size_t kLongest = 1u << 28;
+  if (text.size() + value.size() > kLongest) throw std::bad_alloc();
+  text += value;
+}
 
 // The three that leave a double behind.
 void Calculate(Accumulator& acc, const std::string& value, Cell& last, double (*operation)(double, double)) {
@@ -41,7 +49,7 @@ void Add(Accumulator& acc, const std::string& value, Cell& last) {
     acc.text = CStr(*left + *right);
   } else {
     acc.joined = true;
-    acc.text += value;
+    Join(acc.text, value);
   }
   last = acc.text;
 }
@@ -58,8 +66,10 @@ constexpr Row kOperators[] = {
               Cell& last) { Connect(acc, value, last, [](bool a, bool b) { return a || b; }); }},
     {"&",
      [](Accumulator& acc, const std::string& value, Cell& last) {
-       last = TextOf(last) + value;
-       acc.text += value;
+       std::string joined = TextOf(last);
+       Join(joined, value);
+       last = Text(std::move(joined));
+       Join(acc.text, value);
      }},
     {"+", Add},
     {"-", [](Accumulator& acc, const std::string& value,
@@ -70,7 +80,8 @@ constexpr Row kOperators[] = {
              Cell& last) { Calculate(acc, value, last, [](double a, double b) { return a / b; }); }},
     {",",
      [](Accumulator& acc, const std::string& value, Cell& last) {
-       acc.text.append(1, listSep).append(value);
+       acc.text += listSep;
+       Join(acc.text, value);
        last = acc.text;
      }},
 };

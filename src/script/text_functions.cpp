@@ -27,6 +27,16 @@ std::string Spaces(FunctionUse&, Argument count) {
   return runtime::Space(LongOf(count));
 }
 
+std::string ReplaceAll(FunctionUse&, Argument text, Argument from, Argument to) {
+  size_t count = 0;
+  for (size_t at = from.empty() ? std::string::npos : text.find(from); at != std::string::npos;
+       at = text.find(from, at + from.size()))
+    ++count;
+  if (count * to.size() > static_cast<size_t>(kLongestSpace))
+    throw runtime::Error(kOutOfStringSpace, "Out of string space");
+  return runtime::Replace(text, from, to);
+}
+
 std::string CompareTexts(Argument left, Argument right, bool with_case) {
   const int order = with_case ? left.compare(right) : runtime::UCase(left).compare(runtime::UCase(right));
   return std::to_string(order < 0 ? -1 : order > 0 ? 1 : 0);
@@ -113,7 +123,7 @@ constexpr FunctionRow kRows[] = {
     {.key = "REPLACE(",
      .arguments = "text, from, to",
      .help = "The text with all occurrences replaced.",
-     .three = [](FunctionUse&, Argument text, Argument from, Argument to) { return runtime::Replace(text, from, to); }},
+     .three = ReplaceAll},
     {.key = "STRCOMP(",
      .arguments = "a, b, [mode]",
      .help = "-1, 0 or 1 as a comes before b, is b, or comes behind it; mode 1 takes no account of case.",
