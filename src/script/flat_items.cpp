@@ -1,9 +1,11 @@
 #include "script/flat_items.h"
 
-#include "runtime/error.h"
-#include "runtime/strings.h"
-#include "runtime/variant.h"
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
 #include "script/marks.h"
+#include "script/numbers.h"
 
 namespace corvane::script {
 
@@ -11,20 +13,11 @@ namespace {
 
 constexpr size_t kHeader = 7;
 
-bool IsDigits(std::string_view field) {
-  return field.find_first_not_of("0123456789") == std::string_view::npos;
-}
-
 // By the rules of conversion: "-1" and " 7" are numbers, "2x" is none.
 std::optional<long> FieldNumber(std::string_view field) {
-  if (IsDigits(field)) {
-    long number = 0;
-    for (const char digit : field) number = number * 10 + (digit - '0');
-    return number;
-  }
-  std::optional<long> number;
-  runtime::PassOverErrors([&] { number = runtime::ToLong(std::string(field)); });
-  return number;
+  const std::optional<double> number = NumberOf(field);
+  if (!number || std::abs(*number) > std::numeric_limits<int32_t>::max()) return {};
+  return std::lround(std::nearbyint(*number));
 }
 
 FlatItem ReadLabel(std::string_view flat) {
