@@ -89,7 +89,7 @@ std::string Milliseconds(double seconds) {
 
 std::string Count(long value) {
   std::string digits = std::to_string(value);
-  for (long at = static_cast<long>(digits.size()) - 3; at > 0; at -= 3) digits.insert(static_cast<size_t>(at), " ");
+  for (long at = static_cast<long>(digits.size()) - 3; at > 0; at -= 3) digits.insert(static_cast<size_t>(at), 1, ' ');
   return digits;
 }
 
