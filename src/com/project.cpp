@@ -15,6 +15,7 @@ class WrappedComponent : public host::VBComponent, public Wrapped {
     return WrapExisting<host::CodeModule>(object_.Get(L"CodeModule"));
   }
   host::Ref<host::VBForm> Designer() override { return Wrap<host::VBForm>(object_.Get(L"Designer")); }
+  std::string DesignerID() override { return object_.Get(L"DesignerID").ToText(); }
   bool HasOpenDesigner() override { return object_.Get(L"HasOpenDesigner").ToBool(); }
   host::Ref<host::Window> DesignerWindow() override {
     return WrapExisting<host::Window>(object_.Get(L"DesignerWindow"));
@@ -49,6 +50,15 @@ class WrappedProject : public host::VBProject, public Wrapped {
   host::Ref<host::VBComponents> VBComponents() override {
     return WrapExisting<host::VBComponents>(object_.Get(L"VBComponents"));
   }
+  void AddToolboxProgID(const std::string& prog_id, const std::string& file) override {
+    file.empty() ? object_.Call(L"AddToolboxProgID", prog_id) : object_.Call(L"AddToolboxProgID", prog_id, file);
+  }
+};
+
+class WrappedProjects : public WrappedCollection<host::VBProjects, host::VBProject> {
+ public:
+  using WrappedCollection::WrappedCollection;
+  void AddFromFile(const std::string& path) override { object_.Call(L"AddFromFile", path); }
 };
 
 }  // namespace
@@ -70,7 +80,7 @@ host::Ref<host::VBProject> Wrap(const Value& value) {
 
 template <>
 host::Ref<host::VBProjects> Wrap(const Value& value) {
-  return MakeWrapped<WrappedCollection<host::VBProjects, host::VBProject>>(value);
+  return MakeWrapped<WrappedProjects>(value);
 }
 
 }  // namespace corvane::com

@@ -51,6 +51,11 @@ host::Ref<host::VBComponents> OpenProject::VBComponents() {
   return std::make_shared<Components>(shared_from_this());
 }
 
+// There is no library here that could be loaded: a control can be added where one of its class is already.
+void OpenProject::AddToolboxProgID(const std::string& prog_id, const std::string&) {
+  throw host::Error(runtime::kCannotCreateObject, "the library of " + prog_id + " cannot be loaded");
+}
+
 bool OpenProject::HasName(const std::string& name, const OpenModule* but) const {
   auto has_it = [&](const auto& module) { return module.get() != but && SameName(module->Name(), name); };
   return std::any_of(modules_.begin(), modules_.end(), has_it);

@@ -18,7 +18,8 @@ namespace {
 
 class ProjectList : public host::VBProjects {
  public:
-  explicit ProjectList(std::vector<std::shared_ptr<OpenProject>> projects) : projects_(std::move(projects)) {}
+  explicit ProjectList(std::shared_ptr<OpenEnvironment> environment)
+      : environment_(environment), projects_(environment->OpenProjects()) {}
   long Count() override { return static_cast<long>(projects_.size()); }
   host::Ref<host::VBProject> Item(const host::Index& index) override {
     if (const long* position = std::get_if<long>(&index)) {
@@ -29,8 +30,15 @@ class ProjectList : public host::VBProjects {
     }
     throw host::Error(runtime::kSubscriptOutOfRange);
   }
+  void AddFromFile(const std::string& path) override {
+    const std::shared_ptr<OpenEnvironment> environment = environment_.lock();
+    if (!environment) throw host::Error(runtime::kObjectNotSet);
+    environment->Open(path);
+    projects_ = environment->OpenProjects();
+  }
 
  private:
+  std::weak_ptr<OpenEnvironment> environment_;
   std::vector<std::shared_ptr<OpenProject>> projects_;
 };
 
@@ -90,7 +98,7 @@ int OpenEnvironment::CodePage() const {
 }
 
 host::Ref<host::VBProjects> OpenEnvironment::VBProjects() {
-  return std::make_shared<ProjectList>(projects_);
+  return std::make_shared<ProjectList>(std::static_pointer_cast<OpenEnvironment>(shared_from_this()));
 }
 host::Ref<host::VBProject> OpenEnvironment::ActiveVBProject() {
   return active_;

@@ -50,6 +50,7 @@ class OpenModule : public Module,
   host::ComponentType Type() override { return kind_->type; }
   host::Ref<host::CodeModule> CodeModule() override;
   host::Ref<host::VBForm> Designer() override;
+  std::string DesignerID() override { return {}; }  // forms and their kin alone are designed here
   bool HasOpenDesigner() override { return designer_open_; }
   host::Ref<host::Window> DesignerWindow() override;
   host::Ref<host::Properties> Properties() override;

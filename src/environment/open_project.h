@@ -27,6 +27,7 @@ class OpenProject : public Project, public std::enable_shared_from_this<OpenProj
   std::string Name() override;
   std::string FileName() override;
   host::Ref<host::VBComponents> VBComponents() override;
+  void AddToolboxProgID(const std::string& prog_id, const std::string& file) override;
 
   // Project
   std::vector<std::shared_ptr<Module>> Modules() const override;

@@ -1,11 +1,20 @@
 // The designer of a form: its controls and their properties, as the Properties window shows them.
 #pragma once
 
+#include <vector>
+
 #include "host/base.h"
 
 namespace corvane::host {
 
 class Properties;
+
+// An object of a control that is known by the names of its members alone: the Buttons of a toolbar, the ListImages of
+// an image list. An argument that is Empty is left out.
+class LateBound : public runtime::Object {
+ public:
+  virtual Variant Call(const std::string& member, const std::vector<Variant>& arguments) = 0;
+};
 
 // A member may fail to be read or written with any Error.
 class Property {
@@ -18,7 +27,8 @@ class Property {
   virtual long NumIndices() = 0;
   virtual Variant IndexedValue(long index) = 0;
   virtual void SetIndexedValue(long index, const Variant& value) = 0;
-  // The object of an object property (Font, Picture): a Properties collection for a font, a Picture for a picture.
+  // The object of an object property (Font, Picture): a Properties collection for a font, a Picture for a picture, a
+  // LateBound for what a control has of its own.
   virtual Variant Object() = 0;
   virtual void SetObject(const Variant& object) = 0;
 };
@@ -35,9 +45,8 @@ class ControlObject {
   virtual Ref<VBControl> Container() = 0;
 };
 
-class VBControl {
+class VBControl : public runtime::Object {
  public:
-  virtual ~VBControl() = default;
   virtual std::string ClassName() = 0;  // "Label"
   virtual std::string ProgId() = 0;     // "VB.Label"
   virtual Ref<host::Properties> Properties() = 0;

@@ -33,6 +33,8 @@ class VBComponent {
   virtual Ref<host::CodeModule> CodeModule() = 0;
   // Nothing for standard and class modules.
   virtual Ref<host::VBForm> Designer() = 0;
+  // Class of the designer ("MSDataReportLib.DataReport"); empty text where the environment itself is the designer.
+  virtual std::string DesignerID() = 0;
   virtual bool HasOpenDesigner() = 0;
   // Opens the designer's window where it was closed. Without a designer: Error 438.
   virtual Ref<host::Window> DesignerWindow() = 0;
@@ -60,8 +62,15 @@ class VBProject {
   // Full path; empty text while it was never saved.
   virtual std::string FileName() = 0;
   virtual Ref<host::VBComponents> VBComponents() = 0;
+  // Puts a class of controls into the toolbox, with the library in [file] where that is not known. Error 429 for one
+  // that cannot be had.
+  virtual void AddToolboxProgID(const std::string& prog_id, const std::string& file = {}) = 0;
 };
 
-class VBProjects : public Collection<VBProject> {};
+class VBProjects : public Collection<VBProject> {
+ public:
+  // Opens the project beside those that are open.
+  virtual void AddFromFile(const std::string& path) = 0;
+};
 
 }  // namespace corvane::host

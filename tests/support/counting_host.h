@@ -106,6 +106,7 @@ class CountingHost : public host::VBE {
     host::ComponentType Type() override { return component_->Type(); }
     host::Ref<host::CodeModule> CodeModule() override { return host_.CountingModuleOf(*component_); }
     host::Ref<host::VBForm> Designer() override { return component_->Designer(); }
+    std::string DesignerID() override { return component_->DesignerID(); }
     bool HasOpenDesigner() override { return component_->HasOpenDesigner(); }
     host::Ref<host::Window> DesignerWindow() override { return component_->DesignerWindow(); }
     host::Ref<host::Properties> Properties() override { return component_->Properties(); }
@@ -145,6 +146,9 @@ class CountingHost : public host::VBE {
     std::string FileName() override { return project_->FileName(); }
     host::Ref<host::VBComponents> VBComponents() override {
       return std::make_shared<Components>(host_, project_->VBComponents());
+    }
+    void AddToolboxProgID(const std::string& prog_id, const std::string& file) override {
+      project_->AddToolboxProgID(prog_id, file);
     }
 
    private:
