@@ -15,25 +15,26 @@ class NoProject : public script::IdeAccess, public script::IdeCommands {
   std::string ProjectName() override { return {}; }
   std::string ProjectFileName() override { return {}; }
   std::string Components(const std::string&) override { return {}; }
-  std::string GetProp(const std::string&) override { return {}; }
-  void SetProp(const std::string&, const std::string&) override { Fail(); }
-  std::string FindLine(const std::string&) override { return {}; }
-  std::string Declaration(const std::string&) override { return {}; }
-  std::string ProcLines(const std::string&) override { return {}; }
-  std::string CodeLines(const std::string&) override { return {}; }
-  std::string ReadCode(const std::string&) override { return {}; }
-  std::string GetSelection(const std::string&) override { return {}; }
-  std::string Add(const std::string&) override { return {}; }
-  std::string SetPicture(const std::string&) override { return {}; }
+  std::string GetProp(script::ErrorReport&, const std::string&) override { return {}; }
+  void SetProp(script::ErrorReport&, const std::string&, const std::string&) override { Fail(); }
+  std::string FindLine(script::ErrorReport&, const std::string&) override { return {}; }
+  std::string Declaration(script::ErrorReport&, const std::string&) override { return {}; }
+  std::string ProcLines(script::ErrorReport&, const std::string&) override { return {}; }
+  std::string CodeLines(script::ErrorReport&, const std::string&) override { return {}; }
+  std::string ReadCode(script::ErrorReport&, const std::string&) override { return {}; }
+  std::string GetSelection(script::ErrorReport&, const std::string&) override { return {}; }
+  std::string Add(script::ErrorReport&, const std::string&) override { return {}; }
+  std::string SetPicture(script::ErrorReport&, const std::string&) override { return {}; }
 
-  void Replace(const std::string&, const std::string&) override { Fail(); }
-  void Create(const std::string&, const std::string&) override { Fail(); }
-  void Remove(const std::string&) override { Fail(); }
-  void ReplaceLine(const std::string&) override { Fail(); }
-  void DeleteCode(const std::string&) override { Fail(); }
-  void InsertCode(const std::string&, bool) override { Fail(); }
-  bool GoCodeLine(const std::string&) override { return false; }
-  void Open(const std::string&) override { Fail(); }
+  void Replace(script::ErrorReport&, const std::string&, const std::string&) override { Fail(); }
+  void Create(script::ErrorReport&, const std::string&, const std::string&) override { Fail(); }
+  void Remove(script::ErrorReport&, const std::string&) override { Fail(); }
+  void ReplaceLine(script::ErrorReport&, const std::string&) override { Fail(); }
+  void DeleteCode(script::ErrorReport&, const std::string&) override { Fail(); }
+  void InsertCode(script::ErrorReport&, const std::string&) override { Fail(); }
+  void WriteResult(script::ErrorReport&, const std::string&, std::string_view) override { Fail(); }
+  bool GoCodeLine(script::ErrorReport&, const std::string&) override { return false; }
+  void Open(script::ErrorReport&, const std::string&) override { Fail(); }
 
  private:
   [[noreturn]] static void Fail() { throw runtime::Error(runtime::kObjectNotSet); }

@@ -192,7 +192,7 @@ void Assignment::Store(const Target& target) {
       state_.resultText = AsText(state_.lastValue);
       break;
     case Target::kProperty:
-      outside_.ide.SetProp(target.address, TextOf(state_.lastValue));
+      outside_.ide.SetProp(errors_, target.address, TextOf(state_.lastValue));
       break;
     case Target::kCell:
       store_.Store(target.cell, state_.lastValue);

@@ -54,7 +54,7 @@ void MousePointer(CommandUse& use) {
 }
 
 void GoCodeLine(CommandUse& use) {
-  if (use.around.changes.GoCodeLine(use.value)) State(use).stopFlag = true;
+  if (use.around.changes.GoCodeLine(use.engine.errors, use.value)) State(use).stopFlag = true;
 }
 
 void Print(CommandUse& use) {
@@ -109,19 +109,22 @@ constexpr CommandRow kCommands[] = {
     {"SHOW", "form", "Shows the dialog of a FORM block, given as text or by its name.", Show},
     {"NOSHOW", "form", "Builds the dialog without showing it.", NoShow},
     {"REMOVE", "address", "Removes a control or a component.",
-     [](CommandUse& use) { use.around.changes.Remove(use.value); }},
+     [](CommandUse& use) { use.around.changes.Remove(use.engine.errors, use.value); }},
     {"SETCLIPBOARD", "text", "Puts the text on the clipboard.", SetClipboard},
     {"REPLACELINE", "component, line or text, new", "Replaces a line of code.",
-     [](CommandUse& use) { use.around.changes.ReplaceLine(use.value); }},
+     [](CommandUse& use) { use.around.changes.ReplaceLine(use.engine.errors, use.value); }},
     {"MOUSEPOINTER", "wait", "The wait cursor, or the normal one.", MousePointer},
     {"DELETECODE", "component, first, count", "Deletes lines of code.",
-     [](CommandUse& use) { use.around.changes.DeleteCode(use.value); }},
+     [](CommandUse& use) { use.around.changes.DeleteCode(use.engine.errors, use.value); }},
     {"WRITE", "[component], [line]", "Inserts the result text into the code.",
-     [](CommandUse& use) { use.around.changes.InsertCode(use.value, false); }},
+     [](CommandUse& use) {
+       use.around.changes.WriteResult(use.engine.errors, use.value, State(use).resultText.Get());
+     }},
     {"GOCODELINE", "component, line", "Ends the script and shows the line.", GoCodeLine},
     {"INSERTCODE", "component, text, line", "Inserts the text into the code.",
-     [](CommandUse& use) { use.around.changes.InsertCode(use.value, true); }},
-    {"OPEN", "component", "Opens the component's code.", [](CommandUse& use) { use.around.changes.Open(use.value); }},
+     [](CommandUse& use) { use.around.changes.InsertCode(use.engine.errors, use.value); }},
+    {"OPEN", "component", "Opens the component's code.",
+     [](CommandUse& use) { use.around.changes.Open(use.engine.errors, use.value); }},
     {"PRINT", "value", "Adds a line to the print box, which is shown at the end.", Print},
     {"CSTR", "value", "The value as text is what a function returns.", CStr},
     {"SHELL", "program", "Starts the program.", Shell},
@@ -173,7 +176,8 @@ void Commands::Run(Engine& engine, const std::string& statement, long paren, Cod
   if (RunSpecial(engine, keyword, statement)) return;
   const std::string text = runtime::Mid(statement, paren + 1);
   const std::string argument = WithoutBracket(text);
-  if (keyword == "WRITE" && text == "):") return around_.changes.InsertCode("", false);
+  if (keyword == "WRITE" && text == "):")
+    return around_.changes.WriteResult(engine.errors, "", engine.state.resultText.Get());
   if (text.size() < kShortest) return;
   if (argument.empty()) return engine.errors.ReportError("Must be parameter");
   if (keyword == "GETPARAMS") return GetParamsInto(argument, engine.state, engine.store);
@@ -214,7 +218,8 @@ void Commands::RunWithTwo(Engine& engine, const std::string& keyword, const std:
   if (!engine.state.stopFlag) engine.expressions.EvalExpression(argument);
   if (engine.state.stopFlag) return;
   const std::string two = TextOf(engine.state.lastValue);
-  keyword == "CREATE" ? around_.changes.Create(one, two) : around_.changes.Replace(one, two);
+  keyword == "CREATE" ? around_.changes.Create(engine.errors, one, two)
+                      : around_.changes.Replace(engine.errors, one, two);
 }
 
 }  // namespace corvane::script

@@ -1,10 +1,13 @@
 // IdeAccess: what expressions and assignments ask of the project that is open. Arguments come as one text with listSep
-// between them; lists come back with "|" behind each entry. Failed calls of the environment may throw runtime::Error.
+// between them; lists come back with "|" behind each entry. Messages go to [errors]. Failed calls of the environment
+// may throw runtime::Error.
 #pragma once
 
 #include <string>
 
 namespace corvane::script {
+
+class ErrorReport;
 
 class IdeAccess {
  public:
@@ -14,17 +17,17 @@ class IdeAccess {
   virtual std::string ProjectFileName() = 0;  // its path; empty for one that was never saved
 
   virtual std::string Components(const std::string& filter) = 0;
-  virtual std::string GetProp(const std::string& address_and_property) = 0;
+  virtual std::string GetProp(ErrorReport& errors, const std::string& address_and_property) = 0;
   // [address] ends in "." and the name of the property.
-  virtual void SetProp(const std::string& address, const std::string& value) = 0;
-  virtual std::string FindLine(const std::string& arguments) = 0;
-  virtual std::string Declaration(const std::string& arguments) = 0;
-  virtual std::string ProcLines(const std::string& arguments) = 0;
-  virtual std::string CodeLines(const std::string& arguments) = 0;
-  virtual std::string ReadCode(const std::string& arguments) = 0;
-  virtual std::string GetSelection(const std::string& component) = 0;
-  virtual std::string Add(const std::string& arguments) = 0;
-  virtual std::string SetPicture(const std::string& arguments) = 0;
+  virtual void SetProp(ErrorReport& errors, const std::string& address, const std::string& value) = 0;
+  virtual std::string FindLine(ErrorReport& errors, const std::string& arguments) = 0;
+  virtual std::string Declaration(ErrorReport& errors, const std::string& arguments) = 0;
+  virtual std::string ProcLines(ErrorReport& errors, const std::string& arguments) = 0;
+  virtual std::string CodeLines(ErrorReport& errors, const std::string& arguments) = 0;
+  virtual std::string ReadCode(ErrorReport& errors, const std::string& arguments) = 0;
+  virtual std::string GetSelection(ErrorReport& errors, const std::string& component) = 0;
+  virtual std::string Add(ErrorReport& errors, const std::string& arguments) = 0;
+  virtual std::string SetPicture(ErrorReport& errors, const std::string& arguments) = 0;
 };
 
 }  // namespace corvane::script

@@ -125,7 +125,7 @@ std::string Names::PropertyOf(const std::string& token, const std::string& upper
   if (property == "INDEX" || property == "ITEM")
     if (const auto control = ReadDialogs(upper.substr(0, dot)))
       return property == "INDEX" ? state_.indexValue : control->item;
-  return use_.outside.ide.GetProp(token.substr(0, dot) + listSep + token.substr(dot + 1));
+  return use_.outside.ide.GetProp(errors_, token.substr(0, dot) + listSep + token.substr(dot + 1));
 }
 
 }  // namespace corvane::script

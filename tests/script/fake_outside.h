@@ -24,16 +24,20 @@ class FakeIde : public IdeAccess {
   std::string ProjectName() override { return name; }
   std::string ProjectFileName() override { return file; }
   std::string Components(const std::string& filter) override { return Answer("components", filter); }
-  std::string GetProp(const std::string& list) override { return Answer("getprop", list); }
-  void SetProp(const std::string& address, const std::string& value) override { set.push_back(address + "=" + value); }
-  std::string FindLine(const std::string& list) override { return Answer("findline", list); }
-  std::string Declaration(const std::string& list) override { return Answer("declaration", list); }
-  std::string ProcLines(const std::string& list) override { return Answer("proclines", list); }
-  std::string CodeLines(const std::string& list) override { return Answer("codelines", list); }
-  std::string ReadCode(const std::string& list) override { return Answer("readcode", list); }
-  std::string GetSelection(const std::string& component) override { return Answer("getselection", component); }
-  std::string Add(const std::string& list) override { return Answer("add", list); }
-  std::string SetPicture(const std::string& list) override { return Answer("setpicture", list); }
+  std::string GetProp(ErrorReport&, const std::string& list) override { return Answer("getprop", list); }
+  void SetProp(ErrorReport&, const std::string& address, const std::string& value) override {
+    set.push_back(address + "=" + value);
+  }
+  std::string FindLine(ErrorReport&, const std::string& list) override { return Answer("findline", list); }
+  std::string Declaration(ErrorReport&, const std::string& list) override { return Answer("declaration", list); }
+  std::string ProcLines(ErrorReport&, const std::string& list) override { return Answer("proclines", list); }
+  std::string CodeLines(ErrorReport&, const std::string& list) override { return Answer("codelines", list); }
+  std::string ReadCode(ErrorReport&, const std::string& list) override { return Answer("readcode", list); }
+  std::string GetSelection(ErrorReport&, const std::string& component) override {
+    return Answer("getselection", component);
+  }
+  std::string Add(ErrorReport&, const std::string& list) override { return Answer("add", list); }
+  std::string SetPicture(ErrorReport&, const std::string& list) override { return Answer("setpicture", list); }
 
  private:
   static std::string Answer(const std::string& function, std::string list) {

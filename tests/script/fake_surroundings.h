@@ -29,14 +29,19 @@ class FakeChanges : public IdeCommands {
   std::vector<std::string> calls;
   bool shows_line = true;
 
-  void Replace(const std::string& first, const std::string& second) override { Call("replace", first + "," + second); }
-  void Create(const std::string& type, const std::string& name) override { Call("create", type + "," + name); }
-  void Remove(const std::string& address) override { Call("remove", address); }
-  void ReplaceLine(const std::string& list) override { Call("replaceline", list); }
-  void DeleteCode(const std::string& list) override { Call("deletecode", list); }
-  void InsertCode(const std::string& list, bool with_text) override { Call(with_text ? "insert" : "write", list); }
-  bool GoCodeLine(const std::string& list) override { return Call("gocodeline", list), shows_line; }
-  void Open(const std::string& component) override { Call("open", component); }
+  void Replace(ErrorReport&, const std::string& first, const std::string& second) override {
+    Call("replace", first + "," + second);
+  }
+  void Create(ErrorReport&, const std::string& type, const std::string& name) override {
+    Call("create", type + "," + name);
+  }
+  void Remove(ErrorReport&, const std::string& address) override { Call("remove", address); }
+  void ReplaceLine(ErrorReport&, const std::string& list) override { Call("replaceline", list); }
+  void DeleteCode(ErrorReport&, const std::string& list) override { Call("deletecode", list); }
+  void InsertCode(ErrorReport&, const std::string& list) override { Call("insert", list); }
+  void WriteResult(ErrorReport&, const std::string& list, std::string_view) override { Call("write", list); }
+  bool GoCodeLine(ErrorReport&, const std::string& list) override { return Call("gocodeline", list), shows_line; }
+  void Open(ErrorReport&, const std::string& component) override { Call("open", component); }
 
  private:
   void Call(const char* name, const std::string& list) { calls.push_back(std::string(name) + " " + Readable(list)); }
