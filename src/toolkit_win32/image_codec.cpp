@@ -12,11 +12,11 @@ constexpr GUID kStraightAlpha = {0x6FDDC324, 0x4E03, 0x4BFE, {0xB1, 0x85, 0x3D, 
 constexpr GUID kPngContainer = {0x1B7CFAF4, 0x713F, 0x473C, {0xBB, 0xCD, 0x61, 0x37, 0x42, 0x5F, 0xAE, 0xAF}};
 constexpr int kBytesPerPixel = 4;
 
-using Frame = ComRef<IWICBitmapFrameDecode>;
+using Frame = ComPointer<IWICBitmapFrameDecode>;
 
 struct OpenFile {
-  ComRef<IWICStream> stream;
-  ComRef<IWICBitmapDecoder> decoder;
+  ComPointer<IWICStream> stream;
+  ComPointer<IWICBitmapDecoder> decoder;
 };
 
 OpenFile Open(IWICImagingFactory* factory, std::string_view file) {
@@ -63,14 +63,13 @@ BYTE Multiplied(BYTE value, BYTE alpha) {
 ImageCodec::ImageCodec() : started_com_(SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {}
 
 ImageCodec::~ImageCodec() {
-  factory_.Reset();
+  factory_ = {};
   if (started_com_) CoUninitialize();
 }
 
 IWICImagingFactory* ImageCodec::Factory() {
   if (!factory_) {
-    CoCreateInstance(kFactoryClass, nullptr, CLSCTX_INPROC_SERVER, __uuidof(IWICImagingFactory),
-                     reinterpret_cast<void**>(factory_.Out()));
+    CoCreateInstance(kFactoryClass, nullptr, CLSCTX_INPROC_SERVER, __uuidof(IWICImagingFactory), factory_.OutVoid());
   }
   return factory_.Get();
 }
@@ -85,8 +84,8 @@ SIZE ImageCodec::SizeOf(std::string_view file) {
 Pixels ImageCodec::Decode(std::string_view file, SIZE size) {
   const OpenFile open = Open(Factory(), file);
   const Frame frame = open.decoder ? BestFrame(open.decoder.Get(), size) : Frame();
-  ComRef<IWICFormatConverter> converter;
-  ComRef<IWICBitmapScaler> scaler;
+  ComPointer<IWICFormatConverter> converter;
+  ComPointer<IWICBitmapScaler> scaler;
   if (!frame || FAILED(Factory()->CreateFormatConverter(converter.Out()))) return {};
   if (FAILED(converter->Initialize(frame.Get(), kStraightAlpha, WICBitmapDitherTypeNone, nullptr, 0,
                                    WICBitmapPaletteTypeCustom)) ||
@@ -110,10 +109,10 @@ Pixels ImageCodec::Decode(std::string_view file, SIZE size) {
 }
 
 bool ImageCodec::SavePng(HBITMAP bitmap, const std::wstring& path) {
-  ComRef<IWICBitmap> source;
-  ComRef<IWICStream> stream;
-  ComRef<IWICBitmapEncoder> encoder;
-  ComRef<IWICBitmapFrameEncode> frame;
+  ComPointer<IWICBitmap> source;
+  ComPointer<IWICStream> stream;
+  ComPointer<IWICBitmapEncoder> encoder;
+  ComPointer<IWICBitmapFrameEncode> frame;
   return Factory() &&
          SUCCEEDED(Factory()->CreateBitmapFromHBITMAP(bitmap, nullptr, WICBitmapIgnoreAlpha, source.Out())) &&
          SUCCEEDED(Factory()->CreateStream(stream.Out())) &&

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "toolkit_win32/com_ref.h"
+#include "toolkit_win32/com_pointer.h"
 #include "toolkit_win32/win.h"
 
 struct IWICImagingFactory;
@@ -36,7 +36,7 @@ class ImageCodec {
  private:
   IWICImagingFactory* Factory();
   bool started_com_ = false;
-  ComRef<IWICImagingFactory> factory_;
+  ComPointer<IWICImagingFactory> factory_;
 };
 
 // A bitmap of [pixels] in memory, colours multiplied by their alpha (as GdiAlphaBlend wants them) or not (as icons do).
