@@ -14,10 +14,8 @@ HRESULT RegisterFor(Scope scope) {
   return Guarded([&] { return Register(scope, ModulePath()); });
 }
 
-bool ScopeOf(LPCWSTR word, Scope& scope) {
-  const bool machine = word && lstrcmpiW(word, L"machine") == 0;
-  scope = machine ? Scope::Machine : Scope::User;
-  return machine || !word || !*word || lstrcmpiW(word, L"user") == 0;
+bool Is(LPCWSTR word, LPCWSTR wanted) {
+  return lstrcmpiW(word ? word : L"", wanted) == 0;
 }
 
 }  // namespace
@@ -42,7 +40,9 @@ HRESULT STDAPICALLTYPE DllUnregisterServer() {
 }
 
 HRESULT STDAPICALLTYPE DllInstall(BOOL install, LPCWSTR word) {
-  Scope scope;
-  if (!ScopeOf(word, scope)) return E_INVALIDARG;
+  if (Is(word, L"entry")) return install ? RegisterEntry() : UnregisterEntry();
+  const bool machine = Is(word, L"machine");
+  if (!machine && !Is(word, L"user") && !Is(word, L"")) return E_INVALIDARG;
+  const Scope scope = machine ? Scope::Machine : Scope::User;
   return install ? RegisterFor(scope) : Unregister(scope);
 }

@@ -64,6 +64,10 @@ bool HasClass(HKEY root) {
   return HasKey(root, KeyOfClass(), KEY_WOW64_64KEY) || HasKey(root, KeyOfClass(), KEY_WOW64_32KEY);
 }
 
+HRESULT ResultOf(LSTATUS status) {
+  return HRESULT_FROM_WIN32(static_cast<DWORD>(status));
+}
+
 }  // namespace
 
 HRESULT Register(Scope scope, const std::wstring& library) noexcept {
@@ -75,6 +79,18 @@ HRESULT Register(Scope scope, const std::wstring& library) noexcept {
   });
 }
 
+HRESULT RegisterEntry() noexcept {
+  return Guarded([] {
+    RegistryEdit edit;
+    RegisterAddIn(edit);
+    edit.Keep();
+  });
+}
+
+HRESULT UnregisterEntry() noexcept {
+  return Guarded([] { return ResultOf(RemoveKey(HKEY_CURRENT_USER, KeyOfAddIn(), kVendors)); });
+}
+
 HRESULT Unregister(Scope scope) noexcept {
   return Guarded([&] {
     const HKEY root = RootOf(scope);
@@ -83,7 +99,7 @@ HRESULT Unregister(Scope scope) noexcept {
     if (!HasClass(HKEY_CURRENT_USER) && !HasClass(HKEY_LOCAL_MACHINE))
       statuses.push_back(RemoveKey(HKEY_CURRENT_USER, KeyOfAddIn(), kVendors));
     for (const LSTATUS status : statuses)
-      if (status != ERROR_SUCCESS) return HRESULT_FROM_WIN32(static_cast<DWORD>(status));
+      if (status != ERROR_SUCCESS) return ResultOf(status);
     return S_OK;
   });
 }

@@ -20,4 +20,8 @@ HRESULT Register(Scope scope, const std::wstring& library) noexcept;
 // library for programs of the other width. Tells the first thing that could not be removed.
 HRESULT Unregister(Scope scope) noexcept;
 
+// The line of the environment's list alone, for another user of a machine on which the class is registered.
+HRESULT RegisterEntry() noexcept;
+HRESULT UnregisterEntry() noexcept;
+
 }  // namespace corvane::com

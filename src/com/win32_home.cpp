@@ -2,6 +2,7 @@
 #include "com/session.h"
 #include "runtime/code_page.h"
 #include "toolkit_win32/services.h"
+#include "toolkit_win32/texts.h"
 #include "toolkit_win32/toolkit.h"
 
 namespace corvane::com {
@@ -27,7 +28,7 @@ class Win32Home : public Home {
 }  // namespace
 
 std::unique_ptr<Home> NewWin32Home() {
-  runtime::SetAnsiCodePage(static_cast<int>(GetACP()));
+  runtime::SetAnsiCodePage(toolkit_win32::SystemCodePage());
   return std::make_unique<Win32Home>();
 }
 

@@ -19,6 +19,18 @@ UINT PageNumber() {
 
 }  // namespace
 
+int SystemCodePage() {
+  DWORD of_language = 0;
+  GetLocaleInfoW(LOCALE_SYSTEM_DEFAULT, LOCALE_IDEFAULTANSICODEPAGE | LOCALE_RETURN_NUMBER,
+                 reinterpret_cast<LPWSTR>(&of_language), sizeof of_language / sizeof(wchar_t));
+  return KnownCodePage(GetACP(), of_language);
+}
+
+int KnownCodePage(unsigned of_process, unsigned of_language) {
+  const runtime::CodePage page(static_cast<int>(of_process));
+  return static_cast<int>(page.Number() == static_cast<int>(of_process) ? of_process : of_language);
+}
+
 std::wstring FromUtf8(std::string_view utf8) {
   const int size = static_cast<int>(utf8.size());
   std::wstring shown(static_cast<size_t>(MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, nullptr, 0)), L'\0');

@@ -278,6 +278,18 @@ TEST_F(RegistrationTest, InstallingTakesAWordForTheWholeMachine) {
   EXPECT_EQ(DllInstall(TRUE, L"everywhere"), E_INVALIDARG);
 }
 
+// What another user of a machine does, whose administrator installed it and takes it away again.
+TEST_F(RegistrationTest, AnotherUserOfAMachineHasALineOfTheListAlone) {
+  EXPECT_EQ(Register(Scope::Machine, kLibrary), S_OK);
+  EXPECT_EQ(DllInstall(FALSE, L"entry"), S_OK);
+  EXPECT_EQ(CountOfAddInLines(), 0);
+  EXPECT_EQ(DllInstall(TRUE, L"Entry"), S_OK);
+  EXPECT_EQ(Sorted(Contents(user_)), Sorted(AddInLines()));
+  EXPECT_EQ(DllInstall(FALSE, L"entry"), S_OK);
+  EXPECT_EQ(CountOfAddInLines(), 0);
+  EXPECT_EQ(Sorted(Contents(machine_)), Sorted(ClassLines()));
+}
+
 constexpr CLSID kOurs = {0x8C3B7E52, 0x4D1F, 0x4B7A, {0x9E, 0x65, 0x2F, 0x0C, 0x61, 0xA7, 0xD9, 0x4B}};
 
 TEST(Exports, TheClassIsTheAddInsAlone) {

@@ -505,5 +505,12 @@ TEST_F(ServicesTest, APictureIsLoadedAsItsBytes) {
   EXPECT_EQ(NumberOf([&] { services.Pictures.LoadPicture(folder.Path("none.bmp")); }), 53);
 }
 
+TEST(CodePageOfTheSystem, IsThatOfItsLanguageWherePagesOfProcessesAreUtf8) {
+  EXPECT_EQ(KnownCodePage(1251, 1252), 1251);
+  EXPECT_EQ(KnownCodePage(932, 1252), 932);
+  EXPECT_EQ(KnownCodePage(CP_UTF8, 1250), 1250);
+  EXPECT_EQ(SystemCodePage(), KnownCodePage(GetACP(), 1252));
+}
+
 }  // namespace
 }  // namespace corvane::toolkit_win32
