@@ -195,6 +195,7 @@ void FormWindowPeer::BringToFront(bool front) {
 
 void FormWindowPeer::Activate() {
   if (!window_ || form_.WindowState() == forms::vbMinimized) return;
+  if (!IsWindowEnabled(Handle())) return;  // something modal is shown in front of it
   const Win32Toolkit::ByCode by_code(toolkit_);
   BringWindowToTop(Handle());
   if (!SetForegroundWindow(Handle())) SetActiveWindow(Handle());

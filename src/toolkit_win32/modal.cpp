@@ -1,14 +1,9 @@
 #include "toolkit_win32/modal.h"
 
-#include <utility>
-
-#include "toolkit_win32/thread_windows.h"
 #include "toolkit_win32/window.h"
 
 namespace corvane::toolkit_win32 {
 namespace {
-
-thread_local ModalRun* newest_run = nullptr;
 
 void Run(MSG& message) {
   TranslateMessage(&message);
@@ -16,14 +11,6 @@ void Run(MSG& message) {
 }
 
 }  // namespace
-
-ModalRun::ModalRun(HWND window)
-    : below_(std::exchange(newest_run, this)), active_before_(GetActiveWindow()), focus_before_(GetFocus()) {
-  if (below_) below_->above_ = this;
-  ReleaseCapture();
-  disabled_ = UsableWindows(window);
-  for (HWND each : disabled_) EnableWindow(each, FALSE);
-}
 
 void ModalRun::RunLoop() {
   MSG message;
@@ -39,19 +26,15 @@ void ModalRun::RunLoop() {
 }
 
 void ModalRun::End() {
-  if (ended_) return;
   ended_ = true;
-  if (below_) below_->above_ = above_;
-  (above_ ? above_->below_ : newest_run) = below_;
-  if (above_) return above_->disabled_.splice(above_->disabled_.end(), disabled_);
-  for (HWND each : disabled_) EnableWindow(each, TRUE);
-  disabled_.clear();
+  others_.End();
 }
 
 void ModalRun::GiveFocusBack() const {
-  if (!IsWindow(active_before_) || WindowAt(active_before_) || !IsWindowVisible(active_before_)) return;
+  if (!IsWindow(active_before_) || !IsWindowVisible(active_before_)) return;
   const HWND now = GetActiveWindow();
-  if (now && now != active_before_ && !WindowAt(now)) return;  // the user or the logic went elsewhere
+  if (WindowAt(active_before_) && now && IsWindowVisible(now)) return;  // the logic gave it to one of its forms
+  if (now && now != active_before_ && !WindowAt(now)) return;           // the user or the logic went elsewhere
   SetActiveWindow(active_before_);
   if (IsWindow(focus_before_)) SetFocus(focus_before_);
 }

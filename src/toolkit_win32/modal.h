@@ -1,19 +1,15 @@
 // ModalRun: one modal window's rule over this thread: its own message loop, all other windows disabled meanwhile, the
-// focus given back behind it. It outlives the window and the toolkit when they go inside it. When it
-// ends before one that began inside it, that one goes on to rule over what this disabled.
+// focus given back behind it. It outlives the window and the toolkit when they go inside it.
 #pragma once
 
-#include <list>
-
-#include "toolkit_win32/win.h"
+#include "toolkit_win32/thread_windows.h"
 
 namespace corvane::toolkit_win32 {
 
 class ModalRun {
  public:
   // Disables what the user could reach on this thread but [window].
-  explicit ModalRun(HWND window);
-  ~ModalRun() { End(); }
+  explicit ModalRun(HWND window) : others_(window) {}
   ModalRun(const ModalRun&) = delete;
   ModalRun& operator=(const ModalRun&) = delete;
 
@@ -22,13 +18,12 @@ class ModalRun {
   // Enables again what this disabled; to be called before the window is hidden, or the system would look for another
   // program's window to activate.
   void End();
-  // Gives the focus back to what had it, when that was no window of ours.
+  // Gives the focus back to what had it; to a window of ours only where nothing else has it now.
   void GiveFocusBack() const;
 
  private:
-  std::list<HWND> disabled_;
-  ModalRun *below_, *above_ = nullptr;  // of those that have not ended
-  HWND active_before_, focus_before_;
+  const HWND active_before_ = GetActiveWindow(), focus_before_ = GetFocus();
+  OtherWindowsDisabled others_;
   bool ended_ = false;
 };
 

@@ -295,7 +295,9 @@ void ControlPeer::TellLostButtons() {
 }
 
 LRESULT ControlPeer::MouseReleased(Window& window, const Message& message) {
-  held_ &= ~ButtonOf(message.id);
+  const int button = ButtonOf(message.id);
+  const bool told = (held_ & button) != 0;  // not when the press was refused, or its loss was told already
+  held_ &= ~button;
   const forms::Point place = PlaceOf(message);
   const Life self = life_;
   // Handlers run with the mouse free: they may open windows.
@@ -303,8 +305,7 @@ LRESULT ControlPeer::MouseReleased(Window& window, const Message& message) {
   const bool native_first = mouse_ == Mouse::ReleasesLast;
   const LRESULT answer = native_first ? OnOwnMessage(window, message) : 0;
   if (self.expired()) return answer;
-  const bool alive =
-      Tell([&] { control_.UserMouseUp(ButtonOf(message.id), ShiftOfMouse(message.w), place.x, place.y); });
+  const bool alive = !told || Tell([&] { control_.UserMouseUp(button, ShiftOfMouse(message.w), place.x, place.y); });
   return native_first || !alive ? answer : OnOwnMessage(window, message);
 }
 

@@ -5,6 +5,8 @@
 namespace corvane::toolkit_win32 {
 namespace {
 
+thread_local OtherWindowsDisabled* newest = nullptr;
+
 struct Search {
   HWND but;
   std::list<HWND> found;
@@ -30,11 +32,18 @@ std::list<HWND> UsableWindows(HWND but) {
   return std::move(search.found);
 }
 
-OtherWindowsDisabled::OtherWindowsDisabled(HWND owner) : disabled_(UsableWindows(owner)) {
+OtherWindowsDisabled::OtherWindowsDisabled(HWND but)
+    : disabled_(UsableWindows(but)), below_(std::exchange(newest, this)) {
+  if (below_) below_->above_ = this;
+  ReleaseCapture();
   for (HWND window : disabled_) EnableWindow(window, FALSE);
 }
 
-OtherWindowsDisabled::~OtherWindowsDisabled() {
+void OtherWindowsDisabled::End() {
+  if (std::exchange(ended_, true)) return;
+  if (below_) below_->above_ = above_;
+  (above_ ? above_->below_ : newest) = below_;
+  if (above_) return above_->disabled_.splice(above_->disabled_.end(), disabled_);
   for (HWND window : disabled_) EnableWindow(window, TRUE);
 }
 

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "tests/toolkit_win32/window_fixture.h"
+#include "toolkit_win32/services.h"
 
 namespace corvane::toolkit_win32 {
 namespace {
@@ -186,16 +187,13 @@ TEST_F(Modal, ADialogDestroyedInItsOwnClickEndsTheLoop) {
 TEST_F(Modal, EverythingMayGoWhileTheLoopRuns) {
   auto first = std::make_unique<Dialog>(*toolkit, "frmFirst"), dialog = std::make_unique<Dialog>(*toolkit);
   first->Show();
-  bool back = false;
   Soon([&] {
     dialog->Unload();
     first.reset();
   });
   dialog->ShowModal();
-  back = true;
   dialog.reset();
   toolkit.reset();
-  EXPECT_TRUE(back);
   EXPECT_TRUE(IsWindowEnabled(host));
   EXPECT_TRUE(IsWindow(host));
   EXPECT_EQ(faults, Log{});
@@ -289,6 +287,93 @@ TEST_F(Modal, AWindowDestroyedByItsOwnerIsHiddenWhereUnloadIsRefused) {
   dialog.QueryUnload = nullptr;
   dialog.Unload();
   EXPECT_EQ(faults, Log{});
+}
+
+BOOL CALLBACK KeepBox(HWND window, LPARAM result) {
+  wchar_t name[16];
+  GetClassNameW(window, name, 16);
+  if (std::wstring(name) == L"#32770" && IsWindowVisible(window)) *reinterpret_cast<HWND*>(result) = window;
+  return TRUE;
+}
+
+// The system's box that this thread shows now; null if there is none.
+HWND FindBox() {
+  HWND found = nullptr;
+  EnumThreadWindows(GetCurrentThreadId(), KeepBox, reinterpret_cast<LPARAM>(&found));
+  return found;
+}
+
+class ModalBehindABox : public Modal {
+ protected:
+  // Shows [dialog] modal, [box] in its loop, and does [act] as soon as the box is there, which is then closed.
+  void Show(Dialog& dialog, const std::function<void(host::Services&)>& box, const std::function<void()>& act) {
+    Win32Services all(*toolkit);
+    host::Services services = all;
+    Soon([&] {
+      WhenThereIsABox([&](HWND shown) {
+        act();
+        host_in_box = IsWindowEnabled(host) != FALSE;
+        active_in_box = GetActiveWindow() == shown;
+        PostMessageW(shown, WM_COMMAND, IDOK, 0);
+      });
+      box(services);
+      active_behind_box = GetActiveWindow();
+    });
+    dialog.ShowModal();
+    Pump();
+  }
+  void WhenThereIsABox(std::function<void(HWND)> act) {
+    auto number = std::make_shared<UINT_PTR>();
+    *number = toolkit->StartClock(5, [this, number, act = std::move(act)] {
+      const HWND shown = FindBox();
+      if (!shown) return;
+      const auto run = act;
+      toolkit->StopClock(*number);
+      run(shown);
+    });
+  }
+
+  bool host_in_box = true, active_in_box = false;
+  HWND active_behind_box = nullptr;
+};
+
+void ShowMsgBox(host::Services& services) {
+  services.Prompts.MsgBox("text", host::vbOKOnly, "title");
+}
+
+void ShowInputBox(host::Services& services) {
+  services.Prompts.InputBox("text", "title", "");
+}
+
+TEST_F(ModalBehindABox, AFormHiddenLeavesTheHostDisabled) {
+  for (const auto box : {ShowMsgBox, ShowInputBox}) {
+    Dialog dialog(*toolkit);
+    host_in_box = true;
+    Show(dialog, box, [&] { dialog.Hide(); });
+    EXPECT_FALSE(host_in_box);
+    EXPECT_TRUE(active_in_box);
+    EXPECT_TRUE(IsWindowEnabled(host));
+    EXPECT_EQ(GetActiveWindow(), host);
+    EXPECT_EQ(GetFocus(), field);
+  }
+}
+
+TEST_F(ModalBehindABox, AnotherFormOfOursStaysBehindIt) {
+  for (const auto box : {ShowMsgBox, ShowInputBox}) {
+    Dialog first(*toolkit, "frmFirst"), dialog(*toolkit);
+    first.Show();
+    bool first_in_box = true;
+    Show(dialog, box, [&] {
+      dialog.Hide();
+      first_in_box = IsWindowEnabled(toolkit->WindowOf(first)) != FALSE;
+    });
+    EXPECT_FALSE(first_in_box);
+    EXPECT_FALSE(host_in_box);
+    EXPECT_TRUE(active_in_box);
+    EXPECT_TRUE(IsWindowEnabled(toolkit->WindowOf(first)));
+    EXPECT_TRUE(IsWindowEnabled(host));
+    EXPECT_EQ(GetActiveWindow(), toolkit->WindowOf(first));
+  }
 }
 
 TEST_F(Modal, TheEndOfTheProgramEndsTheLoopAndIsPassedOn) {

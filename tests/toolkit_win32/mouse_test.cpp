@@ -46,6 +46,23 @@ TEST_F(MouseTest, ACaptureLostWhileThePressIsToldIsToldBehindIt) {
   EXPECT_EQ(told, (Log{"MouseDown", "MouseUp 1 outside"}));
 }
 
+TEST_F(MouseTest, TheReleaseBehindALostCaptureIsNotToldAgain) {
+  Show();
+  PressOn(pic);
+  ReleaseCapture();
+  PostMouse(WindowOf(pic), WM_LBUTTONUP, Middle(WindowOf(pic)));
+  EXPECT_EQ(told, (Log{"MouseDown", "MouseUp 1 outside"}));
+  told.clear();
+  Click(pic);
+  EXPECT_EQ(told, (Log{"MouseDown", "MouseUp 1", "Click"}));
+}
+
+TEST_F(MouseTest, AButtonThatWentDownElsewhereIsNotTold) {
+  Show();
+  PostMouse(WindowOf(pic), WM_RBUTTONUP, Middle(WindowOf(pic)));
+  EXPECT_EQ(told, Log{});
+}
+
 TEST_F(MouseTest, AReleaseIsToldOnce) {
   Show();
   Click(pic);
