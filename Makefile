@@ -43,11 +43,11 @@ addin-test: addin
 	@scripts/install-packages scripts/packages-addin-test.txt
 	cmake --build build/addin64 -j $(JOBS)
 	scripts/addin-tests build/addin64 build/wine64
-	scripts/test-install build/windows build/wine64 --64
+	scripts/test-install build/windows build/addin64 build/wine64 --64
 	@if wine=$$(scripts/wine-32); then \
 	  cmake --build build/addin32 -j $(JOBS) && \
 	  WINE=$$wine WINEARCH=win32 scripts/addin-tests build/addin32 build/wine32 && \
-	  WINE=$$wine WINEARCH=win32 scripts/test-install build/windows build/wine32; \
+	  WINE=$$wine WINEARCH=win32 scripts/test-install build/windows build/addin32 build/wine32; \
 	else \
 	  echo "The 32-bit tests were not run: this machine has no 32-bit Wine ('make addin-test-32' brings one)."; \
 	fi

@@ -42,6 +42,7 @@ if not defined PROGRAMS set "PROGRAMS=%ProgramFiles%"
 set "TO=%PROGRAMS%\%NAME%"
 
 :registrar
+if /i "%FROM%"=="%TO%\" goto itself
 set "LIBRARY=%FROM%corvane.dll"
 if "%BITS%"=="64" set "LIBRARY=%FROM%x64\corvane.dll"
 set "REGISTRAR=%SystemRoot%\System32\regsvr32.exe"
@@ -100,6 +101,9 @@ exit /b 0
 if not defined QUIET pause
 exit /b 0
 
+:itself
+echo Corvane cannot be installed from the folder "%TO%" into itself. Unpack the zip into another one.
+goto stop
 :incomplete
 echo Files are missing beside install.cmd. Unpack the whole zip into a folder and run install.cmd from there.
 goto stop

@@ -49,7 +49,7 @@ set "REGISTRAR=%SystemRoot%\System32\regsvr32.exe"
 if exist "%SystemRoot%\SysWOW64\regsvr32.exe" set "REGISTRAR=%SystemRoot%\SysWOW64\regsvr32.exe"
 set "WIDE=%SystemRoot%\System32\regsvr32.exe"
 if exist "%SystemRoot%\Sysnative\regsvr32.exe" set "WIDE=%SystemRoot%\Sysnative\regsvr32.exe"
-if not exist "%TO%corvane.dll" goto settings
+if not exist "%TO%corvane.dll" goto lost
 rem While Visual Basic uses the library it cannot be written, not even as it is; then nothing changes.
 set "COPY=%TEMP%\corvane-%RANDOM%%RANDOM%.tmp"
 attrib -r "%TO%corvane.dll" >nul 2>nul
@@ -67,20 +67,42 @@ if "%errorlevel%"=="0" goto settings
 rem A library of 64 bit is refused by the 32-bit program.
 start "" /wait "%WIDE%" %HOW% "%TO%corvane.dll"
 if not "%errorlevel%"=="0" goto notunregistered
+goto settings
+
+rem The library went before it was unregistered: what names it still is taken away for it. Classes of 32-bit and of 64-bit
+rem programs stand apart, each program named reg.exe sees those of its own width.
+:lost
+set "STAYS="
+set "USER=HKEY_CURRENT_USER"
+set "ROOT=%USER%"
+if "%SCOPE%"=="machine" set "ROOT=HKEY_LOCAL_MACHINE"
+set "CLASSES=%ROOT%\Software\Classes"
+set "CLASS=CLSID\{8C3B7E52-4D1F-4B7A-9E65-2F0C61A7D94B}"
+set "VERSIONS=%USER%\Software\Microsoft\Visual Basic"
+set "REG=%SystemRoot%\System32\reg.exe"
+set "OTHERREG=%SystemRoot%\SysWOW64\reg.exe"
+if exist "%SystemRoot%\Sysnative\reg.exe" set "OTHERREG=%SystemRoot%\Sysnative\reg.exe"
+if not exist "%OTHERREG%" set "OTHERREG=%REG%"
+call :forget "%REG%"
+call :forget "%OTHERREG%"
+if defined STAYS goto notunregistered
+call :has %ROOT%
+if errorlevel 1 "%REG%" delete "%CLASSES%\corvane.Connect" /f >nul 2>nul
+call :has %USER%
+if errorlevel 1 call :has HKEY_LOCAL_MACHINE
+if not errorlevel 1 goto settings
+"%REG%" delete "%VERSIONS%\6.0\Addins\corvane.Connect" /f >nul 2>nul
+call :clear "%REG%" "%VERSIONS%\6.0\Addins"
+call :clear "%REG%" "%VERSIONS%\6.0"
+call :clear "%REG%" "%VERSIONS%"
 
 :settings
 rem Another Corvane of this user still needs them.
 reg query "HKCU\Software\Microsoft\Visual Basic\6.0\Addins\corvane.Connect" >nul 2>nul
 if "%errorlevel%"=="0" goto remove
-set "SETTINGS=Software\VB and VBA Program Settings"
-reg delete "HKCU\%SETTINGS%\corvane" /f >nul 2>nul
-rem The key above is shared by all programs in Visual Basic: it goes when it was read, and nothing is in it.
-set "READ="
-set "USED="
-for /f "delims=" %%L in ('reg query "HKCU\%SETTINGS%" 2^>nul ^&^& echo read') do (
-  if "%%L"=="read" (set "READ=1") else if not "%%L"=="HKEY_CURRENT_USER\%SETTINGS%" set "USED=1"
-)
-if defined READ if not defined USED reg delete "HKCU\%SETTINGS%" /f >nul 2>nul
+set "SETTINGS=HKEY_CURRENT_USER\Software\VB and VBA Program Settings"
+reg delete "%SETTINGS%\corvane" /f >nul 2>nul
+call :clear reg "%SETTINGS%"
 
 :remove
 set "STAYS="
@@ -101,6 +123,33 @@ if not exist "%TO%%~1" exit /b 0
 del /f /q "%TO%%~1" 2>nul
 if exist "%TO%%~1" set "STAYS=%~1"
 exit /b 0
+
+:forget
+set "LINE="
+for /f "delims=" %%L in ('%~1 query "%CLASSES%\%CLASS%\InprocServer32" /ve 2^>nul') do set "LINE=%%L"
+if not defined LINE exit /b 0
+set "LINE=%LINE:*REG_SZ    =%"
+if /i not "%LINE%"=="%TO%corvane.dll" exit /b 0
+"%~1" delete "%CLASSES%\%CLASS%" /f >nul 2>nul
+if errorlevel 1 set "STAYS=1"
+call :clear "%~1" "%CLASSES%\CLSID"
+exit /b 0
+
+rem A key that programs share: it goes when it was read, and nothing is in it.
+:clear
+set "READ="
+set "USED="
+for /f "delims=" %%L in ('%~1 query %2 2^>nul ^&^& echo read') do (
+  if "%%L"=="read" (set "READ=1") else if not "%%L"=="%~2" set "USED=1"
+)
+if defined READ if not defined USED "%~1" delete %2 /f >nul 2>nul
+exit /b 0
+
+rem 0 when a root has the class for programs of any width
+:has
+"%REG%" query "%1\Software\Classes\%CLASS%" >nul 2>nul
+if errorlevel 1 "%OTHERREG%" query "%1\Software\Classes\%CLASS%" >nul 2>nul
+exit /b %errorlevel%
 
 :stay
 if not defined QUIET pause
