@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "environment/control_items.h"
 #include "environment/designer_frame.h"
 #include "environment/designer_tab_pages.h"
 #include "environment/designer_tree.h"
@@ -348,6 +349,8 @@ class PropertyList : public host::Properties {
   long Count() override { return static_cast<long>(Rows().size()); }
 
   host::Ref<host::Property> Item(const host::Index& index) override {
+    if (const auto* name = std::get_if<std::string>(&index))
+      if (auto items = ItemsProperty(place_, *name)) return items;
     return std::make_shared<ListedProperty>(place_, Find(index));
   }
 
