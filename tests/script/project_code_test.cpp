@@ -25,7 +25,7 @@ TEST_F(ProjectCode, ACountBeyondTheEndIsClipped) {
 }
 
 TEST_F(ProjectCode, ReadCodeOnlyReads) {
-  RunCode("READCODE(\"modCsv\",1,5)\n=READCODE(\"modCsv\",1,5)");
+  RunCode("=READCODE(\"modCsv\",1,500)\n=READCODE(\"modCsv\",1,5)");
   EXPECT_EQ(SaveAll(), Saved());
 }
 
