@@ -229,6 +229,10 @@ class CommandLine {
     script->add_option("--answer", script_.answers, "the answers to its boxes, in order: a text, ok, or cancel")
         ->allow_extra_args(false);
     script->add_option("--param", script_.parameters, "its parameters, in order")->allow_extra_args(false);
+    auto* project = script->add_option("--project", script_.project, "the project or group it works on (.vbp, .vbg)");
+    script->add_option("--component", script_.component, "the component that is selected, as Me")->needs(project);
+    script->add_flag("--save", script_.save, "save what it changed; without it nothing is saved")->needs(project);
+    script->add_flag("--quiet", script_.quiet, "do not show what it changed");
     script->add_option("--library", script_.library,
                        "folder of LibCode.txt and WorkShop; the installed one if left out");
     script->add_flag("--plan", script_.plan, "put out the statements in place of running them");

@@ -5,11 +5,14 @@
 
 #include "cli/plain_services.h"
 #include "cli/script_boxes.h"
+#include "cli/script_project.h"
 #include "cli/script_surroundings.h"
+#include "cli/shown_path.h"
 #include "environment/disk_files.h"
 #include "runtime/code_page.h"
 #include "script/frm_lib.h"
 #include "script/marks.h"
+#include "script/project_access.h"
 #include "script/script_text.h"
 
 namespace corvane::cli {
@@ -48,6 +51,30 @@ std::string Parameters(const ScriptOptions& options) {
   return joined;
 }
 
+// False, with a line on [errors], where it cannot be opened.
+bool OpenProject(ScriptProject& project, const ScriptOptions& options, std::ostream& errors) {
+  if (options.project.empty()) return true;
+  try {
+    project.Open(options.project, errors);
+  } catch (const host::Error& error) {
+    TellFailure(errors, options.project, error);
+    return false;
+  }
+  if (options.component.empty()) return true;
+  const std::string name = runtime::AnsiCodePage().FromUtf8(options.component);
+  if (host::PassOverErrors([&] { project.Select(name); })) return true;
+  errors << options.project << ": there is no component " << options.component << '\n';
+  return false;
+}
+
+// False where a file could not be written.
+bool TellAndSave(ScriptProject& project, const ScriptOptions& options, std::ostream& errors) {
+  if (options.project.empty()) return true;
+  const bool collected = project.Collect(errors);
+  if (!options.quiet) project.TellChanges(errors);
+  return collected && (!options.save || project.Save(errors));
+}
+
 }  // namespace
 
 int RunScriptFile(const std::string& file_bytes, const ScriptOptions& options, std::ostream& out,
@@ -56,11 +83,13 @@ int RunScriptFile(const std::string& file_bytes, const ScriptOptions& options, s
   PlainServices plain;
   const host::Services given = plain;
   if (!options.library.empty()) given.App.Path = environment::WindowsPath(options.library);
+  ScriptProject project(given.Files, options.code_page);
+  if (!OpenProject(project, options, errors)) return 1;
   ScriptLoop loop;
   ScriptBoxes boxes(errors, options.json, {options.answers.begin(), options.answers.end()}, given.App.Title);
   host::Services services{given.Clipboard, boxes, given.Settings, given.App,
                           given.Screen,    loop,  given.Files,    given.Pictures};
-  NoProject project;
+  script::ProjectAccess access(project.Environment(), services);
   WorkshopTexts workshop(services);
   NoObjects objects;
   LocalClock clock;
@@ -69,8 +98,8 @@ int RunScriptFile(const std::string& file_bytes, const ScriptOptions& options, s
   NoResultWindow result;
   DeletingPlatform platform;
   std::string param_exchange;
-  script::Surroundings around{services, project, workshop, objects, clock,    project,
-                              workshop, forms,   debug,    result,  platform, param_exchange};
+  script::Surroundings around{services, access, workshop, objects, clock,    access,
+                              workshop, forms,  debug,    result,  platform, param_exchange};
   script::frmLib lib(around);
   lib.Errors().SetBox([&](const auto& message, const auto& flat) { return boxes.ErrorBox(message, flat); });
   lib.ShowPlan(options.plan);
@@ -78,8 +107,9 @@ int RunScriptFile(const std::string& file_bytes, const ScriptOptions& options, s
   loop.lib = &lib;
   const Interrupts interrupts;
   lib.RunScriptText(script::WithLineEnds(file_bytes));
-  out << lib.ResultText();
-  return boxes.ErrorCameUp() ? 1 : 0;
+  out << lib.ResultText() << std::flush;
+  const bool written = TellAndSave(project, options, errors);
+  return written && !boxes.ErrorCameUp() ? 0 : 1;
 }
 
 }  // namespace corvane::cli

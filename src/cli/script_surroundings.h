@@ -9,37 +9,6 @@
 
 namespace corvane::cli {
 
-// No project is open: every list and text of one is empty, and what would change one fails.
-class NoProject : public script::IdeAccess, public script::IdeCommands {
- public:
-  std::string ProjectName() override { return {}; }
-  std::string ProjectFileName() override { return {}; }
-  std::string Components(const std::string&) override { return {}; }
-  std::string GetProp(script::ErrorReport&, const std::string&) override { return {}; }
-  void SetProp(script::ErrorReport&, const std::string&, const std::string&) override { Fail(); }
-  std::string FindLine(script::ErrorReport&, const std::string&) override { return {}; }
-  std::string Declaration(script::ErrorReport&, const std::string&) override { return {}; }
-  std::string ProcLines(script::ErrorReport&, const std::string&) override { return {}; }
-  std::string CodeLines(script::ErrorReport&, const std::string&) override { return {}; }
-  std::string ReadCode(script::ErrorReport&, const std::string&) override { return {}; }
-  std::string GetSelection(script::ErrorReport&, const std::string&) override { return {}; }
-  std::string Add(script::ErrorReport&, const std::string&) override { return {}; }
-  std::string SetPicture(script::ErrorReport&, const std::string&) override { return {}; }
-
-  void Replace(script::ErrorReport&, const std::string&, const std::string&) override { Fail(); }
-  void Create(script::ErrorReport&, const std::string&, const std::string&) override { Fail(); }
-  void Remove(script::ErrorReport&, const std::string&) override { Fail(); }
-  void ReplaceLine(script::ErrorReport&, const std::string&) override { Fail(); }
-  void DeleteCode(script::ErrorReport&, const std::string&) override { Fail(); }
-  void InsertCode(script::ErrorReport&, const std::string&) override { Fail(); }
-  void WriteResult(script::ErrorReport&, const std::string&, std::string_view) override { Fail(); }
-  bool GoCodeLine(script::ErrorReport&, const std::string&) override { return false; }
-  void Open(script::ErrorReport&, const std::string&) override { Fail(); }
-
- private:
-  [[noreturn]] static void Fail() { throw runtime::Error(runtime::kObjectNotSet); }
-};
-
 // The workshop without its window: its edit box is empty until PUTCODE fills it.
 class WorkshopTexts : public script::Workshop, public script::WorkshopWindow {
  public:
