@@ -1,5 +1,6 @@
 // The designer of a form, its controls and their properties.
 #include "com/collection.h"
+#include "com/texts.h"
 
 namespace corvane::com {
 
@@ -20,6 +21,19 @@ class WrappedProperty : public host::Property, public Wrapped {
   void SetObject(const host::Variant& object) override {
     const bool nothing = std::holds_alternative<std::monostate>(object);
     object_.Put(L"Object", nothing ? Argument(host::Ref<runtime::Object>()) : FromVariant(object));
+  }
+};
+
+// An object of a property: a collection of properties, or whatever members it has.
+class WrappedProperties : public WrappedCollection<host::Properties, host::Property>, public host::LateBound {
+ public:
+  using WrappedCollection::WrappedCollection;
+  host::Variant Call(const std::string& member, const std::vector<host::Variant>& arguments) override {
+    std::vector<com::Value> values;
+    for (const host::Variant& argument : arguments)
+      values.push_back(std::holds_alternative<std::monostate>(argument) ? com::Value(Missing())
+                                                                        : FromVariant(argument));
+    return ToVariant(object_.GetNamed(ToWide(member), values));
   }
 };
 
@@ -93,7 +107,7 @@ host::Ref<host::Property> Wrap(const Value& value) {
 
 template <>
 host::Ref<host::Properties> Wrap(const Value& value) {
-  return MakeWrapped<WrappedCollection<host::Properties, host::Property>>(value);
+  return MakeWrapped<WrappedProperties>(value);
 }
 
 template <>

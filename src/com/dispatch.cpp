@@ -61,6 +61,14 @@ DISPID Dispatch::IdOf(const wchar_t* member) {
   return found.id;
 }
 
+Value Dispatch::GetNamed(const std::wstring& member, const std::vector<Value>& arguments) {
+  if (!object_) throw host::Error(runtime::kObjectNotSet);
+  DISPID id = DISPID_UNKNOWN;
+  LPOLESTR name = const_cast<LPOLESTR>(member.c_str());
+  Check(object_->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT, &id));
+  return Invoke(id, DISPATCH_METHOD | DISPATCH_PROPERTYGET, arguments.data(), arguments.size());
+}
+
 Value Dispatch::Invoke(DISPID id, WORD how, const Value* values, size_t count) {
   // The call may let go of this wrapper: it may run any handler of the system.
   const ComPointer<IDispatch> object = object_;

@@ -36,6 +36,8 @@ class Dispatch {
     const Value values[] = {Value(arguments)..., Value()};
     Invoke(IdOf(member), DISPATCH_METHOD, values, sizeof...(arguments));
   }
+  // Reads or calls a member whose name and arguments are known at run time alone. It is looked up each time.
+  Value GetNamed(const std::wstring& member, const std::vector<Value>& arguments);
   // Writes a property; [indices] are those of a property with arguments.
   template <class... Indices>
   void Put(const wchar_t* member, const Value& value, const Indices&... indices) {

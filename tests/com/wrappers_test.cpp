@@ -102,6 +102,11 @@ TEST_F(Wrappers, AProjectHasANameAFileAndComponents) {
   ExpectText("get name()", "Name", [&] { return project->Name(); });
   ExpectText("get filename()", "FileName", [&] { return project->FileName(); });
   ExpectObject<host::VBComponents>("get vbcomponents()", "VBComponents", [&] { return project->VBComponents(); });
+  ExpectDone("call addtoolboxprogid(\"A.B\")", "AddToolboxProgID", [&] { project->AddToolboxProgID("A.B"); });
+  ExpectDone("call addtoolboxprogid(\"A.B\", \"c.ocx\")", "AddToolboxProgID",
+             [&] { project->AddToolboxProgID("A.B", "c.ocx"); });
+  ExpectDone("call addfromfile(\"C:\\a.vbp\")", "AddFromFile",
+             [&] { As<host::VBProjects>()->AddFromFile("C:\\a.vbp"); });
 }
 
 TEST_F(Wrappers, ComponentsAreAddedFromKindsAndFilesAndRemoved) {
@@ -121,6 +126,7 @@ TEST_F(Wrappers, AComponentIsAskedMemberByMember) {
   ExpectNumber("get type()", "Type", [&] { return static_cast<long>(component->Type()); });
   ExpectObject<host::CodeModule>("get codemodule()", "CodeModule", [&] { return component->CodeModule(); });
   ExpectObjectOrNothing<host::VBForm>("get designer()", "Designer", [&] { return component->Designer(); });
+  ExpectText("get designerid()", "DesignerID", [&] { return component->DesignerID(); });
   ExpectCall("get hasopendesigner()", "HasOpenDesigner", true, [&] { EXPECT_TRUE(component->HasOpenDesigner()); });
   ExpectObject<host::Window>("get designerwindow()", "DesignerWindow", [&] { return component->DesignerWindow(); });
   ExpectObject<host::Properties>("get properties()", "Properties", [&] { return component->Properties(); });
@@ -268,6 +274,19 @@ TEST_F(Wrappers, AnObjectPropertyGivesPropertiesAndTakesThemByReference) {
   ExpectDone("putref object = <font>; put object = <font>", "Object", [&] { property->SetObject(value); });
 }
 
+TEST_F(Wrappers, AnObjectPropertyIsCalledByTheNamesOfItsMembers) {
+  auto property = As<host::Property>();
+  host::Variant value;
+  ExpectCall("get object()", "Object", Of(object_), [&] { value = property->Object(); });
+  const auto items = std::dynamic_pointer_cast<host::LateBound>(std::get<std::shared_ptr<runtime::Object>>(value));
+  ASSERT_TRUE(items);
+  ExpectCall("get add(, \"new\", \"New\", \"0\", 2)", "Add", Value(), [&] {
+    items->Call("Add", {{}, "new", "New", "0", 2L});
+  });
+  ExpectNumber("get count()", "Count", [&] { return runtime::ToLong(items->Call("Count", {})); });
+  EXPECT_EQ(ErrorOf([&] { items->Call("Nothing", {}); }), 438);
+}
+
 TEST_F(Wrappers, ABarHasANameAndControls) {
   auto bar = As<host::CommandBar>();
   ExpectText("get name()", "Name", [&] { return bar->Name(); });
@@ -299,6 +318,7 @@ TEST_F(Wrappers, AnObjectOfAnotherMakeIsATypeMismatch) {
     host::ComponentType Type() override { return host::ComponentType::StdModule; }
     Ref<host::CodeModule> CodeModule() override { return nullptr; }
     Ref<host::VBForm> Designer() override { return nullptr; }
+    std::string DesignerID() override { return {}; }
     bool HasOpenDesigner() override { return false; }
     Ref<host::Window> DesignerWindow() override { return nullptr; }
     Ref<host::Properties> Properties() override { return nullptr; }

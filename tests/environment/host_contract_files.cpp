@@ -30,6 +30,26 @@ TEST_P(HostContract, OneOfSeveralProjectsIsActive) {
   EXPECT_EQ(ErrorOf([&] { first->Item("Extra"); }), 9);
 }
 
+TEST_P(HostContract, AProjectIsOpenedFromItsFileBesideTheOthers) {
+  const auto projects = Open({{"Main", false, ""}})->VBProjects();
+  const std::string path = fixture_->PutFile("Third.vbp", "Type=Exe\r\nName=\"Third\"\r\n");
+  projects->AddFromFile(path);
+  EXPECT_EQ(projects->Count(), 2);
+  EXPECT_EQ(projects->Item("Third")->FileName(), path);
+  EXPECT_NE(ErrorOf([&] { projects->AddFromFile(fixture_->PathOf("None.vbp")); }), 0);
+  EXPECT_EQ(vbe_->VBProjects()->Count(), 2);
+}
+
+TEST_P(HostContract, AControlWhoseLibraryIsUnknownStaysOutOfTheToolbox) {
+  const auto project = Open({{"Main", false, ""}})->ActiveVBProject();
+  EXPECT_NE(ErrorOf([&] { project->AddToolboxProgID("No.Such"); }), 0);
+  EXPECT_NE(ErrorOf([&] { project->AddToolboxProgID("No.Such", "none.ocx"); }), 0);
+}
+
+TEST_P(HostContract, AModuleHasNoDesignerOfAnotherMake) {
+  EXPECT_EQ(Open({{"Main", false, ""}})->ActiveVBProject()->VBComponents()->Item("Main")->DesignerID(), "");
+}
+
 TEST_P(HostContract, ASavedProjectHasAFullPathAndSoHaveItsComponents) {
   const auto project = Open({{"Main", false, ""}})->ActiveVBProject();
   EXPECT_NE(project->FileName().find('\\'), std::string::npos);

@@ -15,11 +15,20 @@ void Root(Call& call) {
   call.Return(host::Ref<host::VBE>(call.stage.environment));
 }
 
+void AddToolboxProgID(Call& call) {
+  call.Target<VBProject>().AddToolboxProgID(call.Text(0), call.Has(1) ? call.Text(1) : std::string());
+}
+
 }  // namespace
 
 template <>
 const ObjectTable& TableOf<VBProjects>() {
-  static const ObjectTable table = {"VBProjects", CollectionMembers<VBProjects>(0xa, {Get("VBE", 0x14, &Root)})};
+  static const ObjectTable table = {
+      "VBProjects", CollectionMembers<VBProjects>(
+                        0xa, {
+                                 Get("VBE", 0x14, &Root),
+                                 Method("AddFromFile", 0x82, kForward<VBProjects, &VBProjects::AddFromFile>, 1, 2),
+                             })};
   return table;
 }
 
@@ -28,6 +37,7 @@ const ObjectTable& TableOf<VBProject>() {
   static const ObjectTable table = {"VBProject",
                                     {
                                         Get("Name", 0x0, kForward<VBProject, &VBProject::Name>),
+                                        Method("AddToolboxProgID", 0x69, &AddToolboxProgID, 1, 2),
                                         Get("FileName", 0x6d, kForward<VBProject, &VBProject::FileName>),
                                         Get("VBE", 0x7a, &Root),
                                         Get("VBComponents", 0x87, kForward<VBProject, &VBProject::VBComponents>),
@@ -67,6 +77,7 @@ const ObjectTable& TableOf<VBComponent>() {
           Get("VBE", 0x35, kForward<VBComponent, &VBComponent::VBE>),
           Get("HasOpenDesigner", 0x37, kForward<VBComponent, &VBComponent::HasOpenDesigner>),
           Get("Properties", 0x38, kForward<VBComponent, &VBComponent::Properties>),
+          Get("DesignerID", 0x3f, kForward<VBComponent, &VBComponent::DesignerID>),
           Method("DesignerWindow", 0x39, kForward<VBComponent, &VBComponent::DesignerWindow>),
       },
       true};
