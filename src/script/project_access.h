@@ -49,7 +49,8 @@ class ProjectAccess : public IdeAccess, public IdeCommands {
   host::Ref<host::CodeModule> Module(ErrorReport& errors, const std::string& name) const;
   host::Ref<host::Properties> PropertiesAt(ErrorReport& errors, const std::string& address) const;
 
-  std::string ControlList(const IdeAddress& address, bool selected) const;
+  // Those of [which], "Controls" or "SelectedVBControls".
+  std::string ControlList(const std::string& component, const std::string& which) const;
   // The first line that holds [text], in any case; 0 if none does.
   static long LineOfText(host::CodeModule& module, const std::string& text);
   // Nothing where the module has no open pane.

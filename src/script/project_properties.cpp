@@ -30,6 +30,13 @@ std::string KindOf(host::VBComponent& component) {
   return {};
 }
 
+constexpr char kSelected[] = "SELECTEDVBCONTROLS";
+
+bool NamesControls(const std::string& word) {
+  const std::string upper = runtime::UCase(word);
+  return upper == kSelected || upper == "CONTROLS";
+}
+
 template <class Controls>
 std::string ListOf(Controls& controls) {
   std::string list;
@@ -71,23 +78,23 @@ Ref<host::Properties> ProjectAccess::PropertiesAt(ErrorReport& errors, const std
   return properties;
 }
 
-std::string ProjectAccess::ControlList(const IdeAddress& address, bool selected) const {
-  const Ref<host::VBForm> designer = targets_.Designer(address.component);
+std::string ProjectAccess::ControlList(const std::string& component, const std::string& which) const {
+  const Ref<host::VBForm> designer = targets_.Designer(component);
   if (!designer) return {};
-  return selected ? ListOf(*designer->SelectedVBControls()) : ListOf(*designer->VBControls());
+  return runtime::UCase(which) == kSelected ? ListOf(*designer->SelectedVBControls()) : ListOf(*designer->VBControls());
 }
 
 std::string ProjectAccess::GetProp(ErrorReport& errors, const std::string& address_and_property) {
   const Parts parts = SplitArguments(address_and_property);
   const IdeAddress address = AddressOf(parts[0]);
-  const std::string control = runtime::UCase(address.control);
-  if (control == "SELECTEDVBCONTROLS" || control == "CONTROLS")
-    return ControlList(address, control == "SELECTEDVBCONTROLS");
+  const std::string property = parts.size() < 2 ? std::string() : parts[1];
+  if (NamesControls(address.control)) return ControlList(address.component, address.control);
+  if (NamesControls(property)) return ControlList(parts[0], property);  // as an expression takes Me.Controls apart
   const Ref<host::Properties> properties = PropertiesAt(errors, parts[0]);
   if (!properties) return {};
-  if (parts.size() < 2 || parts[1].empty()) return AllProperties(*properties);
+  if (property.empty()) return AllProperties(*properties);
   std::string value;
-  host::PassOverErrors([&] { value = ValueText(*properties->Item(parts[1])); });
+  host::PassOverErrors([&] { value = ValueText(*properties->Item(property)); });
   return value;
 }
 

@@ -123,7 +123,7 @@ TEST_F(ProjectProperties, SelectedVBControlsListsThoseThatAreSelected) {
   std::dynamic_pointer_cast<environment::Module>(Component("frmAbout"))->UserSelectControls({1, 3});
   EXPECT_EQ(Value("GETPROP(\"frmAbout.SelectedVBControls\")"), "CommandButton.cmdOk|Label.lblVersion|");
   Select("frmAbout");
-  EXPECT_EQ(Value("Me.SELECTEDVBCONTROLS"), "");  // a property of Me, which it has not
+  EXPECT_EQ(Value("Me.SelectedVBControls"), "CommandButton.cmdOk|Label.lblVersion|");
   EXPECT_EQ(Value("GETPROP(\"me.selectedvbcontrols\")"), "CommandButton.cmdOk|Label.lblVersion|");
 }
 
