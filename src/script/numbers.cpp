@@ -25,6 +25,8 @@ double Digits(std::string_view text) {
 
 // No number begins with another character than these, blanks apart. "$" is the currency sign.
 constexpr std::string_view kFirstOfNumber = " +-.0123456789&($";
+// Nor holds one another than these. To find that out from a failed conversion takes longer than a whole statement.
+constexpr std::string_view kInNumbers = " +-.,0123456789&()$ABCDEFHOabcdefho";
 
 std::string WithoutCurrencySign(std::string_view text) {
   std::string number(text);
@@ -38,6 +40,7 @@ std::string WithoutCurrencySign(std::string_view text) {
 std::optional<double> NumberOf(std::string_view text) {
   if (const double number = Digits(text); number >= 0) return number;
   if (text.empty() || text.size() > kLongestNumber || kFirstOfNumber.find(text[0]) == std::string_view::npos) return {};
+  if (text.find_first_not_of(kInNumbers) != std::string_view::npos) return {};
   std::optional<double> number;
   runtime::PassOverErrors([&] { number = runtime::ToNumber(WithoutCurrencySign(text)); });
   return number;
