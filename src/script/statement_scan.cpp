@@ -117,7 +117,7 @@ class Scan {
 
   void Take() { text_ += source_[at_++]; }
   bool StandsAt(size_t place, std::string_view text) const {
-    return source_.compare(std::min(place, source_.size()), text.size(), text) == 0;
+    return place < source_.size() && source_[place] == text.front() && source_.compare(place, text.size(), text) == 0;
   }
   bool Stands(std::string_view text) const { return StandsAt(at_, text); }
   long Column() const { return static_cast<long>(text_.size()) + 1; }

@@ -55,6 +55,7 @@ class Translation {
   bool EndIf();
   bool If();
   void BlockIf();
+  bool IsTooDeep();
   void OneLineIf(long then_column, std::string tail);
 
   bool SelectCase();

@@ -130,6 +130,14 @@ TEST(TranslatorErrors, ExitFunctionDeepInAOneLineIfKnowsNoFunction) {
             Lines{"There is no Function for Exit Function operator."});
 }
 
+TEST(TranslatorErrors, AnEndlessChainOfIfsEnds) {
+  std::string code;
+  for (int i = 0; i < 20'000; ++i) code += "IF a THEN ";
+  const Translated translated(code + "b=1");
+  EXPECT_EQ(translated.Messages(), Lines{"IFs are nested too deep."});
+  EXPECT_TRUE(translated.state.stopFlag);
+}
+
 TEST(TranslatorErrors, ALiteralThatIsNotClosed) {
   ExpectFailure({"y=2:x=[[ a", "There are not ']]' symbols.", {"y=2:", "x=[[ a:"}, {}});
 }
