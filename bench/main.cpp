@@ -1,12 +1,16 @@
-// usage: corvane_bench SAMPLE.vbp PROGRAM [analysis|listing|search|memory|painting ...]
+// usage: corvane_bench TREE PROGRAM [analysis|listing|search|memory|painting|scripts ...]
+// TREE is the folder of the sources, PROGRAM our command line.
 // Measures everything, or what is named, in one run and prints one table. Exit status: 0 measured (aims met or not), 1
 // could not measure.
 #include <QApplication>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
 #include <filesystem>
+#include <iterator>
 #include <set>
+#include <string_view>
 
 #include "bench/measurements.h"
 
@@ -33,21 +37,39 @@ class ScratchFolder {
   std::string path_;
 };
 
-void MeasureAll(const std::string& sample, const std::string& program, const std::set<std::string>& wanted) {
-  ScratchFolder scratch;
-  bench::Setting setting{{}, program, std::filesystem::read_symlink("/proc/self/exe").string(), scratch.Path()};
+struct Measurement {
+  const char* name;
+  void (*measure)(const bench::Setting&, bench::Table&);
+  bool on_projects;
+};
+
+constexpr Measurement kMeasurements[] = {
+    {"analysis", bench::MeasureAnalysis, true}, {"listing", bench::MeasureListing, true},
+    {"search", bench::MeasureSearch, true},     {"memory", bench::MeasureMemory, true},
+    {"painting", bench::MeasurePainting, true}, {"scripts", bench::MeasureScripts, false},
+};
+
+bool IsMeasurement(std::string_view name) {
+  return std::any_of(std::begin(kMeasurements), std::end(kMeasurements),
+                     [&](const Measurement& measurement) { return measurement.name == name; });
+}
+
+void GenerateProjects(bench::Setting& setting) {
   for (long lines : {100'000L, 1'000'000L, 2'000'000L}) {
     std::fprintf(stderr, "generating %ld lines\n", lines);
-    const std::string folder = scratch.Path() + "/" + std::to_string(lines);
-    setting.projects.push_back(bench::GenerateProject(sample, folder, lines));
+    const std::string folder = setting.scratch + "/" + std::to_string(lines);
+    setting.projects.push_back(
+        bench::GenerateProject(setting.tree + "/samples/stockroom/Stockroom.vbp", folder, lines));
   }
+}
+
+void MeasureAll(const std::string& tree, const std::string& program, const std::set<std::string>& wanted) {
+  ScratchFolder scratch;
+  bench::Setting setting{{}, tree, program, std::filesystem::read_symlink("/proc/self/exe").string(), scratch.Path()};
   bench::Table table;
-  const std::pair<const char*, void (*)(const bench::Setting&, bench::Table&)> measurements[] = {
-      {"analysis", bench::MeasureAnalysis}, {"listing", bench::MeasureListing},   {"search", bench::MeasureSearch},
-      {"memory", bench::MeasureMemory},     {"painting", bench::MeasurePainting},
-  };
-  for (const auto& [name, measure] : measurements) {
+  for (const auto& [name, measure, on_projects] : kMeasurements) {
     if (!wanted.empty() && !wanted.contains(name)) continue;
+    if (on_projects && setting.projects.empty()) GenerateProjects(setting);
     std::fprintf(stderr, "measuring %s\n", name);
     measure(setting, table);
   }
@@ -61,9 +83,11 @@ int main(int argc, char** argv) {
   try {
     if (argc == 3 && std::string(argv[1]) == "--memory-of") return bench::OpenAndTellMemory(argv[2]);
     if (argc < 3) {
-      std::fprintf(stderr, "usage: %s SAMPLE.vbp PROGRAM [MEASUREMENT...]\n", argv[0]);
+      std::fprintf(stderr, "usage: %s TREE PROGRAM [MEASUREMENT...]\n", argv[0]);
       return 2;
     }
+    for (int i = 3; i < argc; ++i)
+      if (!IsMeasurement(argv[i])) throw std::runtime_error("there is no measurement " + std::string(argv[i]));
     QApplication application(argc, argv);
     MeasureAll(std::filesystem::absolute(argv[1]).string(), std::filesystem::absolute(argv[2]).string(),
                {argv + 3, argv + argc});

@@ -1,4 +1,4 @@
-// What is measured. Each adds its rows to the table; all work on generated projects of three sizes.
+// What is measured. Each adds its rows to the table; all but the scripts work on generated projects of three sizes.
 #pragma once
 
 #include <string>
@@ -12,6 +12,7 @@ namespace corvane::bench {
 // The projects, the smallest first, and where our programs are.
 struct Setting {
   std::vector<GeneratedProject> projects;
+  std::string tree;     // the sources
   std::string program;  // corvane
   std::string self;     // this program
   std::string scratch;  // folder for files of the moment
@@ -34,5 +35,8 @@ int OpenAndTellMemory(const std::string& project);
 
 // The code list on the Qt canvas, without a display.
 void MeasurePainting(const Setting& setting, Table& table);
+
+// `corvane script` as a whole process, and the same programs in other languages.
+void MeasureScripts(const Setting& setting, Table& table);
 
 }  // namespace corvane::bench

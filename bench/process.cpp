@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <stdexcept>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -21,6 +22,10 @@ namespace {
   setenv("LC_ALL", "C", 1);
   if (chdir(folder.c_str()) == 0 && dup2(output, STDOUT_FILENO) >= 0) execvp(words[0], words.data());
   _exit(127);
+}
+
+double InSeconds(const timeval& time) {
+  return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
 }
 
 }  // namespace
@@ -41,7 +46,9 @@ Finished Run(const std::vector<std::string>& arguments, const std::string& folde
     }
     close(ends[0]);
     int state = 0;
-    waitpid(child, &state, 0);
+    rusage used{};
+    wait4(child, &state, 0, &used);
+    finished.processor = InSeconds(used.ru_utime) + InSeconds(used.ru_stime);
     finished.status = WIFEXITED(state) ? WEXITSTATUS(state) : 128;
   });
   if (finished.status == 127) throw std::runtime_error("cannot run " + arguments[0]);

@@ -7,7 +7,8 @@
 namespace corvane::bench {
 
 struct Finished {
-  double seconds = 0;  // from before it was started until its output had ended and it was gone
+  double seconds = 0;    // from before it was started until its output had ended and it was gone
+  double processor = 0;  // seconds that it used of the processor
   int status = 0;
   long lines = 0;      // of its standard output
   std::string output;  // its standard output, as far as it was asked for

@@ -55,6 +55,10 @@ void Table::AtMost(const std::string& what, const std::string& ours, const std::
   Add(what, ours, peer, ratio, Formatted("<= %.2f", aim), ratio <= aim);
 }
 
+void Table::Beside(const std::string& what, const std::string& ours, const std::string& peer, double ratio) {
+  rows_.push_back({what, ours, peer, ratio > 0 ? Formatted("%.2f", ratio) : "", "", ""});
+}
+
 void Table::Note(const std::string& text) {
   rows_.push_back({text});
 }
@@ -85,6 +89,10 @@ std::string Megabytes(double bytes_per_second) {
 
 std::string Milliseconds(double seconds) {
   return Formatted(seconds < 0.1 ? "%.3f ms" : "%.0f ms", seconds * 1e3);
+}
+
+std::string Nanoseconds(double seconds) {
+  return Formatted("%.0f ns", seconds * 1e9);
 }
 
 std::string Count(long value) {

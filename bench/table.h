@@ -40,6 +40,8 @@ class Table {
   // [ratio] is better the larger it is for AtLeast, and the smaller it is for AtMost.
   void AtLeast(const std::string& what, const std::string& ours, const std::string& peer, double ratio, double aim);
   void AtMost(const std::string& what, const std::string& ours, const std::string& peer, double ratio, double aim);
+  // A row without an aim; without a ratio, where that is 0.
+  void Beside(const std::string& what, const std::string& ours, const std::string& peer = {}, double ratio = 0);
   // A line of text between the rows.
   void Note(const std::string& text);
 
@@ -55,6 +57,7 @@ class Table {
 
 std::string Megabytes(double bytes_per_second);  // "112 MB/s"
 std::string Milliseconds(double seconds);        // "1.27 ms"
+std::string Nanoseconds(double seconds);         // "640 ns"
 std::string Count(long value);                   // "2 001 578"
 
 }  // namespace corvane::bench
