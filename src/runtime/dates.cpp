@@ -355,7 +355,8 @@ std::string FormatDate(double date, std::string_view picture) {
 
 bool IsDatePicture(std::string_view picture) {
   bool part = false;
-  for (size_t at = 0; at < (picture = Unnamed(picture)).size(); ++at) {
+  picture = Unnamed(picture);
+  for (size_t at = 0; at < picture.size(); ++at) {
     const char c = picture[at];
     if (c == '\\') {
       ++at;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "runtime/error.h"
+#include "tests/support/processor_time.h"
 
 namespace corvane::runtime {
 namespace {
@@ -92,6 +93,10 @@ TEST(Dates, APictureOfDigitsIsNone) {
   for (const char* picture : {"dd", "Short Date", "hh:nn", "c"}) EXPECT_TRUE(IsDatePicture(picture)) << picture;
   for (const char* picture : {"0000000", "#,##0.00", "", "\"day\" 0", "\\d", "0 d"})
     EXPECT_FALSE(IsDatePicture(picture)) << picture;
+}
+
+TEST(Dates, ALongPictureIsReadInOneWalk) {
+  EXPECT_LT(tests::SecondsOf([] { EXPECT_TRUE(IsDatePicture(std::string(100'000, 'a') + "d")); }), 2);
 }
 
 }  // namespace
