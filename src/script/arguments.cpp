@@ -1,7 +1,5 @@
 #include "script/arguments.h"
 
-#include <algorithm>
-
 #include "script/marks.h"
 
 namespace corvane::script {
@@ -14,20 +12,6 @@ std::vector<std::string> SplitArguments(std::string_view list) {
     if (end == std::string_view::npos) return parts;
     list.remove_prefix(end + 1);
   }
-}
-
-std::string NextArgument(std::string& list) {
-  size_t end = list.find(listSep);
-  const bool separated = end != std::string::npos;
-  bool quoted = false;
-  for (size_t at = 0; !separated && at < list.size() && end == std::string::npos; ++at) {
-    if (list[at] == '"') quoted = !quoted;
-    if (!quoted && std::string_view(":,) \r").find(list[at]) != std::string_view::npos) end = at;
-  }
-  end = std::min(end, list.size());
-  std::string part = list.substr(0, end);
-  list.erase(0, end + (separated ? 1 : 0));
-  return part;
 }
 
 size_t LengthOfExprPart(std::string_view text, bool at_plus) {

@@ -10,10 +10,6 @@ namespace corvane::script {
 // What stands between the separators of an evaluated list; one part without any.
 std::vector<std::string> SplitArguments(std::string_view list);
 
-// Takes the first part off [list]: with a listSep in it, what stands before the first one, which goes too; without,
-// what stands before the first ":", ",", ")", blank or line end outside double quotes, which stays.
-std::string NextArgument(std::string& list);
-
 // Takes the first expression off [text] with what ends it: ":" or "," at bracket depth 0, a ")" below it, and with
 // [at_plus] an "&" or "+" at depth 0, all outside double quotes.
 std::string NextExprPart(std::string& text, bool at_plus);

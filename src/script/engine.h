@@ -5,6 +5,7 @@
 #include "script/assignment.h"
 #include "script/debug_step.h"
 #include "script/expressions.h"
+#include "script/limits.h"
 #include "script/outside.h"
 #include "script/report_error.h"
 #include "script/result_window.h"
@@ -33,7 +34,7 @@ struct Engine {
   int nested_runs = 0;            // runs of code that are under way
   long statements_unyielded = 0;  // over all of them
   bool label_found = false;       // by a search, since the block reader looked
-  size_t longest_text = 64u << 20;
+  size_t longest_text = kLongestText;
 };
 
 }  // namespace corvane::script

@@ -1,8 +1,10 @@
 // The functions of texts.
+#include "runtime/collate.h"
 #include "runtime/error.h"
 #include "runtime/format_value.h"
 #include "runtime/strings.h"
 #include "script/function_table.h"
+#include "script/limits.h"
 #include "script/numbers.h"
 #include "script/oem_text.h"
 #include "script/sort_lines.h"
@@ -15,30 +17,32 @@ namespace {
 using Argument = const std::string&;
 using runtime::CStr;
 
-constexpr long kLongestSpace = 1L << 28;
-constexpr long kOutOfStringSpace = 14;
-
 std::string Position(long position) {
   return std::to_string(position);
 }
 
-std::string Spaces(FunctionUse&, Argument count) {
-  if (LongOf(count) > kLongestSpace) throw runtime::Error(kOutOfStringSpace, "Out of string space");
-  return runtime::Space(LongOf(count));
+void CheckLength(size_t length) {
+  if (length > kLongestText) throw TooLong();
 }
 
+std::string Spaces(FunctionUse&, Argument count) {
+  const long length = LongOf(count);
+  if (length > 0) CheckLength(static_cast<size_t>(length));
+  return runtime::Space(length);
+}
+
+// The result is reckoned first: it may be as long as the text times [to].
 std::string ReplaceAll(FunctionUse&, Argument text, Argument from, Argument to) {
-  size_t count = 0;
-  for (size_t at = from.empty() ? std::string::npos : text.find(from); at != std::string::npos;
-       at = text.find(from, at + from.size()))
-    ++count;
-  if (count * to.size() > static_cast<size_t>(kLongestSpace))
-    throw runtime::Error(kOutOfStringSpace, "Out of string space");
+  if (!from.empty() && to.size() > from.size()) {
+    size_t length = text.size();
+    for (size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + from.size()))
+      CheckLength(length += to.size() - from.size());
+  }
   return runtime::Replace(text, from, to);
 }
 
 std::string CompareTexts(Argument left, Argument right, bool with_case) {
-  const int order = with_case ? left.compare(right) : runtime::UCase(left).compare(runtime::UCase(right));
+  const int order = with_case ? left.compare(right) : runtime::CompareAsListed(left, right);
   return std::to_string(order < 0 ? -1 : order > 0 ? 1 : 0);
 }
 

@@ -2,6 +2,7 @@
 
 #include "runtime/strings.h"
 #include "script/arguments.h"
+#include "script/limits.h"
 
 namespace corvane::script {
 
@@ -61,12 +62,13 @@ class Writer {
   void Cut(std::string_view end) {
     output_.append("\"").append(end).append(runtime::kCrLf).append("+\"");
     columns_ = 0;
+    if (output_.size() > kLongestText) throw TooLong();
   }
 
   // ":name": the piece is closed, the name joined to it, and the piece opened again.
   bool TakeName(std::string_view& text) {
     if (output_.size() <= 2) return false;
-    const size_t length = LengthOfExprPart(text.substr(1), false);
+    const size_t length = LengthOfExprPart(text.substr(1, kLongestName + 1), false);
     if (length < 1 || length > kLongestName) return false;
     const std::string name(text.substr(1, length));
     const std::string joined = StartsText(name) ? R"("+"'"+)" + name + R"(+"'"+")" : R"("+CStr()" + name + R"()+")";

@@ -4,6 +4,7 @@
 
 #include "script/arguments.h"
 #include "script/marks.h"
+#include "tests/support/processor_time.h"
 
 namespace corvane::script {
 namespace {
@@ -47,6 +48,33 @@ TEST(VbStrings, ANameOfATextIsQuotedAndTidied) {
   EXPECT_EQ(VBSTR("name=:txtA.Text,", true), "\"name='\"+txtA.Text\"',\"");
 }
 
+TEST(VbStrings, ANameOfATextInTheMiddleIsNotJoinedToTheRest) {
+  EXPECT_EQ(VBSTR("where name=:sName, id=1", true), "\"where name='\"+sName\"', id=1\"");
+}
+
+TEST(VbStrings, ANameEndsAtACommaAColonABracketOrTheEnd) {
+  EXPECT_EQ(VBSTR("(a=:nA)", true), "\"(a=\"+CStr(nA)+\")\"");
+  EXPECT_EQ(VBSTR("xx :nA:", true), "\"xx \"+CStr(nA)+\":\"");
+  EXPECT_EQ(VBSTR("id=:nId order by 1", true), "\"id=\"+CStr(nId order by 1)") << "a blank does not end it";
+}
+
+TEST(VbStrings, APlusInFrontOfAQuoteGoesWithIt) {
+  EXPECT_EQ(VBSTR("a+\"b\"", false), "\"ab\"\"\"");
+  EXPECT_EQ(UNVBSTR(VBSTR("a+\"b\"", false)), "ab\"");
+  EXPECT_EQ(VBSTR("a\r\n\"b", false), "\"a\" + vbCrLf _\r\n\"b\"");
+}
+
+TEST(VbStrings, ATextThatIsCutAtItsEndLeavesAnOpenContinuation) {
+  EXPECT_EQ(VBSTR("a\r\n", false), "\"a\" + vbCrLf _\r\n");
+  EXPECT_EQ(VBSTR(std::string(66, 'x'), false), "\"" + std::string(66, 'x') + "\" _\r\n");
+}
+
+TEST(VbStrings, ALongTextOfNamesIsReadInOneWalk) {
+  std::string text = "xx";
+  for (int i = 0; i < 100'000; ++i) text += ":(";
+  EXPECT_LT(tests::SecondsOf([&] { EXPECT_EQ(VBSTR(text, true).substr(0, 8), "\"xx:(:(:"); }), 2);
+}
+
 TEST(VbStrings, ANameAtTheEndIsJoinedOnBothSides) {
   EXPECT_EQ(VBSTR("name=:sName", true), "\"name='\"+sName+\"'\"");
   EXPECT_EQ(VBSTR("id=:nId", true), "\"id=\"+CStr(nId)");
@@ -79,12 +107,6 @@ TEST(Arguments, ListsAreSplitAtTheirSeparators) {
   using Parts = std::vector<std::string>;
   EXPECT_EQ(SplitArguments("a" + sep + sep + "b"), (Parts{"a", "", "b"}));
   EXPECT_EQ(SplitArguments(""), Parts{""});
-  std::string list = "a" + sep + "b c";
-  EXPECT_EQ(NextArgument(list), "a");
-  EXPECT_EQ(NextArgument(list), "b");
-  EXPECT_EQ(list, " c");
-  list = "\"x, y\",z";
-  EXPECT_EQ(NextArgument(list), "\"x, y\"");
 }
 
 TEST(Arguments, ExpressionsEndAtSeparatorsOutsideBrackets) {

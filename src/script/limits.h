@@ -1,0 +1,17 @@
+// How large the texts of a script may grow. What would be larger is an error before it is made.
+#pragma once
+
+#include <cstddef>
+
+#include "runtime/error.h"
+
+namespace corvane::script {
+
+inline constexpr size_t kLongestText = 64u << 20;  // characters
+
+inline runtime::Error TooLong() {
+  constexpr long kOutOfStringSpace = 14;
+  return {kOutOfStringSpace, "Out of string space"};
+}
+
+}  // namespace corvane::script
