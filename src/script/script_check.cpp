@@ -10,6 +10,7 @@
 #include "script/numbers.h"
 #include "script/operators.h"
 #include "script/source_statements.h"
+#include "script/translator.h"
 
 namespace corvane::script {
 
@@ -58,6 +59,15 @@ bool CountsDown(const SourceStatement& source, const Surroundings&) {
   return parts && BeginsWith(parts->step, "-");
 }
 
+// Only a "-" in front of the step turns the comparison over.
+bool CountsDownUnseen(const SourceStatement& source, const Surroundings&) {
+  const auto parts = BeginsWith(source.upper, "FOR ") ? ReadFor(source.statement.text) : std::nullopt;
+  if (!parts) return false;
+  const size_t value = std::min(parts->step.find_first_not_of("=( "), parts->step.size());
+  const string_view step = string_view(parts->step).substr(value);
+  return BeginsWith(step, "0-") || (value > 0 && BeginsWith(step, "-"));
+}
+
 bool IsTwinLoop(const SourceStatement&, const Surroundings& around) {
   return around.OpenedTwin();
 }
@@ -68,11 +78,16 @@ bool IsBareWord(const SourceStatement& source) {
   for (const char* word :
        {"ELSE:", "ELSEIF", "NEXT:", "WEND:", "LOOP:", "CONTINUE:", "STOPEX:", "STOP:", "EXIT:", "DEBUG:"})
     if (BeginsWith(source.upper, word)) return false;
-  return source.upper.front() != labelMark;
+  return source.upper.front() != labelMark && source.upper.front() != ':';
+}
+
+bool IsReservedWord(const SourceStatement& source, const Surroundings&) {
+  return IsBareWord(source) && source.upper.size() > 2 && Holds(kBareWords, source.upper);
 }
 
 bool IsUnsoughtLabel(const SourceStatement& source, const Surroundings& around) {
-  return IsBareWord(source) && !around.IsSought(source.upper) && source.upper.size() > 2;
+  return IsBareWord(source) && source.upper.size() > 2 && !Holds(kBareWords, source.upper) &&
+         !around.IsSought(source.upper);
 }
 
 bool IsLetterAlone(const SourceStatement& source, const Surroundings&) {
@@ -156,8 +171,9 @@ bool HasSignBehindOperator(const SourceStatement& source, const Surroundings&) {
 
 bool HasNameOfOneLetter(const SourceStatement& source, const Surroundings&) {
   const string_view text = source.upper;
-  if (BeginsWith(text, "SUB ") || BeginsWith(text, "CALL ")) return false;
-  for (size_t at = 1; at + 1 < text.size(); ++at) {
+  if (BeginsWith(text, "SUB ")) return false;
+  const size_t first = BeginsWith(text, "CALL ") ? text.find('(') : 0;  // the name that is called may have one letter
+  for (size_t at = first; ++at + 1 < text.size();) {
     const bool begins = IsOperator(text[at - 1]) || text[at - 1] == '(';
     if (begins && text[at + 1] == '(' && !IsOperator(text[at]) && !IsIn("()\"|", text[at])) return true;
   }
@@ -196,11 +212,15 @@ struct OddRule {
 constexpr OddRule kRules[] = {
     {CountsDown, "a descending FOR runs until its variable is 0, whatever its limit",
      "count with WHILE: i=start, WHILE i>=limit, i=i-1 as the last statement, WEND"},
+    {CountsDownUnseen, "a FOR whose step does not begin with its \"-\" counts up: it runs no pass at all",
+     "count with WHILE: i=start, WHILE i>=limit, i=i-1 as the last statement, WEND"},
     {IsTwinLoop,
      "a loop beside another one inside a loop has the other's label: its end jumps back into that one for ever",
      "put it into a SUB that is defined before the outer loop"},
     {IsUnsoughtLabel, "a single word is a label, and no GOTO names it: nothing happens",
      "a statement with its blank (END IF) or a command with its brackets (SHOWPLAN())"},
+    {IsReservedWord, "a word of the language, or the end of one, is no label: it does nothing, and no GOTO finds it",
+     "a label of another name, or the whole statement"},
     {IsLetterAlone, "a single letter is dropped", "a label of two letters or more"},
     {HasMoreBehindIf, "what stands behind the \":\" of a one-line IF runs in any case",
      "IF ... THEN at the end of its line, a line for each statement, END IF"},
@@ -223,6 +243,9 @@ constexpr OddRule kRules[] = {
      "DIM before the loop, ERASE of the array in it"},
 };
 
+constexpr char kLostToComment[] = "what stands before a /* */ comment is dropped with it";
+constexpr char kBeforeComment[] = "the comment on a line of its own, or behind an apostrophe";
+
 }  // namespace
 
 std::optional<std::vector<OddPlace>> CheckScript(string_view script) {
@@ -233,6 +256,7 @@ std::optional<std::vector<OddPlace>> CheckScript(string_view script) {
   Surroundings around(all);
   for (const SourceStatement& source : all) {
     around.Pass(source);
+    if (source.lost_line != 0) places.push_back({source.lost_line, kLostToComment, kBeforeComment});
     for (const OddRule& rule : kRules)
       if (rule.applies(source, around)) places.push_back({source.line, rule.does, rule.write});
   }

@@ -38,6 +38,15 @@ size_t HeadOfIf(const std::string& statement) {
   return statement.size() - head < 2 ? 0 : head;
 }
 
+// The first place that stands in none of the comments at the front of [text], and is no blank or line end.
+size_t BehindComments(std::string_view text) {
+  for (size_t at = 0;;) {
+    at = std::min(text.find_first_not_of(kSeparators, at), text.size());
+    if (text.substr(at, 2) != "/*") return at;
+    at = text.find("*/", at + 1) + 2;
+  }
+}
+
 class Collecting {
  public:
   explicit Collecting(std::vector<SourceStatement>& all) : all_(all) {}
@@ -69,8 +78,13 @@ class Collecting {
     const std::string_view used = text.substr(0, size - unread.Size());
     colon_before_ = taken && used.ends_with(':');
     if (taken) {
-      const size_t marks = marks_ + Marks(used.substr(0, all_.back().statement.start));
-      all_.back().line = lines[std::min(marks, lines.size() - 1)];
+      const auto line_at = [&](size_t at) {
+        return lines[std::min(marks_ + Marks(used.substr(0, at)), lines.size() - 1)];
+      };
+      const std::string_view before = used.substr(0, all_.back().statement.start);
+      all_.back().line = line_at(before.size());
+      const size_t lost = BehindComments(before);
+      if (lost < before.size()) all_.back().lost_line = line_at(lost);
       TakeTails();
     }
     marks_ += Marks(used);

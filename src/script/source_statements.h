@@ -11,6 +11,7 @@ namespace corvane::script {
 
 struct SourceStatement {
   long line = 0;                // where it begins
+  long lost_line = 0;           // of what stood before the comment in front of it, which is dropped with the comment
   Statement statement;          // cleaned
   std::string upper;            // its text in upper case, double quotes in place of strings and literals; of a one-line
                                 // IF up to its THEN

@@ -10,9 +10,6 @@ namespace corvane::script {
 namespace {
 
 constexpr char kSeparators[] = {' ', ':', lineMark, '\0'};
-// Words that are statements. The list is searched as a text: TOP: and FOR: are no labels either.
-constexpr std::string_view kBareWords = "STOPEX:STOP:END CODE:EXIT:EXIT FOR:EXIT WHILE:DEBUG:STEP:";
-
 }  // namespace
 
 std::string TranslateCode(std::string& text, ScriptState& state, ErrorReport& report) {

@@ -36,7 +36,14 @@ std::string OddThing(const std::string& code) {
 
 TEST(ScriptCheck, ADescendingFor) {
   EXPECT_THAT(OddThing("FOR i=3 TO 1 STEP -1\nNEXT"), HasSubstr("descending FOR"));
-  EXPECT_THAT(OddLines("FOR i=1 TO 3 STEP 2\nNEXT"), IsEmpty());
+  for (const char* code : {"FOR i=1 TO 3 STEP 2", "FOR i=1 TO 3 STEP 2-1", "FOR i=1 TO 3 STEP (2)"})
+    EXPECT_THAT(OddLines(code), IsEmpty()) << code;
+}
+
+TEST(ScriptCheck, ADescendingForWhoseStepHidesItsSign) {
+  for (const char* code : {"FOR i=3 TO 1 STEP=-1", "FOR i=3 TO 1 STEP (-1)", "FOR i=3 TO 1 STEP 0-1",
+                           "FOR i=3 TO 1 STEP (0-1)", "FOR i=3 TO 1 step=(-1)"})
+    EXPECT_THAT(OddThing(code), HasSubstr("no pass")) << code;
 }
 
 TEST(ScriptCheck, TwoLoopsSideBySideInALoop) {
@@ -50,9 +57,15 @@ TEST(ScriptCheck, ALoopInABesideALoopInB) {
 }
 
 TEST(ScriptCheck, ASingleWordThatBecomesALabel) {
-  for (const char* word : {"EndIf", "SHOWPLAN", "Printx", "TOP", "FOR"})
-    EXPECT_THAT(OddThing(word), HasSubstr("label")) << word;
+  for (const char* word : {"EndIf", "SHOWPLAN", "Printx"}) EXPECT_THAT(OddThing(word), HasSubstr("label")) << word;
   EXPECT_THAT(OddThing("x"), HasSubstr("dropped"));
+}
+
+TEST(ScriptCheck, AWordOfTheLanguageAsALabel) {
+  for (const char* word : {"TOP", "FOR", "ex", "WHILE", "STEP"}) {
+    EXPECT_THAT(OddThing(word), HasSubstr("is no label")) << word;
+    EXPECT_THAT(OddThing(std::string(word) + "\nGOTO " + word), HasSubstr("is no label")) << word;
+  }
 }
 
 TEST(ScriptCheck, WordsThatAreStatementsAndLabelsThatAreSought) {
@@ -94,6 +107,22 @@ TEST(ScriptCheck, ANameOfOneLetterWithABracket) {
   for (const char* code : {"x=A(1)", "x=2*f(1)", "PRINT(A(1))", "FUNCTION f(aa)", "DIM A()"})
     EXPECT_THAT(OddThing(code), HasSubstr("one letter")) << code;
   for (const char* code : {"A(1)=5", "x=AR(1)", "SUB s(aa)", "CALL s(aa)", "x=\"A(1)\"", "x=(1)"})
+    EXPECT_THAT(OddLines(code), IsEmpty()) << code;
+}
+
+TEST(ScriptCheck, ANameOfOneLetterAmongTheArgumentsOfACall) {
+  for (const char* code : {"CALL ff(g(1))", "CALL s(g(1))", "CALL ff(1,A(1))"})
+    EXPECT_THAT(OddThing(code), HasSubstr("one letter")) << code;
+  EXPECT_THAT(OddLines("CALL s"), IsEmpty());
+}
+
+TEST(ScriptCheck, AStatementBeforeAComment) {
+  for (const char* code :
+       {"x=1 /* n */", "x=1 /* n */\ny=2", "/* m */ x=1 /* n */", "IF a THEN x=1 /* n */", "x=1 /* n */ /* m */ y=2"})
+    EXPECT_THAT(OddThing(code), HasSubstr("comment")) << code;
+  EXPECT_THAT(OddLines("\n/* m\n*/ x=1 /* n\n*/\ny=2"), ElementsAre(4));
+  for (const char* code : {"/* n */ x=1", "/* n */", "x=1\n/* n */", "x=1\n/* n */\n", "x=1:/* n */ /*/ y=2",
+                           "/* m */ /* n */ x=1", "x=\"/* n */\"", "x=1 ' /* n */\ny=2"})
     EXPECT_THAT(OddLines(code), IsEmpty()) << code;
 }
 
