@@ -9,11 +9,14 @@ namespace {
 
 using Argument = const std::string&;
 
-std::string MatchingFiles(FunctionUse& use, Argument pattern) {
-  const long slash = runtime::InStrRev(pattern, "\\");
+constexpr std::string_view kWriteFileSyntax = "WriteFile syntax error.";
+
+// A folder alone stands for all its files, a pattern alone for those of the current one.
+std::string MatchingFiles(FunctionUse& use, Argument path) {
+  const long slash = runtime::InStrRev(path, "\\");
+  const std::string folder = slash == 0 ? "." : runtime::Left(path, slash), pattern = runtime::Mid(path, slash + 1);
   std::string names;
-  for (const std::string& name :
-       use.outside.services.Files.List(runtime::Left(pattern, slash), runtime::Mid(pattern, slash + 1)))
+  for (const std::string& name : use.outside.services.Files.List(folder, pattern.empty() ? "*" : pattern))
     names += name + "|";
   return names;
 }
@@ -23,6 +26,10 @@ std::string ReadFile(FunctionUse& use, Argument name) {
 }
 
 std::string WriteFile(FunctionUse& use, Argument name, Argument text) {
+  if (name.empty()) {
+    use.errors.ReportError(std::string(kWriteFileSyntax));
+    return {};
+  }
   use.outside.services.Files.Write(name, text);
   return "0";
 }
@@ -101,7 +108,7 @@ constexpr FunctionRow kRows[] = {
      .arguments = "name, text",
      .help = "Replaces the file; the result is 0.",
      .two = WriteFile,
-     .other_count = "WriteFile syntax error."},
+     .other_count = kWriteFileSyntax},
     {.key = "READFILE(",
      .arguments = "name, [count]",
      .help = "The whole file, or its first characters.",

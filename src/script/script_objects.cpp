@@ -79,7 +79,8 @@ std::string ScriptObjects::ObjectCall(long place, std::string_view arguments, Ex
   if (index < 1 || index > table_.size()) return {};
   const std::shared_ptr<ScriptObject> object = table_[index - 1];
   const bool connects = runtime::UCase(command) == "SETCONNECTION" && dbObject_;
-  state_.lastValue = connects ? object->SetConnection(*dbObject_) : object->Command(command);
+  runtime::PassOverErrors(
+      [&] { state_.lastValue = connects ? object->SetConnection(*dbObject_) : object->Command(command); });
   return TextOf(state_.lastValue);
 }
 

@@ -54,6 +54,8 @@ const Row kRows[] = {
     {"STRCOMP(\"a\",\"A\",1)", "0"},
     {"STRCOMP(\"a\",\"A\",0)", "1"},
     {"STRCOMP(\"a\",\"A\",5)", ""},
+    {"STRCOMP(\"a_\",\"aB\",1)", "-1"},
+    {"STRCOMP(\"a_\",\"aB\")", "1"},
     {"DAY(\"2/14/2026\")", "14"},
     {"MONTH(\"2/14/2026\")", "2"},
     {"YEAR(\"2/14/2026\")", "2026"},
@@ -65,6 +67,9 @@ const Row kRows[] = {
     {"NOW()", "2/14/2026 12:00:00 PM"},
     {"SPACE(3)", "   "},
     {"SPACE(2000000000)", ""},
+    {"SPACE(67108865)", ""},
+    {"LEN(REPLACE(SPACE(500),\" \",SPACE(500)))", "250000"},
+    {"LEN(REPLACE(SPACE(8193),\" \",SPACE(8193)))", "0"},
     {"CSTR(5)", "5"},
     {"ABS(\"-5.5\")", "5.5"},
     {"ABS(\"x\")", ""},
@@ -83,6 +88,8 @@ const Row kRows[] = {
     {"ADD(\"Form1.tb\",\"1\",\"key\")", "add Form1.tb;1;key"},
     {"SETPICTURE(\"Form1.p\",\"a.bmp\")", "setpicture Form1.p;a.bmp"},
     {"DIR(\"C:\\t\\*.txt\")", "a.txt|b.txt|"},
+    {"DIR(\"C:\\u\\\")", "c|d.e|"},
+    {"DIR(\"C:\\none\\\")", ""},
     {"GETCLIPBOARD()", "clip"},
     {"UBOUND(ar)", "2"},
     {"UBOUND(\"AR\")", "2"},
@@ -122,6 +129,7 @@ TEST_F(BuiltInsTest, EachFunctionGivesWhatItsRowSays) {
   world.services.clipboard.text = "clip";
   world.services.files.Write("C:\\t\\a.txt", "content");
   world.services.files.Write("C:\\t\\b.txt", "");
+  for (const char* name : {"c", "d.e"}) world.services.files.Write(std::string("C:\\u\\") + name, "");
   std::set<std::string> tested;
   for (const Row& row : kRows) {
     world.services.prompts.inputs = {"typed"};
@@ -264,6 +272,20 @@ TEST_F(BuiltInsTest, WriteFileNeedsNameAndTextWithOkAndWithCancel) {
   EXPECT_TRUE(state.stopFlag);
 }
 
+TEST_F(BuiltInsTest, WriteFileNeedsAName) {
+  EXPECT_EQ(Value("WRITEFILE(\"\",\"x\")"), "");
+  errors.cancel = true;
+  EXPECT_EQ(Value("WRITEFILE(\"\",\"\")"), "");
+  EXPECT_EQ(Messages(), (Texts{"WriteFile syntax error.", "WriteFile syntax error."}));
+  EXPECT_TRUE(state.stopFlag);
+}
+
+TEST_F(BuiltInsTest, WriteFileOfNothingEmptiesTheFile) {
+  world.services.files.Write("C:\\a.txt", "content");
+  EXPECT_EQ(Value("WRITEFILE(\"C:\\a.txt\",\"\")"), "0");
+  EXPECT_EQ(world.services.files.Read("C:\\a.txt"), "");
+}
+
 TEST_F(BuiltInsTest, AFunctionThatFailsIsEmptyWithoutAMessage) {
   world.services.clipboard.fail_with = runtime::kPermissionDenied;
   EXPECT_EQ(Primary("GETCLIPBOARD()"), "");
@@ -335,6 +357,37 @@ TEST_F(BuiltInsTest, DbTaskMakesItsObjectOnceAndLendsItsConnection) {
             (Texts{"new Sernith.clsAction", "Sernith.clsAction: INIT:" + std::string(1, listSep) + "C:\\Corvane",
                    "Sernith.clsAction: a", "Sernith.clsAction: b", "new Lib.clsAction",
                    "Lib.clsAction connected with Sernith.clsAction"}));
+}
+
+TEST_F(BuiltInsTest, AFailingCallOfAnObjectIsEmptyWithoutAMessage) {
+  Value("CREATEOBJECT(\"Lib\",\"task\")");
+  Value("DBTASK(\"a\")");
+  world.objects.calls_fail = true;
+  state.lastValue = std::string("before");
+  EXPECT_EQ(Value("task(\"a\")"), "");
+  EXPECT_EQ(Value("\"<\"&task(\"SETCONNECTION\")&\">\""), "<>");
+  EXPECT_EQ(Value("\"<\"&DBTASK(\"b\")&\">\""), "<>");
+  EXPECT_EQ(Messages(), Texts());
+}
+
+TEST_F(BuiltInsTest, AnObjectThatFailsAtItsStartIsNotCreated) {
+  world.objects.calls_fail = true;
+  EXPECT_EQ(Value("CREATEOBJECT(\"sernith\",\"ff\")"), "0");
+  EXPECT_EQ(Messages(), Texts{"Can not create object sernith.clsAction"});
+  EXPECT_EQ(engine.objects.objectNames, "");
+}
+
+TEST_F(BuiltInsTest, AnArrayIsFoundBeforeTheFunctionOfAnObject) {
+  Dim("task()");
+  ASSERT_TRUE(AssignElement("task(1)=5"));
+  Value("CREATEOBJECT(\"Lib\",\"task\")");
+  EXPECT_EQ(Value("task(1)"), "5");
+}
+
+TEST_F(BuiltInsTest, AFunctionOfOneArgumentTakesAListAsItStands) {
+  EXPECT_EQ(Value("LEN(\"a\",\"b\")"), "3");
+  EXPECT_EQ(Value("UCASE(\"a\",\"b\")"), "A;B");
+  EXPECT_EQ(Messages(), Texts());
 }
 
 TEST_F(BuiltInsTest, SetConnectionWithoutAConnectionIsACommand) {

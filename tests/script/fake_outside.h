@@ -74,6 +74,7 @@ class FakeObjects : public ScriptObjectFactory {
  public:
   std::vector<std::string> calls;  // "class: command"
   bool fail = false;
+  bool calls_fail = false;
 
   std::shared_ptr<ScriptObject> CreateObject(const std::string& class_name) override {
     if (fail) throw runtime::Error(runtime::kCannotCreateObject);
@@ -85,10 +86,12 @@ class FakeObjects : public ScriptObjectFactory {
   struct Object : ScriptObject {
     Object(FakeObjects& owner, std::string name) : owner(owner), name(std::move(name)) {}
     Cell Command(const std::string& command) override {
+      if (owner.calls_fail) throw runtime::Error(runtime::kNoSuchMember);
       owner.calls.push_back(name + ": " + command);
       return "did " + command;
     }
     Cell SetConnection(ScriptObject& source) override {
+      if (owner.calls_fail) throw runtime::Error(runtime::kNoSuchMember);
       owner.calls.push_back(name + " connected with " + static_cast<Object&>(source).name);
       return "connected";
     }
