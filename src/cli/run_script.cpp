@@ -75,6 +75,36 @@ bool TellAndSave(ScriptProject& project, const ScriptOptions& options, std::ostr
   return collected && (!options.save || project.Save(errors));
 }
 
+// A run with all that stands around it on the command line.
+struct HeadlessRun {
+  HeadlessRun(const host::Services& given, const ScriptProject& project, const ScriptOptions& options,
+              std::ostream& errors)
+      : boxes(errors, options.json, {options.answers.begin(), options.answers.end()}, given.App.Title),
+        services{given.Clipboard, boxes, given.Settings, given.App, given.Screen, loop, given.Files, given.Pictures},
+        access(project.Environment(), services) {
+    lib.Errors().SetBox([this](const auto& message, const auto& flat) { return boxes.ErrorBox(message, flat); });
+    lib.ShowPlan(options.plan);
+    lib.Parts().state.scriptParams = Parameters(options);
+    loop.lib = &lib;
+  }
+
+  ScriptLoop loop;
+  ScriptBoxes boxes;
+  host::Services services;
+  script::ProjectAccess access;
+  WorkshopTexts workshop{services};
+  NoObjects objects;
+  LocalClock clock;
+  PassedForms forms;
+  NoDebugWindow debug;
+  NoResultWindow result;
+  DeletingPlatform platform;
+  std::string param_exchange;
+  script::Surroundings around{services, access, workshop, objects, clock,    access,
+                              workshop, forms,  debug,    result,  platform, param_exchange};
+  script::frmLib lib{around};
+};
+
 }  // namespace
 
 int RunScriptFile(const std::string& file_bytes, const ScriptOptions& options, std::ostream& out,
@@ -85,31 +115,12 @@ int RunScriptFile(const std::string& file_bytes, const ScriptOptions& options, s
   if (!options.library.empty()) given.App.Path = environment::WindowsPath(options.library);
   ScriptProject project(given.Files, options.code_page);
   if (!OpenProject(project, options, errors)) return 1;
-  ScriptLoop loop;
-  ScriptBoxes boxes(errors, options.json, {options.answers.begin(), options.answers.end()}, given.App.Title);
-  host::Services services{given.Clipboard, boxes, given.Settings, given.App,
-                          given.Screen,    loop,  given.Files,    given.Pictures};
-  script::ProjectAccess access(project.Environment(), services);
-  WorkshopTexts workshop(services);
-  NoObjects objects;
-  LocalClock clock;
-  PassedForms forms;
-  NoDebugWindow debug;
-  NoResultWindow result;
-  DeletingPlatform platform;
-  std::string param_exchange;
-  script::Surroundings around{services, access, workshop, objects, clock,    access,
-                              workshop, forms,  debug,    result,  platform, param_exchange};
-  script::frmLib lib(around);
-  lib.Errors().SetBox([&](const auto& message, const auto& flat) { return boxes.ErrorBox(message, flat); });
-  lib.ShowPlan(options.plan);
-  lib.Parts().state.scriptParams = Parameters(options);
-  loop.lib = &lib;
+  HeadlessRun run(given, project, options, errors);
   const Interrupts interrupts;
-  lib.RunScriptText(script::WithLineEnds(file_bytes));
-  out << lib.ResultText() << std::flush;
+  run.lib.RunScriptText(script::WithLineEnds(file_bytes));
+  out << run.lib.ResultText() << std::flush;
   const bool written = TellAndSave(project, options, errors);
-  return written && !boxes.ErrorCameUp() ? 0 : 1;
+  return written && !run.boxes.ErrorCameUp() ? 0 : 1;
 }
 
 }  // namespace corvane::cli
