@@ -100,6 +100,50 @@ TEST_F(ShippedLibrary, AWizardChangesTheProject) {
             std::string::npos);
 }
 
+TEST_F(ShippedLibrary, AnErrorHandlerIsOfferedToTheProcedureAtTheCursor) {
+  Select("modFormat");
+  const host::Ref<host::CodePane> pane = Code("modFormat")->CodePane();
+  const long line = Code("modFormat")->ProcBodyLine("ParseBin", host::ProcKind::Proc) + 10;
+  pane->Show();
+  pane->SetSelection({line, 1, line, 1});
+  world.services.prompts.inputs = {"ParseBin"};
+  lib.Execute("{ERRHANDLER}");
+  ASSERT_EQ(world.services.prompts.input_boxes.size(), 1u);
+  EXPECT_EQ(world.services.prompts.input_boxes[0].default_text, "ParseBin");
+  EXPECT_EQ(Errors(), Lines());
+  EXPECT_NE(SaveAll().at("modFormat.bas").find("    On Error GoTo ParseBin_Error\r\n"), std::string::npos);
+}
+
+TEST_F(ShippedLibrary, TheSameMessageGetsOneConstantAndAnotherOfItsNameASecond) {
+  Code("modApi")->InsertLines(
+      1000,
+      "Sub Say()\r\n  MsgBox \"Is \"\"it\"\" ok?\"\r\n  MsgBox (\"no\")\r\n"
+      "  x = MsgBox(\"Is \"\"it\"\" ok?\", 4)\r\n  ' MsgBox \"none\"\r\n  MsgBox \"Is it ok\"\r\nEnd Sub");
+  Select("modApi");
+  lib.Execute("{MESSAGES}");
+  EXPECT_EQ(Errors(), Lines());
+  const std::string saved = SaveAll().at("modApi.bas");
+  EXPECT_NE(saved.find("Option Explicit\r\n"
+                       "Private Const MSG_IS_IT_OK As String = \"Is \"\"it\"\" ok?\"\r\n"
+                       "Private Const MSG_IS_IT_OK_2 As String = \"Is it ok\"\r\n"),
+            std::string::npos);
+  EXPECT_NE(saved.find("Sub Say()\r\n  MsgBox MSG_IS_IT_OK\r\n  MsgBox (\"no\")\r\n"
+                       "  x = MsgBox(MSG_IS_IT_OK, 4)\r\n  ' MsgBox \"none\"\r\n  MsgBox MSG_IS_IT_OK_2\r\nEnd Sub"),
+            std::string::npos);
+}
+
+TEST_F(ShippedLibrary, SqlOnTheClipboardBecomesAString) {
+  world.services.clipboard.text = "SELECT Name FROM Articles WHERE Number = :sNumber AND Price > :price";
+  world.services.prompts.answers = {host::vbCancel};
+  lib.Execute("{SQLSTRING}");
+  EXPECT_EQ(Errors(), Lines());
+  const std::string source =
+      "sSQL = \"SELECT Name FROM Articles WHERE Number = '\" & sNumber & \"' AND Price > \" & price";
+  EXPECT_EQ(world.services.clipboard.text, source);
+  lib.Execute("{SQLSTRING}");
+  EXPECT_EQ(world.services.clipboard.text, "SELECT Name FROM Articles WHERE Number = 'sNumber' AND Price > price");
+}
+
 TEST_F(ShippedLibrary, TheShortListNamesWizardsOfTheMenu) {
   const Lines menu = Menu(), list = LinesOf("PopupLst.txt");
   EXPECT_GE(list.size(), 3u);
