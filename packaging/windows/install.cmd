@@ -50,6 +50,7 @@ if "%BITS%"=="32" if exist "%SystemRoot%\SysWOW64\regsvr32.exe" set "REGISTRAR=%
 if "%BITS%"=="64" if exist "%SystemRoot%\Sysnative\regsvr32.exe" set "REGISTRAR=%SystemRoot%\Sysnative\regsvr32.exe"
 
 if not exist "%FROM%files.txt" goto incomplete
+if not exist "%FROM%userfiles.txt" goto incomplete
 if not exist "%LIBRARY%" goto incomplete
 if not exist "%TO%\" mkdir "%TO%" 2>nul
 set "FIRST=1"
@@ -62,6 +63,12 @@ if not "%errorlevel%"=="0" goto nofolder
 set "COPIED_corvane.dll=1"
 set "FAILED="
 for /f "usebackq delims=" %%F in ("%FROM%files.txt") do call :copyone "%%F"
+if defined FAILED goto notcopied
+rem installed.txt tells size and time of each file of the library as it was put here: one that differs is the user's.
+del /f /q "%TO%\installed.new" 2>nul
+for /f "usebackq delims=" %%F in ("%FROM%userfiles.txt") do call :placeone "%%F"
+if exist "%TO%\installed.txt" for /f "usebackq tokens=1 delims=*" %%F in ("%TO%\installed.txt") do call :keepone "%%F"
+if exist "%TO%\installed.new" move /y "%TO%\installed.new" "%TO%\installed.txt" >nul 2>nul
 if defined FAILED goto notcopied
 echo %SCOPE%>"%TO%\scope.txt"
 if not exist "%TO%\scope.txt" set "FAILED=scope.txt"
@@ -83,6 +90,45 @@ call :copy "%FROM%%~1" "%TO%\%~1"
 if "%errorlevel%"=="0" (set "COPIED_%~1=1") else set "FAILED=%~1"
 exit /b 0
 
+rem A file of the library goes where there is none, or one that is as it was installed.
+:placeone
+call :stampof "%TO%\%~1"
+call :isours "%~1"
+if exist "%TO%\%~1" if not defined OURS goto yours
+for %%D in ("%TO%\%~1") do if not exist "%%~dpD" mkdir "%%~dpD" 2>nul
+call :copy "%FROM%%~1" "%TO%\%~1"
+if not "%errorlevel%"=="0" set "FAILED=%~1"
+if defined FAILED exit /b 0
+set "PLACED_%~1=1"
+set "COPIED_%~1=1"
+call :stampof "%TO%\%~1"
+>>"%TO%\installed.new" echo %~1*%STAMP%
+exit /b 0
+:yours
+set "PLACED_%~1=1"
+echo "%TO%\%~1" is yours and stays as it is.
+exit /b 0
+
+rem What an older Corvane brought, and this one does not, stays known as long as it is as it was.
+:keepone
+if defined PLACED_%~1 exit /b 0
+call :stampof "%TO%\%~1"
+call :isours "%~1"
+if defined OURS >>"%TO%\installed.new" echo %~1*%STAMP%
+exit /b 0
+
+rem Size and time of a file; nothing where there is none.
+:stampof
+set "STAMP="
+if exist "%~1" set "STAMP=%~z1 %~t1"
+exit /b 0
+
+:isours
+set "OURS="
+if not exist "%TO%\installed.txt" exit /b 0
+for /f "usebackq delims=" %%L in ("%TO%\installed.txt") do if /i "%%L"=="%~1*%STAMP%" set "OURS=1"
+exit /b 0
+
 rem What was copied from a medium that cannot be written may not be written itself.
 :copy
 if exist "%~2" attrib -r "%~2" >nul 2>nul
@@ -93,6 +139,10 @@ rem An installation that was not there before leaves nothing behind when it fail
 :takeback
 if not defined FIRST exit /b 0
 for /f "usebackq delims=" %%F in ("%FROM%files.txt") do if defined COPIED_%%F del /f /q "%TO%\%%F" 2>nul
+for /f "usebackq delims=" %%F in ("%FROM%userfiles.txt") do if defined COPIED_%%F del /f /q "%TO%\%%F" 2>nul
+for %%D in (Icons Pictures Wizards) do rmdir "%TO%\WorkShop\%%D" 2>nul
+rmdir "%TO%\WorkShop" 2>nul
+del /f /q "%TO%\installed.txt" 2>nul
 del /f /q "%TO%\scope.txt" 2>nul
 rmdir "%TO%" 2>nul
 exit /b 0

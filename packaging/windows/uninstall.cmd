@@ -107,8 +107,12 @@ call :clear reg "%SETTINGS%"
 :remove
 set "STAYS="
 for /f "usebackq delims=" %%F in ("%TO%files.txt") do call :removeone "%%F"
-rem The next run needs scope.txt and files.txt.
+if exist "%TO%installed.txt" for /f "usebackq tokens=1,2 delims=*" %%F in ("%TO%installed.txt") do call :removeours "%%F" "%%G"
+for %%D in (Icons Pictures Wizards) do rmdir "%TO%WorkShop\%%D" 2>nul
+rmdir "%TO%WorkShop" 2>nul
+rem The next run needs scope.txt, installed.txt and files.txt.
 if defined STAYS goto notremoved
+del /f /q "%TO%installed.txt" 2>nul
 del /f /q "%TO%scope.txt" 2>nul
 del /f /q "%TO%files.txt" 2>nul
 echo Corvane is removed. If files of your own are in "%TO%", they stay there.
@@ -120,6 +124,14 @@ del /f /q "%TO%uninstall.cmd" & rmdir "%TO%" 2>nul & exit /b 0
 if "%~1"=="files.txt" exit /b 0
 if "%~1"=="uninstall.cmd" exit /b 0
 if not exist "%TO%%~1" exit /b 0
+del /f /q "%TO%%~1" 2>nul
+if exist "%TO%%~1" set "STAYS=%~1"
+exit /b 0
+
+rem A file of the library that is as it was installed; one that was changed is the user's.
+:removeours
+if not exist "%TO%%~1" exit /b 0
+for %%F in ("%TO%%~1") do if not "%%~zF %%~tF"=="%~2" exit /b 0
 del /f /q "%TO%%~1" 2>nul
 if exist "%TO%%~1" set "STAYS=%~1"
 exit /b 0
