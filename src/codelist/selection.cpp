@@ -2,6 +2,7 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "codelist/reading_commands.h"
 #include "codelist/uc_list_box.h"
 #include "runtime/strings.h"
 
@@ -9,6 +10,7 @@ namespace corvane::codelist {
 
 namespace {
 
+constexpr int kMenuKey = 93;
 constexpr uint32_t kDragDelay = 300;  // milliseconds between the press and the first step
 
 }  // namespace
@@ -54,16 +56,32 @@ void ucListBox::SelectAll() {
   Repaint();
 }
 
-// With no line selected the clip book keeps what it holds.
-void ucListBox::CopySelection() {
+void ucListBox::ClearSelection() {
   if (SelectionIsLocked()) return;
-  std::string copied;
+  for (long line = 1; line <= store.Count(); ++line) store.SetState(line, store.State(line) & ~kSelected);
+  Repaint();
+}
+
+void ucListBox::CopySelection() {
+  MoveSelectionToClipBook("");
+}
+
+// Behind a gap.
+void ucListBox::AddSelection() {
+  MoveSelectionToClipBook(clipBook + "\r\n\r\n");
+}
+
+// With no line selected the clip book keeps what it holds.
+void ucListBox::MoveSelectionToClipBook(std::string copied) {
+  if (SelectionIsLocked()) return;
+  bool any = false;
   for (long line = 1; line <= store.Count(); ++line) {
     if (!store.IsSelected(line)) continue;
+    any = true;
     store.SetState(line, store.State(line) & ~kSelected);
     copied.append(List(line)).append(runtime::kCrLf);
   }
-  if (!copied.empty()) clipBook = copied;
+  if (any) clipBook = std::move(copied);
   Repaint();
   runtime::PassOverErrors([this] { services.Clipboard.Clear(); });
   runtime::PassOverErrors([this] { services.Clipboard.SetText(clipBook); });
@@ -131,7 +149,14 @@ void ucListBox::pic_MouseUp(int button, Twips x, Twips y) {
   EndDrag();
   mouseX = x;
   mouseY = y;
-  if (button == forms::vbRightButton && store.Has(currentLine) && !loading) ClickLevel = store.LineLevel(currentLine);
+  if (button == forms::vbRightButton) reading->OpenMenu(x, y);
+}
+
+// As a click on the first character of the current line.
+void ucListBox::OpenMenuByKey() {
+  mouseX = gutterWidth;
+  mouseY = RowTop(currentRow);
+  reading->OpenMenu(mouseX, mouseY + rowHeight);
 }
 
 void ucListBox::EndDrag() {
@@ -188,6 +213,11 @@ void ucListBox::pic_KeyDown(int& key, int shift) {
       return PageUp();
     case forms::vbKeyPageDown:
       return PageDown();
+    case kMenuKey:
+      return OpenMenuByKey();
+    case forms::vbKeyF10:
+      if (shift != forms::vbShiftMask) break;
+      return OpenMenuByKey();
     case forms::vbKeyHome:
       return GoFirst();
     case forms::vbKeyEnd:
@@ -196,15 +226,6 @@ void ucListBox::pic_KeyDown(int& key, int shift) {
       break;
   }
   key = pressed;
-}
-
-void ucListBox::pic_KeyPress(int& key) {
-  if (store.Count() == 0) return;
-  if (key == forms::vbKeyReturn) DblClick();
-  if (key == forms::vbKeyEscape && !KeepOnEscape) {
-    SetVisible(false);
-    EscapeClicked();
-  }
 }
 
 }  // namespace corvane::codelist

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "codelist/raised.h"
+#include "codelist/reading_commands.h"
 #include "forms/icons.h"
 
 namespace corvane::codelist {
@@ -28,7 +29,8 @@ ucListBox::ucListBox(forms::Container& container, std::string name, host::Servic
       services(services),
       img(forms::Icon("list-current")),
       img1(forms::Icon("list-group")),
-      img2(forms::Icon("list-item")) {
+      img2(forms::Icon("list-item")),
+      reading(std::make_unique<ReadingCommands>(*this)) {
   pic.SetFont(SurfaceFont());
   pic.SetBorderStyle(0);
   pic.SetBackColor(kPlain);
@@ -43,6 +45,8 @@ ucListBox::ucListBox(forms::Container& container, std::string name, host::Servic
   Layout();
 }
 
+ucListBox::~ucListBox() = default;
+
 void ucListBox::BindEvents() {
   pic.MouseDown = [this](int button, int, Twips x, Twips y) { pic_MouseDown(button, x, y); };
   pic.MouseMove = [this](int button, int shift, Twips x, Twips y) { pic_MouseMove(button, shift, x, y); };
@@ -52,7 +56,7 @@ void ucListBox::BindEvents() {
     if (store.Count() > 0) DblClick();
   };
   pic.KeyDown = [this](int& key, int shift) { pic_KeyDown(key, shift); };
-  pic.KeyPress = [this](int& key) { pic_KeyPress(key); };
+  pic.KeyPress = [this](int& key) { reading->KeyTyped(key); };
   pic.GotFocus = [this] { FocusChanged(true); };
   pic.LostFocus = [this] { FocusChanged(false); };
   pic.Paint = [this] {

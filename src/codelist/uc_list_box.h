@@ -2,6 +2,7 @@
 // itself and reads the markup inside their text. Lines count from 1, texts are bytes of the ANSI code page.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -36,9 +37,12 @@ inline constexpr Twips kTreeBoxWidth = 150;
 // Values of ListRole.
 enum ListRoleValue : long { kCodeView = 0, kScriptTree = 1, kSourcePane = 2 };
 
+class ReadingCommands;
+
 class ucListBox : public forms::UserControl {
  public:
   ucListBox(forms::Container& container, std::string name, host::Services& services);
+  ~ucListBox() override;
 
   bool NoAnalyse = false;      // lines are stored as they are
   bool ColorOff = false;       // only the end of a procedure is watched for
@@ -92,7 +96,9 @@ class ucListBox : public forms::UserControl {
   void ToggleColor();
   std::string ColorCaption() const { return colorCaption; }
   void CopySelection();
+  void AddSelection();  // to what the clip book holds
   void SelectAll();
+  void ClearSelection();
   void ToggleSelect();  // of the current line
   void EditCodeline();  // in place
   // The quick list over the lower half: an entry for line [index], and its showing.
@@ -120,6 +126,9 @@ class ucListBox : public forms::UserControl {
   forms::Timer tmr{*this, "tmr"};
   forms::ImageList imgList{*this, "imgList"};
 
+  // The menu of the right mouse button and what it does.
+  ReadingCommands& Reading() { return *reading; }
+
   // What the painter shows, for tests and tools.
   long TopLine() const { return topLine; }
   long CurrentRow() const { return currentRow; }
@@ -131,6 +140,8 @@ class ucListBox : public forms::UserControl {
   void OnResize() override;
 
  private:
+  friend class ReadingCommands;
+
   // uc_list_box.cpp
   void BindEvents();
   void Layout();
@@ -204,11 +215,12 @@ class ucListBox : public forms::UserControl {
   bool DragStep(bool down);
   void tmr_Timer();
   void pic_MouseUp(int button, Twips x, Twips y);
+  void MoveSelectionToClipBook(std::string copied);
+  void OpenMenuByKey();
   void EndDrag();
   void pic_Click();
   void ToggleBranch(long index);
   void pic_KeyDown(int& key, int shift);
-  void pic_KeyPress(int& key);
 
   // edit_box.cpp, quick_list.cpp
   void RaiseUpdate();
@@ -240,6 +252,7 @@ class ucListBox : public forms::UserControl {
   Twips curX = 0, curY = 0;  // where the next line is drawn
   bool scrollGuard = false, noRefresh = false, hasFocus = false, quickListBusy = false, placing = false;
 
+  std::unique_ptr<ReadingCommands> reading;
   Drag drag;
   Twips mouseX = 0, mouseY = 0;
   TextWidths widths;  // in the font of the surface

@@ -46,6 +46,10 @@ class Prompts {
   // Empty text on Cancel.
   virtual std::string InputBox(const std::string& prompt, const std::string& title = {},
                                const std::string& default_text = {}) = 0;
+  // The same with [typed] in the box as if the user had just typed it there: what is typed next stands behind it.
+  virtual std::string InputBoxTyped(const std::string& prompt, const std::string& typed) {
+    return InputBox(prompt, {}, typed);
+  }
 };
 
 class Settings {

@@ -13,6 +13,7 @@ namespace {
 // Files that are one table, or one thing that reads better whole, and why.
 const std::map<std::string, const char*> kMayBeLong = {
     {"src/environment/control_class_tables.cpp", "the design-time properties of every control, one row each"},
+    {"src/codelist/uc_list_box.h", "the list that shows all code: one control, its whole interface in one place"},
 };
 
 // The headers that define macros all the same, and why.
