@@ -59,8 +59,8 @@ std::span<const ListMenuRow> ListMenuRows() {
   return ListMenuTable::kRows;
 }
 
-ListMenu::ListMenu(forms::Form& form, ReadingCommands& commands)
-    : mnuPopUp(form, "mnuPopUp", "PopUp"), mnuTitle(form, "mnuTitle", "Title") {
+ListMenu::ListMenu(forms::Container& container, ReadingCommands& commands)
+    : mnuPopUp(container, "mnuPopUp", "PopUp"), mnuTitle(container, "mnuTitle", "Title") {
   mnuPopUp.SetVisible(false);
   mnuTitle.SetVisible(false);
   for (const ListMenuRow& row : ListMenuRows()) {

@@ -72,7 +72,7 @@ std::span<const ListMenuRow> ListMenuRows();
 
 class ListMenu {
  public:
-  ListMenu(forms::Form& form, ReadingCommands& commands);
+  ListMenu(forms::Container& container, ReadingCommands& commands);
   forms::Menu& operator[](ListEntry entry) { return *entries_[static_cast<size_t>(entry)]; }
   void Enable(ListEntry entry, bool enabled) { (*this)[entry].SetEnabled(enabled); }
 

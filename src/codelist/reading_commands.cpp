@@ -29,7 +29,7 @@ class Hourglass {
 
 }  // namespace
 
-ReadingCommands::ReadingCommands(ucListBox& list) : list(list), menu(list.FormOf(), *this) {}
+ReadingCommands::ReadingCommands(ucListBox& list) : list(list), menu(list, *this) {}
 
 CleanLineOf ReadingCommands::CleanLines() const {
   return [this](long line) { return list.List(line); };

@@ -13,8 +13,8 @@ Control::Control(Container& container, std::string name, int index)
   form_->Register(*this);
 }
 
-Control::Control(NotOnSurface, Form& form, std::string name, int index)
-    : name_(std::move(name)), index_(index), form_(&form), container_(&form) {}
+Control::Control(NotOnSurface, Container& container, std::string name, int index)
+    : name_(std::move(name)), index_(index), form_(&container.FormOfContainer()), container_(&container) {}
 
 Control::~Control() {
   peer_.reset();

@@ -159,9 +159,9 @@ class Control {
   virtual void OnKeyReplaced(int key_ascii);
   virtual bool ClicksOnRelease() const { return true; }
   virtual Twips MinimumHeight() const { return 0; }
-  // For menus: it belongs to [form] but is no child of its surface.
+  // For menus: it belongs to [container] but is no child of its surface.
   struct NotOnSurface {};
-  Control(NotOnSurface, Form& form, std::string name, int index);
+  Control(NotOnSurface, Container& container, std::string name, int index);
 
   Color back_color_ = kButtonFace, fore_color_ = kButtonText;
   forms::Font font_;

@@ -52,6 +52,7 @@ bool IsNamed(const Control& control, const std::string& upper, int index) {
 
 Menu* FindMenu(const std::vector<Menu*>& menus, const std::string& upper, int index) {
   for (Menu* menu : menus) {
+    if (menu->IsOfControl()) continue;
     if (IsNamed(*menu, upper, index)) return menu;
     if (Menu* item = FindMenu(menu->Items(), upper, index)) return item;
   }

@@ -76,6 +76,7 @@ void WriteControls(const Container& container, const std::string& indent, std::s
 
 void WriteMenus(const std::vector<Menu*>& menus, const std::string& indent, std::string& text) {
   for (const Menu* menu : menus) {
+    if (menu->IsOfControl()) continue;
     text += indent + HeadText(*menu) + Quoted(menu->Caption()) + StateText(*menu);
     if (menu->Checked()) text += " checked";
     if (!menu->Shortcut().empty()) text += " " + menu->Shortcut();

@@ -42,13 +42,13 @@ std::string_view WithoutSigns(std::string_view shortcut) {
 
 }  // namespace
 
-Menu::Menu(Form& form, std::string name, std::string caption)
-    : Control(NotOnSurface{}, form, std::move(name), -1), caption_(std::move(caption)) {
-  form.menus_.push_back(this);
+Menu::Menu(Container& container, std::string name, std::string caption)
+    : Control(NotOnSurface{}, container, std::move(name), -1), caption_(std::move(caption)) {
+  FormOf().menus_.push_back(this);
 }
 
 Menu::Menu(Menu& parent, std::string name, std::string caption, int index)
-    : Control(NotOnSurface{}, parent.FormOf(), std::move(name), index), parent_(&parent), caption_(std::move(caption)) {
+    : Control(NotOnSurface{}, parent.ContainerOf(), std::move(name), index), parent_(&parent), caption_(std::move(caption)) {
   parent.items_.push_back(this);
 }
 

@@ -7,8 +7,8 @@ namespace corvane::forms {
 
 class Menu : public Control {
  public:
-  // A top-level menu of a form. One that only pops up is made invisible.
-  Menu(Form& form, std::string name, std::string caption);
+  // A top-level menu of a form, or one that a control pops up. One that only pops up is made invisible.
+  Menu(Container& container, std::string name, std::string caption);
   Menu(Menu& parent, std::string name, std::string caption, int index = -1);
   ~Menu() override;
   ControlKind Kind() const override { return ControlKind::Menu; }
@@ -22,6 +22,7 @@ class Menu : public Control {
   void SetShortcut(std::string value);
   const std::vector<Menu*>& Items() const { return items_; }
   Menu* Parent() const { return parent_; }
+  bool IsOfControl() const { return ContainerOf().AsControl() != nullptr; }  // not one of the form itself
   void UserClick() override;  // nothing on a disabled or hidden item, a separator, or one with items
   // Whether it is enabled on a form that takes input; a hidden menu can still pop up.
   bool AcceptsInput() const override;

@@ -63,6 +63,12 @@ TEST_F(ListMenuTest, EveryEntryHasARowOfItsOwn) {
   EXPECT_EQ(place, static_cast<size_t>(kCount));
 }
 
+TEST_F(ListMenuTest, IsNoMenuOfTheWindow) {
+  EXPECT_EQ(window.Find("mnuSearch"), nullptr);
+  forms::Menu own(window, "mnuSearch", "Search Procedure");
+  EXPECT_EQ(window.Find("mnuSearch"), &own);
+}
+
 TEST_F(ListMenuTest, OnCodeItOffersItsGroupsInTheirOrder) {
   LoadCode({"x = count"});
   Menu(1, 6);
