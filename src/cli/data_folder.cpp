@@ -14,9 +14,9 @@ fs::path ProgramFolder() {
 fs::path DataFolder() {
   std::error_code ignored;
   if (const char* named = std::getenv("CORVANE_DATA"); named && *named) return fs::absolute(named, ignored);
-  const fs::path folder = ProgramFolder();
+  fs::path folder = ProgramFolder();
   for (const char* place : {"../data", "../../data", "../share/corvane"}) {
-    const fs::path candidate = (folder / place).lexically_normal();
+    fs::path candidate = (folder / place).lexically_normal();
     if (fs::exists(candidate / "corvane.bmp", ignored)) return candidate;
   }
   return folder;

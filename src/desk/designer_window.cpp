@@ -155,8 +155,10 @@ void DesignerCanvas::PaintGrid(QPainter& painter) {
   painter.fillRect(client, layout_.is_mdi ? kMdiColor : values.Color("BackColor", forms::kButtonFace));
   if (layout_.is_mdi) return;
   painter.setPen(kGridColor);
-  for (double y = client.top(); y < client.bottom(); y += kGrid)
-    for (double x = client.left(); x < client.right(); x += kGrid) painter.drawPoint(QPointF(x, y));
+  const auto points = [](double length) { return static_cast<int>(std::ceil(length / kGrid)); };
+  for (int row = 0; row < points(client.height()); ++row)
+    for (int column = 0; column < points(client.width()); ++column)
+      painter.drawPoint(QPointF(client.left() + column * kGrid, client.top() + row * kGrid));
 }
 
 void DesignerCanvas::PaintInside(QPainter& painter, int container) {
@@ -295,6 +297,7 @@ void DesignerCanvas::Change(double dx, double dy, double dw, double dh) {
   bool all = true;
   const std::vector<int> selected = selected_;
   std::vector<PlacedControl> controls;
+  controls.reserve(selected.size());
   for (const int at : selected) controls.push_back(layout_.controls[at]);
   for (const PlacedControl& control : controls) {
     if (control.IsMenu()) continue;

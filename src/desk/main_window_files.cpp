@@ -149,6 +149,7 @@ bool MainWindow::SaveAll() {
     return true;
   }
   std::vector<std::string> lines;
+  lines.reserve(problems.size());
   for (const environment::Problem& problem : problems) lines.push_back(Shown(problem.file) + ": " + problem.reason);
   prompts_.MsgBox("Not saved:" + Bulleted(lines), host::vbExclamation);
   return false;

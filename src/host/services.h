@@ -103,7 +103,7 @@ class Files {
   // Replaces or makes the file as a whole: either all of [bytes] is in it or it stays as it was. Throws 61, 70, 75, 76.
   virtual void Write(const std::string& path, std::string_view bytes) = 0;
   virtual uint32_t Attributes(const std::string& path) = 0;  // kNoSuchFile where there is none
-  virtual FileStamp Stamp(const std::string& path) = 0;             // size -1 where there is none
+  virtual FileStamp Stamp(const std::string& path) = 0;      // size -1 where there is none
   // Names in [folder] that fit [pattern] ("*.bas"; * and ? only), files only, in name order.
   virtual std::vector<std::string> List(const std::string& folder, const std::string& pattern) = 0;
 };

@@ -22,9 +22,9 @@ class VBE {
  public:
   virtual ~VBE() = default;
   virtual Ref<host::VBProjects> VBProjects() = 0;
-  virtual Ref<VBProject> ActiveVBProject() = 0;            // Nothing without a project
-  virtual Ref<VBComponent> SelectedVBComponent() = 0;      // Nothing when a folder or the project itself is selected
-  virtual Ref<CodePane> ActiveCodePane() = 0;              // Nothing when no code pane is open
+  virtual Ref<VBProject> ActiveVBProject() = 0;        // Nothing without a project
+  virtual Ref<VBComponent> SelectedVBComponent() = 0;  // Nothing when a folder or the project itself is selected
+  virtual Ref<CodePane> ActiveCodePane() = 0;          // Nothing when no code pane is open
   virtual Ref<host::CodePanes> CodePanes() = 0;
   virtual Ref<host::Windows> Windows() = 0;
   virtual Ref<Window> MainWindow() = 0;
