@@ -67,12 +67,15 @@ bool OpenProject(ScriptProject& project, const ScriptOptions& options, std::ostr
   return false;
 }
 
-// False where a file could not be written.
+// False where a file was not written that should have been. What a script that was stopped left half done is not saved.
 bool TellAndSave(ScriptProject& project, const ScriptOptions& options, std::ostream& errors) {
   if (options.project.empty()) return true;
   const bool collected = project.Collect(errors);
   if (!options.quiet) project.TellChanges(errors);
-  return collected && (!options.save || project.Save(errors));
+  if (!options.save || !collected) return collected;
+  if (!interrupted) return project.Save(errors);
+  errors << "interrupted: nothing was saved\n";
+  return false;
 }
 
 // A run with all that stands around it on the command line.

@@ -1,10 +1,14 @@
 // Scripts on the command line that work on a project: a copy of the sample in a folder of its own.
+#include <atomic>
+#include <chrono>
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <map>
 #include <sstream>
+#include <thread>
 
 #include "cli/run_script.h"
 #include "tests/support/golden.h"
@@ -208,6 +212,25 @@ TEST_F(ScriptOnProject, AFileThatSomebodyElseChangedIsNotOverwritten) {
   EXPECT_EQ(status, 1);
   EXPECT_THAT(errors, HasSubstr("modCsv.bas: changed on disk since it was read\n"));
   EXPECT_EQ(Changed(), (Files{{"modCsv.bas", "other"}}));
+}
+
+TEST_F(ScriptOnProject, CtrlCSavesNothing) {
+  options.save = true;
+  std::signal(SIGINT, SIG_IGN);
+  std::atomic<bool> ended = false;
+  std::thread user([&] {
+    while (!ended) {  // it is ignored until the script runs
+      std::this_thread::sleep_for(std::chrono::milliseconds(100));
+      std::raise(SIGINT);
+    }
+  });
+  Run("dim nn\n" + std::string(kInsert) + "\nwhile nn=0\nwend");
+  ended = true;
+  user.join();
+  std::signal(SIGINT, SIG_DFL);
+  EXPECT_EQ(errors, std::string(kInsertDiff) + "interrupted: nothing was saved\n");
+  EXPECT_EQ(status, 1);
+  EXPECT_EQ(Changed(), Files());
 }
 
 TEST_F(ScriptOnProject, AProjectOfAGroupIsChanged) {
