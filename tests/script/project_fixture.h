@@ -12,6 +12,7 @@
 #include "environment/project.h"
 #include "script/project_access.h"
 #include "tests/script/lib_test.h"
+#include "tests/script/project_host.h"
 #include "tests/support/sample_files.h"
 
 namespace corvane::script {
@@ -21,10 +22,19 @@ struct ProjectTest : testing::Test {
 
   FakeSurroundings world;
   std::shared_ptr<environment::Environment> vbe = environment::Environment::Create(world.services.files);
-  ProjectAccess access{vbe, world.services};
+  ProjectAccess access{SeenByScripts(vbe), world.services};
   Surroundings around{world.services, access,      world.workshop, world.objects, world.clock,    access,
                       world.window,   world.forms, world.debug,    world.result,  world.platform, world.paramExchange};
   frmLib lib{around};
+
+  // A picture of one pixel.
+  static std::string OnePixel() {
+    constexpr char kBytes[] =
+        "BM\x3A\0\0\0\0\0\0\0\x36\0\0\0"
+        "\x28\0\0\0\1\0\0\0\1\0\0\0\1\0\x18\0\0\0\0\0\4\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0"
+        "\xFF\0\0\0";
+    return std::string(kBytes, sizeof kBytes - 1);
+  }
 
   static std::string PathOf(const std::string& file) { return "Z:\\samples\\stockroom\\" + file; }
 

@@ -53,6 +53,18 @@ bool Call::Flag(long position) {
   return As(position, VT_BOOL).boolVal != VARIANT_FALSE;
 }
 
+namespace {
+
+// A published object of that interface; Nothing for others.
+template <class T>
+host::Ref<T> If(IUnknown* object) {
+  const Published* published = object == nullptr ? nullptr : Published::Of(object);
+  if (published == nullptr || &published->Table() != &TableOf<T>()) return nullptr;
+  return std::static_pointer_cast<T>(published->Target());
+}
+
+}  // namespace
+
 host::Index Call::Place(long position) {
   const VARTYPE type = static_cast<VARTYPE>(At(position).vt & ~VT_BYREF);
   if (type == VT_BSTR) return Text(position);
@@ -80,6 +92,7 @@ Variant Call::Value(long position) {
     case VT_UNKNOWN: {
       IUnknown* object = (argument.vt & VT_BYREF) ? *argument.ppunkVal : argument.punkVal;
       if (const auto picture = PictureOf(object)) return picture;
+      if (const auto control = If<host::VBControl>(object)) return std::shared_ptr<runtime::Object>(control);
       if (const auto properties = Object(position, TableOf<host::Properties>()))
         return std::shared_ptr<runtime::Object>(std::static_pointer_cast<host::Properties>(properties));
       return std::shared_ptr<runtime::Object>();
@@ -149,8 +162,13 @@ void Call::Return(const Variant& value) {
     result_.vt = VT_R8;
     result_.dblVal = *real;
   }
-  if (const auto* object = std::get_if<std::shared_ptr<runtime::Object>>(&value))
-    Return(std::dynamic_pointer_cast<host::Properties>(*object));
+  if (const auto* object = std::get_if<std::shared_ptr<runtime::Object>>(&value)) ReturnKnown(*object);
+}
+
+void Call::ReturnKnown(const std::shared_ptr<runtime::Object>& object) {
+  if (const auto control = std::dynamic_pointer_cast<host::VBControl>(object)) return Return(control);
+  if (const auto items = std::dynamic_pointer_cast<host::LateBound>(object)) return Return(items);
+  Return(std::dynamic_pointer_cast<host::Properties>(object));
 }
 
 void Call::ReturnObject(IUnknown* owned, VARTYPE type) {

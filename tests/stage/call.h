@@ -74,6 +74,7 @@ class Call {
   VARIANT As(long position, VARTYPE type);
   void ReturnPublished(const std::shared_ptr<void>& object, const ObjectTable& table);
   void ReturnPicture(const runtime::PictureRef& picture);
+  void ReturnKnown(const std::shared_ptr<runtime::Object>& object);
 
   std::shared_ptr<void> target_;
   DISPPARAMS& parameters_;

@@ -5,6 +5,7 @@
 namespace corvane::stage {
 
 using host::ControlObject;
+using host::LateBound;
 using host::Properties;
 using host::Property;
 using host::SelectedVBControls;
@@ -66,6 +67,28 @@ const ObjectTable& TableOf<ControlObject>() {
 template <>
 const ObjectTable& TableOf<Properties>() {
   static const ObjectTable table = {"Properties", CollectionMembers<Properties>(0x28), true};
+  return table;
+}
+
+namespace {
+
+void AddItem(Call& call) {
+  std::vector<runtime::Variant> arguments;
+  for (long position = 0; position < call.Count(); ++position)
+    arguments.push_back(call.Has(position) ? call.Value(position) : runtime::Variant());
+  call.Return(call.Target<LateBound>().Call("Add", arguments));
+}
+
+void CountItems(Call& call) {
+  call.Return(call.Target<LateBound>().Call("Count", {}));
+}
+
+}  // namespace
+
+template <>
+const ObjectTable& TableOf<LateBound>() {
+  static const ObjectTable table = {
+      "Items", {Get("Count", 0x1, &CountItems), Method("Add", 0x2, &AddItem, 0, 5)}, true};
   return table;
 }
 
