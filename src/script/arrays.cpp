@@ -1,7 +1,6 @@
 #include "script/arrays.h"
 
 #include <cmath>
-#include <new>
 
 #include "runtime/error.h"
 #include "script/numbers.h"
@@ -12,18 +11,6 @@ namespace {
 
 bool IsSlot(long slot) {
   return slot >= 1 && slot <= Arrays::kSlots;
-}
-
-runtime::Error OutOfMemory() {
-  return runtime::Error(7, "Out of memory");
-}
-
-void Grow(std::vector<Cell>& elements, size_t size) {
-  try {
-    elements.resize(size);
-  } catch (const std::bad_alloc&) {
-    throw OutOfMemory();
-  }
 }
 
 }  // namespace
@@ -60,11 +47,11 @@ std::string Arrays::Element(const std::vector<Cell>& elements, std::string_view 
 
 void Arrays::ArrayStore(long slot, double index) {
   if (!IsSlot(slot)) return errors_.ReportError("You can use only 20 arrays.");
-  if (index > kHighest) throw OutOfMemory();
+  if (index > kHighest) return errors_.ReportError("You can use only 1000000 elements of an array.");
   std::vector<Cell>& elements = slots_[static_cast<size_t>(slot - 1)];
   const auto place = static_cast<size_t>(std::nearbyint(index));
   if (place == 0) throw runtime::Error(runtime::kSubscriptOutOfRange);
-  if (elements.size() < place) Grow(elements, place);
+  if (elements.size() < place) elements.resize(place);
   elements[place - 1] = state_.lastValue;
 }
 

@@ -13,7 +13,7 @@ namespace corvane::script {
 class Arrays {
  public:
   static constexpr long kSlots = 20;
-  // The highest index; beyond it an assignment fails as one fails when the memory is used up.
+  // The highest index; beyond it nothing is stored, and that is reported.
   static constexpr double kHighest = 1'000'000;
 
   Arrays(ScriptState& state, ErrorReport& errors) : state_(state), errors_(errors) {}
@@ -22,7 +22,7 @@ class Arrays {
 
   // [what] is "UBOUND", "ERASE" or an index as text; slots count from 1.
   std::string ArrayAccess(long slot, std::string_view what);
-  // The element takes lastValue. Throws Error 6 or 7 for an index that no array can have.
+  // The element takes lastValue. Throws Error 9 for an index that rounds to 0.
   void ArrayStore(long slot, double index);
 
   long arrayCount = 0;  // arrays declared in the run

@@ -1,6 +1,8 @@
 // Engine: what one frmLib is made of, as the execution loop and the commands see it.
 #pragma once
 
+#include <cstdint>
+
 #include "script/arrays.h"
 #include "script/assignment.h"
 #include "script/debug_step.h"
@@ -33,6 +35,7 @@ struct Engine {
 
   int nested_runs = 0;            // runs of code that are under way
   long statements_unyielded = 0;  // over all of them
+  uint32_t yielded_at = 0;        // milliseconds of the host's clock
   bool label_found = false;       // by a search, since the block reader looked
   size_t longest_text = kLongestText;
 };

@@ -6,6 +6,7 @@
 #include "script/marks.h"
 #include "script/run_code.h"
 #include "script/script_path.h"
+#include "script/within_memory.h"
 
 namespace corvane::script {
 
@@ -55,6 +56,7 @@ void frmLib::RunInside(const std::string& file) {
 
 std::string frmLib::Execute(const std::string& title, const std::string& entry) {
   constexpr size_t kLongestIgnored = 5;
+  if (running_) return {};
   state_.resultText = {};
   menu_text_.clear();
   const bool parameters = BeginsWith(title, std::string(1, paramMark));
@@ -96,6 +98,7 @@ void frmLib::RunScriptText(const std::string& script) {
 // What comes from outside stays: the parameters, and the last value, which may name this script.
 void frmLib::Reset() {
   around_.services.Screen.SetMousePointer(host::vbHourglass);
+  engine_.yielded_at = around_.services.Loop.TickCount();
   ScriptState fresh;
   fresh.wizardMode = from_library_;
   fresh.planOn = plan_;
@@ -116,6 +119,18 @@ bool frmLib::RunOnce(std::string& script) {
     menu_text_ = runtime::Trim(script);
     return false;
   }
+  if (!WithinMemory([&] { ReadAndShow(std::move(script)); })) {
+    state_.restartFlag = false;
+    state_.printText = {};
+    errors_.ReportError(kOutOfMemory);
+  }
+  if (!state_.restartFlag) return false;
+  script = runtime::Trim(TextOf(state_.lastValue));
+  if (!BeginsWith(UCase(script), "FILE:")) script.insert(0, "FILE:");
+  return true;
+}
+
+void frmLib::ReadAndShow(std::string script) {
   BlockReader reader(engine_, around_, *this, *this);
   try {
     reader.Read(std::move(script), true);
@@ -124,10 +139,6 @@ bool frmLib::RunOnce(std::string& script) {
     around_.services.Prompts.MsgBox(error.Description());
   }
   ShowEnd(reader.MetBlock() || reader.Failed());
-  if (!state_.restartFlag) return false;
-  script = runtime::Trim(TextOf(state_.lastValue));
-  if (!BeginsWith(UCase(script), "FILE:")) script.insert(0, "FILE:");
-  return true;
 }
 
 void frmLib::ShowEnd(bool met_block) {

@@ -55,6 +55,7 @@ class frmLib : public CodeRunner, private Dialogs {
   void Reset();
   // Whether another script follows, which [script] is then.
   bool RunOnce(std::string& script);
+  void ReadAndShow(std::string script);
   void ShowEnd(bool met_block);
   std::string FormNamed(const std::string& name) const;
 

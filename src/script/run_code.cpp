@@ -1,10 +1,10 @@
 #include "script/run_code.h"
 
 #include <algorithm>
-#include <new>
 
 #include "runtime/strings.h"
 #include "script/marks.h"
+#include "script/within_memory.h"
 
 namespace corvane::script {
 
@@ -34,21 +34,26 @@ void CodeRun::Run(const std::string& text) {
     state_.stopFlag = true;
     return;
   }
-  if (auto program = engine_.pieces.Translate(text)) RunFlat(std::move(program));
+  std::shared_ptr<FlatProgram> program;
+  if (!WithinMemory([&] { program = engine_.pieces.Translate(text); })) return OutOfMemory();
+  if (program != nullptr) RunFlat(std::move(program));
 }
 
 // A failed call ends the piece without a message.
 void CodeRun::RunFlat(std::shared_ptr<FlatProgram> program) {
   unread_ = whole_ = UnreadProgram(std::move(program));
-  runtime::PassOverErrors([&] {
-    try {
+  const bool fits = WithinMemory([&] {
+    runtime::PassOverErrors([&] {
       if (state_.labelSearch > 0) SearchLabel();
       Loop();
-    } catch (const std::bad_alloc&) {
-      Report("Out of memory.");
-      state_.stopFlag = true;
-    }
+    });
   });
+  if (!fits) OutOfMemory();
+}
+
+void CodeRun::OutOfMemory() {
+  Report(kOutOfMemory);
+  state_.stopFlag = true;
 }
 
 void CodeRun::Loop() {
@@ -68,15 +73,25 @@ void CodeRun::Loop() {
   }
 }
 
-// The only place where the user's acts come in, as one on a Stop button.
+// The only place where the user's acts come in, as one on a Stop button. Slow statements are not waited for: what they
+// let in does not count for the others.
 void CodeRun::Yield() {
   const bool many_runs = ++engine_.statements_unyielded > kMostUnyielded;
-  if (counter_ > kStatementsBeforeYield || many_runs) {
-    engine_.statements_unyielded = 0;
+  const bool due = counter_ > kStatementsBeforeYield || many_runs;
+  if (due || TakesLong()) {
     engine_.outside.services.Loop.DoEvents();
-    counter_ = 0;
+    engine_.yielded_at = engine_.outside.services.Loop.TickCount();
   }
+  if (due) engine_.statements_unyielded = counter_ = 0;
   ++counter_;
+}
+
+// The clock is read now and then, and behind each statement that made a long text.
+bool CodeRun::TakesLong() const {
+  constexpr long kReadsClock = 8;
+  constexpr size_t kLongText = 64u << 10;
+  if (engine_.statements_unyielded % kReadsClock != 0 && SizeOf(state_.lastValue) < kLongText) return false;
+  return engine_.outside.services.Loop.TickCount() - engine_.yielded_at > kLongestUnyielded;
 }
 
 bool CodeRun::AtEnd() {
@@ -107,7 +122,7 @@ void CodeRun::TakeStatement(ProgramItem& statement) {
     if (state_.stopFlag) return;
   }
   Dispatch(statement);
-  if (std::max(SizeOf(state_.lastValue), state_.resultText.Size()) > engine_.longest_text) {
+  if (std::max({SizeOf(state_.lastValue), state_.resultText.Size(), state_.printText.size()}) > engine_.longest_text) {
     Report("A text is too long.");
     state_.stopFlag = true;
   }

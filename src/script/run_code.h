@@ -1,6 +1,7 @@
 // CodeRun: one run of a piece of code. It eats the flat program from its front; what is left to read is all its state.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "script/engine.h"
@@ -14,6 +15,7 @@ class CodeRun {
   static constexpr int kDeepestRun = 200;
   // Statements over all runs: those that are each too short to yield may follow one another without end.
   static constexpr long kMostUnyielded = 15'000;
+  static constexpr uint32_t kLongestUnyielded = 100;  // milliseconds
 
   explicit CodeRun(Engine& engine) : engine_(engine), state_(engine.state) {}
 
@@ -40,6 +42,8 @@ class CodeRun {
  private:
   void Loop();
   void Yield();
+  bool TakesLong() const;
+  void OutOfMemory();
   bool AtEnd();
   void TakeLabel(const ProgramItem& label);
   void TakeStatement(ProgramItem& statement);

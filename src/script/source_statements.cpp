@@ -91,11 +91,14 @@ class Collecting {
     last_ = first;
   }
 
+  // Of a one-line IF the head alone is kept.
   void TakeTails() {
-    while (all_.back().is_one_line_if) {
-      const std::string text = all_.back().statement.text;
+    for (size_t depth = 0; all_.back().is_one_line_if && depth < kDeepestIf; ++depth) {
+      std::string& text = all_.back().statement.text;
       const long line = all_.back().line;
-      UnreadText tail(text.substr(HeadOfIf(text)));
+      const size_t head = all_.back().upper.size();
+      UnreadText tail(text.substr(head));
+      text.erase(head);
       tail.CutAnyOf(kSeparators);
       if (tail.Empty() || !Take(tail)) return;
       all_.back().line = line;

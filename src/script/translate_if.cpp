@@ -69,19 +69,20 @@ void Translation::BlockIf() {
 // A program with a chain of more than some fifty IFs on one line cannot be read back, as its statements are too long;
 // one of many thousands would also take the translator minutes.
 bool Translation::IsTooDeep() {
-  constexpr size_t kDeepestIf = 1000;
   if (pieces_.size() <= kDeepestIf) return false;
   Report("IFs are nested too deep.");
   return state_.stopFlag = true;
 }
 
-// The blank behind THEN is no part of the tail; the cleaning leaves none before "=".
+// The blank behind THEN is no part of the tail; the cleaning leaves none before "=". What the tail was cut from is not
+// kept while it is translated.
 void Translation::OneLineIf(long then_column, std::string tail) {
   if (IsTooDeep()) return;
   const bool blank = tail.front() != '=';
   if (blank) tail.erase(0, 1);
   statement_.text = Left(statement_.text, then_column + (blank ? 5 : 4));
   pieces_.back().waiting = std::move(statement_);
+  if (pieces_.back().unread.Empty()) pieces_.back().unread = UnreadText();
   pieces_.emplace_back(std::move(tail));
 }
 
