@@ -138,20 +138,25 @@ void BlockReader::ReadTemplateLine(std::string_view line) {
 }
 
 void BlockReader::ReadPieces(std::string rest) {
-  for (size_t mark; (mark = rest.find(kCodeOpens)) != std::string::npos;) {
-    PutOut(std::string_view(rest).substr(0, mark));
+  std::string_view unread = rest;
+  for (size_t mark; (mark = unread.find(kCodeOpens)) != std::string_view::npos;) {
+    PutOut(unread.substr(0, mark));
+    unread.remove_prefix(mark);
     const ScriptText::Place behind_line = text_.Here();
-    const Piece piece = ReadPiece(std::string_view(rest).substr(mark + kCodeOpens.size()));
+    Piece piece = ReadPiece(unread.substr(kCodeOpens.size()));
     if (searching_)
-      RunPieceInSearch(piece, {rest.substr(mark), behind_line, state_.counters});
+      RunPieceInSearch(piece, unread, behind_line);
     else
       RunPiece(piece);
     if (state_.stopFlag) return;
-    if (piece.closed) return EndBlock();
     if (piece.many_lines && state_.labelSearch == kRestart) return Restart();
-    rest = piece.rest;
+    if (piece.closed) return EndBlock();
+    if (piece.many_lines)
+      unread = rest = std::move(piece.rest);
+    else
+      unread.remove_prefix(kCodeOpens.size() + piece.code.size() + kCodeCloses.size());
   }
-  PutOut(rest);
+  PutOut(unread);
 }
 
 // The line end behind the mark is no part of the code.
@@ -160,8 +165,6 @@ BlockReader::Piece BlockReader::ReadPiece(std::string_view behind_mark) {
   const size_t end = behind_mark.find(kCodeCloses);
   if (end != std::string_view::npos) {
     piece.code = behind_mark.substr(0, end);
-    piece.rest = behind_mark.substr(end + kCodeCloses.size());
-    if (!runtime::Holds(piece.rest, kCrLf)) piece.rest += kCrLf;
     return piece;
   }
   ReadLines(piece, behind_mark.substr(0, behind_mark.size() - std::string_view(kCrLf).size()));
@@ -205,15 +208,17 @@ void BlockReader::RunPiece(const Piece& piece) {
   searching_ = false;
 }
 
-// What is reported on the way is reported each time.
-void BlockReader::RunPieceInSearch(const Piece& piece, PieceStart start) {
+// [unread] is the line from the piece on. What is reported on the way is reported each time.
+void BlockReader::RunPieceInSearch(const Piece& piece, std::string_view unread, const ScriptText::Place& behind_line) {
   std::string label = state_.labelTarget;
+  const Counters counters = state_.counters;
   engine_.label_found = false;
   const long reported = engine_.errors.Reported();
   RunPiece(piece);
   if (!engine_.label_found || !searching_) return;
   searching_ = false;
-  if (reported == reported_before_) found_from_resume_.emplace(std::move(label), std::move(start));
+  if (reported == reported_before_)
+    found_from_resume_.emplace(std::move(label), PieceStart{std::string(unread), behind_line, counters});
 }
 
 }  // namespace corvane::script

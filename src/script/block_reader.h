@@ -28,9 +28,10 @@ class BlockReader {
   bool Failed() const { return failed_; }
 
  private:
-  // A piece of code as it was read, with what stands behind it on its last line.
+  // A piece of code as it was read.
   struct Piece {
-    std::string code, rest;
+    std::string code;
+    std::string rest;  // of the last of many lines
     bool many_lines = false;
     bool closed = false;        // the block's closing line was met in it
     bool moves_resume = false;  // a SUB ends in it: restarts begin behind that line
@@ -56,7 +57,7 @@ class BlockReader {
   Piece ReadPiece(std::string_view behind_mark);
   void ReadLines(Piece& piece, std::string_view first);
   void RunPiece(const Piece& piece);
-  void RunPieceInSearch(const Piece& piece, PieceStart start);
+  void RunPieceInSearch(const Piece& piece, std::string_view unread, const ScriptText::Place& behind_line);
   void PutOut(std::string_view text);
 
   Engine& engine_;

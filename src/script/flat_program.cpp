@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "runtime/strings.h"
+#include "script/marks.h"
 
 namespace corvane::script {
 
@@ -10,6 +11,12 @@ namespace {
 
 constexpr std::string_view kSeparators = ": ";
 constexpr size_t kLongestStatement = 1100;
+constexpr std::string_view kEndIf = "END IF:";
+
+// Whether it can stand in a program only from a mark to the next ":".
+bool IsLabel(std::string_view sought) {
+  return sought.size() >= 2 && sought.front() == labelMark && sought.find(':') == sought.size() - 1;
+}
 
 // Whether more text behind [rest] would belong to its first item.
 bool WouldTakeMore(std::string_view rest, const FlatItem& item) {
@@ -44,12 +51,31 @@ ProgramItem& FlatProgram::Decode(size_t at) {
 }
 
 size_t FlatProgram::Find(const std::string& sought, size_t from) {
-  const auto [entry, fresh] = places_.try_emplace(sought);
-  std::vector<size_t>& places = entry->second;
-  if (fresh)
-    for (size_t at = text_.find(sought); at != kNowhere; at = text_.find(sought, at + 1)) places.push_back(at);
-  const auto found = std::lower_bound(places.begin(), places.end(), from);
-  return found == places.end() ? kNowhere : *found;
+  if (IsLabel(sought)) return FindLabel(sought, from, {});
+  if (runtime::BeginsWith(sought, kEndIf) && IsLabel(std::string_view(sought).substr(kEndIf.size())))
+    return FindLabel(std::string_view(sought).substr(kEndIf.size()), from, kEndIf);
+  if (last_.sought != sought || from < last_.from || from > last_.at) last_ = {sought, from, text_.find(sought, from)};
+  return last_.at;
+}
+
+// First place at or behind [from] of [before] with the label behind it.
+size_t FlatProgram::FindLabel(std::string_view label, size_t from, std::string_view before) {
+  if (!labels_known_) CollectLabels();
+  const auto entry = labels_.find(label);
+  if (entry == labels_.end()) return kNowhere;
+  const std::vector<size_t>& places = entry->second;
+  for (auto at = std::lower_bound(places.begin(), places.end(), from + before.size()); at != places.end(); ++at)
+    if (text_.compare(*at - before.size(), before.size(), before) == 0) return *at - before.size();
+  return kNowhere;
+}
+
+void FlatProgram::CollectLabels() {
+  labels_known_ = true;
+  for (size_t at = text_.find(labelMark); at != kNowhere; at = text_.find(labelMark, at + 1)) {
+    const size_t end = text_.find(':', at);
+    if (end == kNowhere) return;
+    labels_[std::string_view(text_).substr(at, end + 1 - at)].push_back(at);
+  }
 }
 
 }  // namespace corvane::script

@@ -50,11 +50,20 @@ class FlatProgram {
 
  private:
   ProgramItem& Decode(size_t at);
+  size_t FindLabel(std::string_view label, size_t from, std::string_view before);
+  void CollectLabels();
 
   const std::string text_;
   std::deque<ProgramItem> items_;
-  std::vector<uint32_t> item_at_;                                // by place: number in items_, from 1
-  std::unordered_map<std::string, std::vector<size_t>> places_;  // of what was sought, rising
+  std::vector<uint32_t> item_at_;  // by place: number in items_, from 1
+  // The places of each label, rising, once one is sought.
+  std::unordered_map<std::string_view, std::vector<size_t>> labels_;
+  bool labels_known_ = false;
+  struct Search {
+    std::string sought;
+    size_t from = 0, at = 0;
+  };
+  Search last_;  // for anything else
 };
 
 }  // namespace corvane::script

@@ -64,9 +64,8 @@ void CodeRun::GoTo(ProgramItem& statement) {
   if (statement.target.empty()) statement.target = labelMark + runtime::UCase(statement.text.substr(kJump));
   state_.labelTarget = statement.target;
   if (state_.labelTarget.size() < kShortestTarget) return Report("GoTo Operator Error");
-  const size_t place = unread_.Find(state_.labelTarget);
-  const bool leaves_sub = state_.subDepth > 0 && unread_.Find(std::string(kEndSub)) < place;
-  if (place != FlatProgram::kNowhere && !leaves_sub) return SearchLabel();
+  const size_t end = state_.subDepth > 0 ? unread_.Find(std::string(kEndSub)) : FlatProgram::kNowhere;
+  if (unread_.Find(state_.labelTarget, end) != FlatProgram::kNowhere) return SearchLabel();
   SearchBackward(kRestartAtEnd);
 }
 
@@ -78,11 +77,10 @@ void CodeRun::SearchBackward(int search_at_top) {
     return SearchLabel();
   }
   if (engine_.subs.callChain.empty()) return Report("Script Error");
-  const std::shared_ptr<FlatProgram> body = engine_.subs.BodyAt(engine_.subs.callChain.back());
-  if (body == nullptr) return Report("Sub definition Error");
+  const long sub_start = engine_.subs.callChain.back();
   unread_.CutBehind(std::string(kEndSub));
-  unread_.Push(body);
-  if (body->Find(state_.labelTarget, 0) == FlatProgram::kNowhere) return LabelNotFound();
+  if (!LoadBody(sub_start)) return;
+  if (engine_.subs.BodyAt(sub_start)->Find(state_.labelTarget, 0) == FlatProgram::kNowhere) return LabelNotFound();
   SearchLabel();
 }
 

@@ -5,7 +5,17 @@ namespace corvane::script {
 namespace {
 
 constexpr size_t kLongest = 2000;
-constexpr size_t kMost = 5000;
+constexpr size_t kLargest = 256u << 10;  // bytes of a plan, about
+constexpr size_t kMost = 16u << 20;      // bytes of all
+constexpr size_t kSizeOfEntry = 200;
+
+size_t SizeOf(const ExpressionPlan& plan) {
+  size_t size = kSizeOfEntry;
+  for (const PlannedStep& step : plan.steps)
+    size += sizeof(PlannedStep) + step.terms.size() * sizeof(PlannedTerm) + step.part.size() + step.part_before.size() +
+            step.working.size() + step.working_before.size();
+  return size;
+}
 
 }  // namespace
 
@@ -14,13 +24,18 @@ const ExpressionPlan* PlanCache::Find(std::string_view text) {
   auto found = plans_.find(text);
   if (found == plans_.end()) {
     if (!met_before_(text)) return nullptr;
-    found = plans_.emplace(text, PlanExpression(text)).first;
+    auto plan = PlanExpression(text);
+    if (plan && SizeOf(*plan) > kLargest) plan.reset();
+    size_ += text.size() + (plan ? SizeOf(*plan) : kSizeOfEntry);
+    found = plans_.emplace(text, std::move(plan)).first;
   }
   return found->second ? &*found->second : nullptr;
 }
 
 void PlanCache::Trim() {
-  if (plans_.size() > kMost) plans_.clear();
+  if (size_ <= kMost) return;
+  plans_.clear();
+  size_ = 0;
 }
 
 }  // namespace corvane::script

@@ -42,11 +42,13 @@ class PlanCache {
  public:
   // Null for a text met for the first time, for a long one, and for one that has no plan.
   const ExpressionPlan* Find(std::string_view text);
-  // Forgets all plans if there are too many. None may be followed meanwhile.
+  bool Holds(std::string_view text) const { return plans_.find(text) != plans_.end(); }
+  // Forgets all plans if they are too large together. None may be followed meanwhile.
   void Trim();
 
  private:
   ByText<std::optional<ExpressionPlan>> plans_;
+  size_t size_ = 0;  // bytes of them, about
   MetBefore met_before_;
 };
 

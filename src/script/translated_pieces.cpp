@@ -1,5 +1,6 @@
 #include "script/translated_pieces.h"
 
+#include "script/marks.h"
 #include "script/prepare_source.h"
 #include "script/translator.h"
 
@@ -7,7 +8,8 @@ namespace corvane::script {
 
 namespace {
 
-constexpr size_t kMostKept = 8u << 20;  // characters
+constexpr size_t kMostKept = 64u << 20;  // bytes, about
+constexpr size_t kSizeOfEntry = 600, kSizeByCharacter = 25;
 constexpr size_t kShortestPiece = 3;
 
 // Tells whether an error was reported: a piece that reports one does so each time it comes.
@@ -26,23 +28,24 @@ class WatchedErrors : public ErrorReport {
 
 }  // namespace
 
-const TranslatedPieces::Translated* TranslatedPieces::Find(const Kept& kept, const std::string& text) const {
-  const auto found = kept.find(text);
-  if (found == kept.end()) return nullptr;
-  for (const Translated& translated : found->second)
-    if (translated.before == state_.counters) return &translated;
-  return nullptr;
+std::string TranslatedPieces::Key(const std::string& text) const {
+  const Counters& counters = state_.counters;
+  std::string key = text;
+  for (const int counter : {counters.ifDepth, counters.loopDepth, counters.loopId, counters.selectId})
+    key.append(1, labelMark).append(std::to_string(counter));
+  return key;
 }
 
-void TranslatedPieces::Keep(Kept& kept, const std::string& text, Translated translated) {
-  kept_size_ += text.size() + (translated.program ? translated.program->Text().size() : 0);
+void TranslatedPieces::Keep(Kept& kept, std::string key, Translated translated) {
+  kept_size_ +=
+      kSizeOfEntry + key.size() + (translated.program ? kSizeByCharacter * translated.program->Text().size() : 0);
   if (kept_size_ > kMostKept) {
     pieces_.clear();
     statements_.clear();
     kept_size_ = 0;
     return;
   }
-  kept[text].push_back(std::move(translated));
+  kept.emplace(std::move(key), std::move(translated));
 }
 
 std::shared_ptr<FlatProgram> TranslatedPieces::Translate(const std::string& text) {
@@ -55,18 +58,20 @@ std::shared_ptr<FlatProgram> TranslatedPieces::TranslateStatement(const std::str
 
 template <class Cleaned>
 std::shared_ptr<FlatProgram> TranslatedPieces::TranslateOnce(Kept& kept, const std::string& text, Cleaned&& cleaned) {
-  if (const Translated* known = state_.stopFlag ? nullptr : Find(kept, text)) {
-    state_.counters = known->after;
-    return known->program;
+  std::string key = Key(text);
+  const auto known = state_.stopFlag ? kept.end() : kept.find(key);
+  if (known != kept.end()) {
+    state_.counters = known->second.after;
+    return known->second.program;
   }
   WatchedErrors errors(errors_);
   const bool stopped = state_.stopFlag;
-  Translated translated{state_.counters, {}, nullptr};
+  Translated translated{{}, nullptr};
   std::string source = cleaned(errors);
   if (source.size() >= kShortestPiece)
     translated.program = std::make_shared<FlatProgram>(TranslateCode(source, state_, errors));
   translated.after = state_.counters;
-  if (!stopped && !errors.reported) Keep(kept, text, translated);
+  if (!stopped && !errors.reported) Keep(kept, std::move(key), translated);
   return translated.program;
 }
 

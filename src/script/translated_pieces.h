@@ -23,14 +23,14 @@ class TranslatedPieces {
 
  private:
   struct Translated {
-    Counters before, after;
+    Counters after;
     std::shared_ptr<FlatProgram> program;
   };
-  using Kept = std::unordered_map<std::string, std::vector<Translated>>;  // by text
+  using Kept = std::unordered_map<std::string, Translated>;  // by text and counters
   template <class Cleaned>
   std::shared_ptr<FlatProgram> TranslateOnce(Kept& kept, const std::string& text, Cleaned&& cleaned);
-  const Translated* Find(const Kept& kept, const std::string& text) const;
-  void Keep(Kept& kept, const std::string& text, Translated translated);
+  std::string Key(const std::string& text) const;
+  void Keep(Kept& kept, std::string key, Translated translated);
 
   ScriptState& state_;
   ErrorReport& errors_;

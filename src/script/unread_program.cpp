@@ -84,9 +84,12 @@ bool UnreadProgram::CrossesEnd(size_t segment, const std::string& sought) const 
   return window.find(sought) != std::string::npos;
 }
 
-UnreadProgram::Place UnreadProgram::PlaceOf(const std::string& sought) const {
-  for (size_t segment = segments_.size(); segment-- > 0;) {
+// Looks no further than the program that [limit] characters reach into.
+UnreadProgram::Place UnreadProgram::PlaceOf(const std::string& sought, size_t limit) const {
+  size_t before = 0;
+  for (size_t segment = segments_.size(); segment-- > 0 && before < limit;) {
     const Segment& here = segments_[segment];
+    before += here.program->Text().size() - here.at;
     const size_t at = here.program->Find(sought, here.at);
     if (at != FlatProgram::kNowhere) return {segment + 1, at};
     if (CrossesEnd(segment, sought)) {
@@ -116,13 +119,13 @@ bool UnreadProgram::CutBehind(const std::string& sought) {
   return true;
 }
 
-size_t UnreadProgram::Find(const std::string& sought) const {
-  const Place place = PlaceOf(sought);
+size_t UnreadProgram::Find(const std::string& sought, size_t limit) const {
+  const Place place = PlaceOf(sought, limit);
   if (place.segment == 0) return FlatProgram::kNowhere;
   size_t before = place.at - segments_[place.segment - 1].at;
   for (size_t segment = place.segment; segment < segments_.size(); ++segment)
     before += segments_[segment].program->Text().size() - segments_[segment].at;
-  return before;
+  return before < limit ? before : FlatProgram::kNowhere;
 }
 
 }  // namespace corvane::script

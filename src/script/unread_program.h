@@ -30,8 +30,8 @@ class UnreadProgram {
   // Cuts up to the first place of [sought], or behind it. False, and nothing cut, where it does not stand.
   bool CutTo(const std::string& sought);
   bool CutBehind(const std::string& sought);
-  // How many characters stand in front of [sought], or FlatProgram::kNowhere.
-  size_t Find(const std::string& sought) const;
+  // How many characters stand in front of [sought], or FlatProgram::kNowhere, also where these are [limit] or more.
+  size_t Find(const std::string& sought, size_t limit = FlatProgram::kNowhere) const;
 
  private:
   struct Segment {
@@ -41,7 +41,7 @@ class UnreadProgram {
   struct Place {
     size_t segment, at;  // segment from 1; 0: none
   };
-  Place PlaceOf(const std::string& sought) const;
+  Place PlaceOf(const std::string& sought, size_t limit = FlatProgram::kNowhere) const;
   bool CrossesEnd(size_t segment, const std::string& sought) const;
   ProgramItem& FirstItem();
   void DropEmpty();
