@@ -36,11 +36,11 @@ std::string Arrays::ArrayAccess(long slot, std::string_view what) {
 
 std::string Arrays::Element(const std::vector<Cell>& elements, std::string_view index) {
   const auto number = NumberOf(index);
-  const double whole = number ? std::nearbyint(*number) : 0;
-  if (whole < 1) {
+  if (!number || *number < 1) {
     errors_.ReportError("Array's Index Error.");
     return {};
   }
+  const double whole = std::nearbyint(*number);
   if (whole > static_cast<double>(elements.size())) return {};
   return TextOf(elements[static_cast<size_t>(whole) - 1]);
 }

@@ -215,6 +215,7 @@ bool Assignment::AssignElement(const std::string& statement, long paren) {
   value = Trim(value);
   const std::string plain_name = Left(name, runtime::Len(name) - 1);
   expressions_.EvalExpression(index);
+  if (state_.stopFlag) return true;
   const auto number = NumberOf(TextOf(state_.lastValue));
   if (!number) {
     errors_.ReportError(plain_name + " Array index is not numeric.");

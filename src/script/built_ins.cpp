@@ -31,7 +31,7 @@ std::string Inside(std::string_view text) {
 
 std::string Negated(const std::string& text) {
   const auto number = NumberOf(text);
-  return number ? runtime::CStr(-*number) : std::string();
+  return number ? TextOfNumber(-*number) : std::string();
 }
 
 struct Nesting {
@@ -141,7 +141,10 @@ std::string BuiltIns::CallOnArray(const FunctionRow& row, const std::string& res
 }
 
 std::string BuiltIns::CallNamed(const std::string& key, const std::string& rest) {
-  if (long slot = 0; FindArray(key, slot)) return arrays_.ArrayAccess(slot, Argument(rest));
+  if (long slot = 0; FindArray(key, slot)) {
+    const std::string index = Argument(rest);
+    return state_.stopFlag ? std::string() : arrays_.ArrayAccess(slot, index);
+  }
   if (const long place = objects_.Find(key)) return objects_.ObjectCall(place, rest, *expressions_);
   runner_.RunCode("Call " + key + rest + ":");
   return TextOf(state_.lastValue);

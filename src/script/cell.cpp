@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "runtime/strings.h"
+#include "script/numbers.h"
 
 namespace corvane::script {
 
@@ -37,7 +38,7 @@ void Text::Append(std::string_view more) {
 
 std::string TextOf(const Cell& cell) {
   if (const auto* text = std::get_if<Text>(&cell)) return std::string(text->Get());
-  if (const auto* number = std::get_if<double>(&cell)) return runtime::CStr(*number);
+  if (const auto* number = std::get_if<double>(&cell)) return TextOfNumber(*number);
   if (const auto* truth = std::get_if<bool>(&cell)) return *truth ? "True" : "False";
   return runtime::CStr(std::get<int>(cell));
 }

@@ -35,7 +35,7 @@ class Text {
 
 using Cell = std::variant<int, Text, double, bool>;
 
-// The text form: booleans are "True" and "False", doubles as runtime::CStr writes them.
+// The text form: booleans are "True" and "False", doubles as TextOfNumber writes them.
 std::string TextOf(const Cell& cell);
 
 }  // namespace corvane::script

@@ -54,7 +54,7 @@ PlannedTerm Planned(const SimpleTokens& tokens) {
     term.text = text.size() < 2 ? std::string() : text.substr(1, text.size() - 2);
   } else if (IsNumberToken(token)) {
     term.kind = PlannedTerm::kText;
-    if (token[0] == '-') term.text = runtime::CStr(-*NumberOf(std::string_view(token).substr(1)));
+    if (token[0] == '-') term.text = TextOfNumber(-*NumberOf(std::string_view(token).substr(1)));
   } else if (IsPlainName(token)) {
     term.kind = PlannedTerm::kName;
     term.name.token = token;

@@ -87,7 +87,7 @@ bool HidesVariables(std::string_view upper) {
 std::string Names::Value(const std::string& token) {
   const auto number = NumberOf(token);
   if (!number) return Named(token);
-  return token[0] == '&' ? runtime::CStr(std::nearbyint(*number)) : token;
+  return token[0] == '&' ? TextOfNumber(std::nearbyint(*number)) : token;
 }
 
 std::string Names::Named(const std::string& token) {

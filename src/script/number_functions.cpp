@@ -22,7 +22,7 @@ runtime::DateParts DateOf(Argument text) {
 std::string Root(FunctionUse&, Argument text) {
   const double number = DoubleOf(text);
   if (number < 0) throw runtime::Error(runtime::kInvalidProcedureCall);
-  return CStr(std::sqrt(number));
+  return TextOfNumber(std::sqrt(number));
 }
 
 constexpr FunctionRow kRows[] = {
@@ -57,7 +57,7 @@ constexpr FunctionRow kRows[] = {
     {.key = "ABS(",
      .arguments = "number",
      .help = "The number without its sign.",
-     .one = [](FunctionUse&, Argument number) { return CStr(std::fabs(DoubleOf(number))); }},
+     .one = [](FunctionUse&, Argument number) { return TextOfNumber(std::fabs(DoubleOf(number))); }},
     {.key = "INT(",
      .arguments = "number",
      .help = "The whole number at or below it.",

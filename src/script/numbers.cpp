@@ -1,5 +1,9 @@
 #include "script/numbers.h"
 
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+
 #include "runtime/error.h"
 #include "runtime/strings.h"
 #include "runtime/variant.h"
@@ -23,6 +27,8 @@ double Digits(std::string_view text) {
   return static_cast<double>(number);
 }
 
+constexpr double kFirstOfManyDigits = 1e15;
+
 // No number begins with another character than these, blanks apart. "$" is the currency sign.
 constexpr std::string_view kFirstOfNumber = " +-.0123456789&($";
 // Nor holds one another than these. To find that out from a failed conversion takes longer than a whole statement.
@@ -44,6 +50,17 @@ std::optional<double> NumberOf(std::string_view text) {
   std::optional<double> number;
   runtime::PassOverErrors([&] { number = runtime::ToNumber(WithoutCurrencySign(text)); });
   return number;
+}
+
+std::string TextOfNumber(double number) {
+  std::string text = runtime::CStr(number);
+  if (std::trunc(number) == number && std::fabs(number) < kFirstOfManyDigits) return text;
+  for (int digits = 16; digits <= 17 && std::strtod(text.c_str(), nullptr) != number; ++digits) {
+    char buffer[64];
+    std::snprintf(buffer, sizeof buffer, "%.*G", digits, number);
+    text = buffer;
+  }
+  return text;
 }
 
 std::optional<bool> BooleanOf(std::string_view text) {

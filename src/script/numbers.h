@@ -16,6 +16,9 @@ inline bool IsNumeric(std::string_view text) {
   return NumberOf(text).has_value();
 }
 
+// The text of a number, which is read back as the same number: as the platform's CStr writes it where 15 digits do.
+std::string TextOfNumber(double number);
+
 // "True" and "False" in any case; any number but 0 is true; nothing for other texts.
 std::optional<bool> BooleanOf(std::string_view text);
 

@@ -15,8 +15,6 @@ namespace {
 // Each operator in angle brackets and its rank behind them. It is searched for "<" operator ">".
 constexpr std::string_view kPrecedence = R"(<*>9</>9<\>9<+>8<&>8<->8<<>7<>>7<=>7< AND >6< OR >5<,>1)";
 
-using runtime::CStr;
-
 // Operands are not too long each, but all of them together may be.
 void Join(std::string& text, std::string_view value) {
   constexpr size_t kLongest = 1u << 28;
@@ -30,7 +28,7 @@ void Calculate(Accumulator& acc, const std::string& value, Cell& last, double (*
   if (!left || !right) return;
   const double result = operation(*left, *right);
   if (!std::isfinite(result)) return;
-  acc.text = CStr(result);
+  acc.text = TextOfNumber(result);
   last = result;
 }
 
@@ -46,7 +44,7 @@ void Add(Accumulator& acc, const std::string& value, Cell& last) {
   const auto right = left ? NumberOf(value) : std::nullopt;
   if (left && right) {
     if (!std::isfinite(*left + *right)) return;
-    acc.text = CStr(*left + *right);
+    acc.text = TextOfNumber(*left + *right);
   } else {
     acc.joined = true;
     Join(acc.text, value);

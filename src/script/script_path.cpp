@@ -22,6 +22,12 @@ std::string FolderOf(const std::string& path) {
   return path.substr(0, path.rfind('\\') + 1);
 }
 
+// Nothing stands beside a project that was not saved yet.
+std::string BesideProject(const std::string& name, Surroundings& around) {
+  const std::string project = around.ide.ProjectFileName();
+  return project.empty() ? std::string() : FolderOf(project) + name;
+}
+
 std::string WorkShopFile(const std::string& name, Surroundings& around) {
   return around.services.App.Path + "\\WorkShop\\" + name;
 }
@@ -52,7 +58,7 @@ std::string ResolveScriptPath(const std::string& spec, Surroundings& around) {
     std::string head = runtime::Trim(spec.substr(0, plus));
     if (!head.empty() && head.back() == ':') head.pop_back();
     const std::string tail = runtime::Trim(spec.substr(plus + 1));
-    if (runtime::UCase(head) == "$APPPATH") return FolderOf(around.ide.ProjectFileName()) + tail;
+    if (runtime::UCase(head) == "$APPPATH") return BesideProject(tail, around);
     if (common) {
       if (const auto value = CommonValue(*common, head)) return *value + tail;
       return runtime::UCase(head) == "$PATH" ? WorkShopFile(tail, around) : std::string();

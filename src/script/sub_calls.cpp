@@ -53,9 +53,7 @@ void CodeRun::Call(ProgramItem& statement) {
   if (!done) return Report(kCallingSubError);
   if (!entered) return;
   engine_.subs.callChain.push_back(offset);
-  if (LoadBody(offset)) return;
-  engine_.subs.callChain.pop_back();
-  LeaveCall();
+  LoadBody(offset);
 }
 
 // Evaluates the values and hands them over. Throws where that fails; false where it stopped the script.

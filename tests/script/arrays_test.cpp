@@ -44,8 +44,8 @@ TEST_F(ArraysTest, AnErasedArrayIsNotGrown) {
 }
 
 TEST_F(ArraysTest, ABadIndexIsReported) {
-  for (const char* index : {"0", "-1", "x", ""}) EXPECT_EQ(arrays.ArrayAccess(1, index), "");
-  EXPECT_EQ(errors.messages, Messages(4, "Array's Index Error."));
+  for (const char* index : {"0", "-1", "0.6", "x", ""}) EXPECT_EQ(arrays.ArrayAccess(1, index), "");
+  EXPECT_EQ(errors.messages, Messages(5, "Array's Index Error."));
 }
 
 TEST_F(ArraysTest, SlotsBeyondTwentyAreReported) {

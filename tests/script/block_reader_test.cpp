@@ -95,7 +95,8 @@ TEST_F(BlockReaderTest, AnIncludeOfOneLetterEndsTheRun) {
 
 TEST_F(BlockReaderTest, AnIncludeOfAnUnsavedProjectEndsTheRun) {
   world.ide.file = "";
-  RunScript("FILE:$OTHER+part.txt\n");
+  world.services.files.Put("part.txt", "CODE{\r\nincluded\r\n}\r\n");
+  EXPECT_EQ(RunScript("FILE:$AppPath+part.txt\n"), "");
   EXPECT_EQ(Boxes(), Lines{kNoFile});
 }
 
@@ -118,11 +119,17 @@ TEST_F(BlockReaderTest, AMenuIsKeptAndNotRun) {
 }
 
 TEST_F(BlockReaderTest, PlusLinesAndOthersInFrontOfTheCommonSectionArePassedOver) {
-  world.services.files.Put(
-      "C:\\Corvane\\LibCode.txt",
-      "+Menu{x}\r\nother\r\n {common} \r\n$One=1\r\n  $two = b \r\nno=3\r\n$=4\r\n}\r\n$five=5\r\n");
+  world.services.files.Put("C:\\Corvane\\LibCode.txt",
+                           "+Menu{x}\r\n+{COMMON}\r\n$zero=0\r\nother\r\n {common} \r\n$One=1\r\n  $two = b "
+                           "\r\nno=3\r\n$=4\r\n}\r\n$five=5\r\n");
   EXPECT_EQ(RunScript("CODE{\n<%=$one%>\n}\n"), "1\n");
   EXPECT_EQ(Readable(lib.Parts().store.Text()), "<(_$ONE=1<(_$TWO = b ");
+}
+
+TEST_F(BlockReaderTest, TheCommonSectionEndsAtALineThatBeginsWithABrace) {
+  world.services.files.Put("C:\\Corvane\\LibCode.txt", "{COMMON}\r\n$AA=x}\r\n$BB=2\r\n  } \r\n$CC=3\r\n");
+  RunScript("CODE{\n}\n");
+  EXPECT_EQ(lib.Parts().store.Text(), "<(_$AA=x}<(_$BB=2");
 }
 
 TEST_F(BlockReaderTest, AConstantCannotBeAssignedTo) {
@@ -186,8 +193,9 @@ TEST_F(BlockReaderTest, TheParametersStayOverARun) {
 class Execute : public LibTest {
  protected:
   Execute() {
-    world.services.files.Put("C:\\Corvane\\LibCode.txt",
-                             "+Menu{ONE}\r\n{ONE}\r\nCODE{\r\nfirst\r\n}\r\n{two}\r\nMENU{\r\nA,B\r\n}\r\n");
+    world.services.files.Put(
+        "C:\\Corvane\\LibCode.txt",
+        "+{ONE}\r\nCODE{\r\nwrong\r\n}\r\n{ONE}\r\nCODE{\r\nfirst\r\n}\r\n{two}\r\nMENU{\r\nA,B\r\n}\r\n");
   }
 };
 
@@ -199,6 +207,23 @@ TEST_F(Execute, AnItemsResultIsPutOnTheClipboard) {
 
 TEST_F(Execute, TheTitleMayStandAtColumnTwo) {
   EXPECT_EQ(lib.Execute("ONE}"), "Good thing");
+}
+
+TEST_F(Execute, AResultOfOneCharacterIsNotPutOnTheClipboard) {
+  world.services.files.Put("C:\\Corvane\\LibCode.txt",
+                           "{ONE}\r\nCODE{\r\n<%\r\n=1\r\n%>\r\n}\r\n{TWO}\r\nCODE{\r\n<%\r\n=12\r\n%>\r\n}\r\n");
+  EXPECT_EQ(lib.Execute("{ONE}"), "");
+  EXPECT_EQ(world.services.clipboard.clears, 0);
+  EXPECT_EQ(lib.Execute("{TWO}"), "Good thing");
+  EXPECT_EQ(world.services.clipboard.text, "12");
+}
+
+TEST_F(Execute, AnItemOfFiveCharactersDoesNotRun) {
+  world.services.files.Put("C:\\Corvane\\LibCode.txt", "{FIVE}\r\nabc\r\n{SIX}\r\nabcd\r\n");
+  lib.Execute("{FIVE}");
+  EXPECT_EQ(Boxes(), Lines());
+  lib.Execute("{SIX}");
+  EXPECT_EQ(Boxes().size(), 1u);
 }
 
 TEST_F(Execute, AMenuIsGivenBack) {

@@ -86,6 +86,23 @@ TEST_F(Flow, ALoopOverTemplateTextClosedByAPieceOfOneLineSearchesForward) {
   EXPECT_EQ(Errors(), Lines{"Label _F1_1: not found"});
 }
 
+TEST_F(Flow, ALoopOverTemplateTextMayBeClosedByThePieceThatTheBlockEnds) {
+  EXPECT_EQ(RunScript("CODE{\n<%dim ii%>\n<%while ii<2:ii++%>\nrow\n<%\nwend\n}\n"), "\n\nrow\n\nrow\n");
+  EXPECT_EQ(Errors(), Lines());
+}
+
+TEST_F(Flow, EndSubInATextIsNoPlaceToResume) {
+  EXPECT_EQ(RunScript("CODE{\n<%dim ii,tt%>\n<%while ii<2:ii++%>\nrow\n<%\ntt=\"end sub\"\nwend\n%>\nend\n}\n"),
+            "\n\nrow\n\nrow\nend\n");
+  EXPECT_EQ(Errors(), Lines());
+}
+
+TEST_F(Flow, ASubInThePieceThatClosesALoopHidesTheLoopFromTheRestart) {
+  EXPECT_EQ(RunScript("CODE{\n<%dim ii%>\n<%while ii<2:ii++%>\nrow\n<%\nsub s1()\nend sub\nwend\n%>\nend\n}\n"),
+            "\n\nrow\n");
+  EXPECT_EQ(Errors(), Lines{"Label _F1_1: not found"});
+}
+
 TEST_F(Flow, AGoToBackwardRestartsTheBlockAtItsEnd) {
   EXPECT_EQ(RunScript("CODE{\n<%dim n1%>\nfirst\n<%back1:%>\nx\n<%n1++%>\n<%if n1<3 then goto back1%>\nrest\n}\n"),
             "\nfirst\n\nx\n\n\nx\n\n\nx\n\n\nrest\n");

@@ -1,5 +1,6 @@
 #include "script/numbers.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
 
 namespace corvane::script {
@@ -65,6 +66,30 @@ TEST(Numbers, ANumberWithAZeroAtItsEndDoesNotLookNumeric) {
   EXPECT_FALSE(LooksNumeric("5 "));
   EXPECT_TRUE(LooksNumeric(" 5"));
   EXPECT_TRUE(LooksNumeric("1E+15"));
+}
+
+TEST(Numbers, AreWrittenAsTheyAreReadBack) {
+  const std::pair<double, const char*> cases[] = {{0.1, "0.1"},
+                                                  {-2.5, "-2.5"},
+                                                  {1e15, "1E+15"},
+                                                  {1.0 / 3, "0.3333333333333333"},
+                                                  {0.1 + 0.2, "0.30000000000000004"},
+                                                  {1e16 - 2, "9999999999999998"},
+                                                  {121932631112635269, "1.2193263111263526E+17"},
+                                                  {1.0 / 30000, "3.3333333333333335E-05"}};
+  for (const auto& [number, text] : cases) {
+    EXPECT_EQ(TextOfNumber(number), text);
+    EXPECT_EQ(NumberOf(text), number) << text;
+  }
+}
+
+TEST(Numbers, OfManyDigitsAreReadBackAsTheSame) {
+  double number = 1;
+  for (int i = 0; i < 3000; ++i) {
+    number *= i % 2 == 0 ? 1.2345678901234567 : 0.71234567890123;
+    for (const double one : {number, 1 / number, std::sqrt(number), number * 1e200})
+      EXPECT_EQ(NumberOf(TextOfNumber(one)), one) << TextOfNumber(one);
+  }
 }
 
 }  // namespace

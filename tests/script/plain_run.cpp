@@ -320,10 +320,10 @@ void PlainLib::Call(Run& run, const std::string& text) {
       engine.store.Store(cell, Text(Left(values, end - 1)));
     values = Mid(values, end + 1);
   }
+  chain_ = runtime::CStr(offset) + listSep + chain_;
   sub_start_ = offset;
   std::string body;
-  if (!Body(body)) return leave();
-  chain_ = runtime::CStr(offset) + listSep + chain_;
+  if (!Body(body)) return;
   run.unread = body + run.unread;
 }
 

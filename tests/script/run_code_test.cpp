@@ -87,6 +87,10 @@ INSTANTIATE_TEST_SUITE_P(
         Program{"StepAloneIsIgnored", "=1\nstep\n=2", "12"},
         Program{"MultilineLiteral", "dim t1\nt1=[[a\nb]]\n=t1", "a\nb"},
         Program{"ResultIsAVariable", "=\"ab\"\nresult=result&\"c\"", "abc"},
+        Program{"AFailingOuterCaseLandsBehindTheInnerSelect",
+                "select case 3\ncase 1\n=1\nselect case 2\ncase 2\n=\"in\"\nend select\n=\"after\"\ncase "
+                "3\n=\"three\"\nend select",
+                "afterthree"},
         Program{"CaseOfNestedSelects",
                 "select case 1\ncase 1\nselect case 2\ncase 2\n=\"in\"\nend select\n=\"out\"\nend select", "inout"}),
     [](const auto& info) { return info.param.name; });

@@ -48,6 +48,19 @@ INSTANTIATE_TEST_SUITE_P(
                 {"Sub definition Error"},
                 "12",
                 "1"},
+        Failure{"EndSubBehindACallThatFoundNoBody",
+                "sub odd()\nx=\"end sub\"\n=1\ncall odd()\nend sub\n=2",
+                {"Sub definition Error"},
+                "12",
+                "1"},
+        Failure{"ExitSubAtTheTop", "=1\nexit sub\n=2", {"exit sub: *** Unknown function ***"}, "12", "1"},
+        Failure{
+            "EraseOfTheTwentyFirstArray",
+            "=1\ndim a01(),a02(),a03(),a04(),a05(),a06(),a07(),a08(),a09(),a10(),a11(),a12(),a13(),a14(),a15(),a16()"
+            "\ndim a17(),a18(),a19(),a20(),a21()\nerase(a21)\n=2",
+            {"Index is out of bounds."},
+            "12",
+            "1"},
         Failure{"SubWithoutBracket", "=1\nsub x1\n=2", {"Sub Declaration error."}, "12", "1"},
         Failure{"SubInASub",
                 "=1\nsub a1()\nsub b1()\nend sub\n=2",
@@ -96,24 +109,46 @@ TEST_F(RunErrors, ALabelWithoutItsEndIsASyntaxErrorAndEndsTheRun) {
   EXPECT_EQ(lib.ResultText(), "1");
 }
 
-TEST_F(RunErrors, AGotoWithoutALabelIsAGoToOperatorError) {
-  CodeRun(lib.Parts()).RunFlat(std::make_shared<FlatProgram>("-100005GOTO 0100003=1:"));
-  EXPECT_EQ(Errors(), Lines{"GoTo Operator Error"});
-  EXPECT_EQ(lib.ResultText(), "1");
+// With OK it goes on behind the jump, with Cancel it ends.
+class JumpErrors : public LibTest, public testing::WithParamInterface<bool> {
+ protected:
+  void ExpectError(const char* flat, const char* message) {
+    if (GetParam()) AnswerCancel();
+    CodeRun(lib.Parts()).RunFlat(std::make_shared<FlatProgram>(flat));
+    EXPECT_EQ(Errors(), Lines{message});
+    EXPECT_EQ(lib.ResultText(), GetParam() ? "" : "1");
+  }
+};
+
+TEST_P(JumpErrors, AGotoWithoutALabelIsAGoToOperatorError) {
+  ExpectError("-100005GOTO 0100003=1:", "GoTo Operator Error");
 }
 
-TEST_F(RunErrors, ABackwardJumpWithoutACallIsAScriptError) {
+TEST_P(JumpErrors, ABackwardJumpWithoutACallIsAScriptError) {
   lib.Parts().state.subDepth = 1;
-  CodeRun(lib.Parts()).RunFlat(std::make_shared<FlatProgram>("-100010GOTB _F1_1:0100003=1:"));
-  EXPECT_EQ(Errors(), Lines{"Script Error"});
-  EXPECT_EQ(lib.ResultText(), "1");
+  ExpectError("-100010GOTB _F1_1:0100003=1:", "Script Error");
 }
 
-TEST_F(RunErrors, ASubWithoutALineEndBehindItIsUnknown) {
-  SubStore& subs = lib.Parts().subs;
-  subs.Append(runtime::kCrLf);
-  EXPECT_EQ(subs.HeaderAt(3), std::nullopt);
-  EXPECT_EQ(subs.BodyAt(3), nullptr);
+TEST_P(JumpErrors, ABackwardJumpInASubWithoutALineEndBehindItsHeaderIsAnUnknownSub) {
+  lib.Parts().subs.Append("NAME()");
+  lib.Parts().subs.callChain = {1};
+  lib.Parts().state.subDepth = 1;
+  ExpectError("-100010GOTB _F1_1:0100003=1:", "Unknown Sub");
+}
+
+TEST_P(JumpErrors, ABackwardJumpInASubWithoutItsEndIsASubDefinitionError) {
+  lib.Parts().subs.Append("NAME()\r\n0100003=2:");
+  lib.Parts().subs.callChain = {1};
+  lib.Parts().state.subDepth = 1;
+  ExpectError("-100010GOTB _F1_1:0100003=1:", "Sub definition Error");
+}
+
+INSTANTIATE_TEST_SUITE_P(, JumpErrors, testing::Bool(), [](const auto& info) { return info.param ? "Cancel" : "Ok"; });
+
+TEST_F(RunErrors, AFormalThatIsAConstantThereTakesNoValue) {
+  world.services.files.Put("C:\\Corvane\\LibCode.txt", "{COMMON}\r\n$P__1=5\r\n}\r\n");
+  EXPECT_EQ(RunCode("sub part($p)\n=$p\nend sub\ncall part(7)"), "5");
+  EXPECT_EQ(Errors(), Lines{"call part(7): Error operation"});
 }
 
 TEST_F(RunErrors, AHeaderThatIsNoNumberEndsThePieceWithoutAMessage) {
@@ -173,6 +208,15 @@ TEST_F(RunErrors, AfterCancelInAnArgumentTheCommandDoesNotAct) {
   AnswerCancel();
   RunCode("print(nix)");
   EXPECT_EQ(Boxes(), Lines{"Variable nix is not found\nprint(nix):\n"});
+}
+
+TEST_F(RunErrors, AfterCancelInAnIndexTheArrayIsNotReached) {
+  AnswerCancel();
+  RunCode("dim ar()\nar(nix)=5");
+  EXPECT_EQ(Errors(), Lines{"Variable nix is not found"});
+  AnswerCancel();
+  RunCode("dim ar()\n=ar(nix)");
+  EXPECT_EQ(Errors(), Lines{"Variable nix is not found"});
 }
 
 TEST_F(RunErrors, BothMessagesAtEndSubComeThoughTheFirstIsCancelled) {
