@@ -14,6 +14,7 @@
 #include "script/marks.h"
 #include "script/project_access.h"
 #include "script/script_text.h"
+#include "script/windowless.h"
 
 namespace corvane::cli {
 
@@ -95,12 +96,12 @@ struct HeadlessRun {
   ScriptBoxes boxes;
   host::Services services;
   script::ProjectAccess access;
-  WorkshopTexts workshop{services};
+  script::WorkshopTexts workshop{services};
   NoObjects objects;
   LocalClock clock;
-  PassedForms forms;
-  NoDebugWindow debug;
-  NoResultWindow result;
+  script::PassedForms forms;
+  script::NoDebugWindow debug;
+  script::NoResultWindow result;
   DeletingPlatform platform;
   std::string param_exchange;
   script::Surroundings around{services, access, workshop, objects, clock,    access,
