@@ -226,7 +226,9 @@ class DiskFiles : public host::Files {
 
   std::vector<std::string> List(const std::string& folder, const std::string& pattern) override {
     std::vector<std::string> names;
-    std::string native = Resolve(folder) + "/";
+    std::string native = Resolve(folder);
+    if (native.empty()) return names;
+    native += '/';
     for (const std::string& name : NamesIn(native)) {
       struct stat info;
       if (::stat((native + name).c_str(), &info) != 0 || !S_ISREG(info.st_mode)) continue;

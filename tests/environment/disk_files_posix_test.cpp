@@ -90,6 +90,12 @@ TEST_F(DiskFilesTest, ReadsNamesOfTheCodePageOnADiskOfUtf8) {
                                                                       "dulo.bas"});
 }
 
+TEST_F(DiskFilesTest, AFolderWithoutAPlaceOnThisMachineHoldsNothing) {
+  for (const char* folder : {"C:\\", "C:\\Code", "\\\\server\\share"})
+    EXPECT_EQ(files_->List(folder, "*"), std::vector<std::string>()) << folder;
+  EXPECT_EQ(files_->List("Z:\\no such folder", "*"), std::vector<std::string>());
+}
+
 TEST_F(DiskFilesTest, ASecondByteThatLooksLikeABackslashIsNone) {
   runtime::SetAnsiCodePage(932);
   Put("\xE8\xA1\xA8.frm", "x");  // 95 5C in code page 932
