@@ -33,6 +33,15 @@ void Push(CommandUse& use) {
   if (end != std::string::npos) PushSlot(State(use), use.value.substr(0, end)) = Text(use.value.substr(end + 1));
 }
 
+// The rest of the form is for the dialog to judge.
+void Modify(CommandUse& use) {
+  constexpr size_t kShortestTarget = 1;
+  const size_t end = use.value.find(listSep);
+  if (end == std::string::npos || end < kShortestTarget)
+    return use.engine.errors.ReportError("Use Modify(\"MyForm.myTxt\",\"default=string\") syntax");
+  use.around.forms.Modify(use.lib, use.value);
+}
+
 void Show(CommandUse& use) {
   use.lib.RunDialog(use.value, true);
 }
@@ -104,8 +113,7 @@ constexpr CommandRow kCommands[] = {
     {"GETPARAMS", "names", "The variables take the script's parameters, in order.", nullptr},
     {"PUSH", "number, value", "Keeps the value of a SELECT CASE.", Push},
     {"KILL", "file", "Deletes the file.", [](CommandUse& use) { use.around.platform.Kill(use.value); }},
-    {"MODIFY", "form.control, key=value", "Changes a control of a dialog.",
-     [](CommandUse& use) { use.around.forms.Modify(use.lib, use.value); }},
+    {"MODIFY", "form.control, key=value", "Changes a control of a dialog.", Modify},
     {"SHOW", "form", "Shows the dialog of a FORM block, given as text or by its name.", Show},
     {"NOSHOW", "form", "Builds the dialog without showing it.", NoShow},
     {"REMOVE", "address", "Removes a control or a component.",

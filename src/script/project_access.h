@@ -55,7 +55,7 @@ class ProjectAccess : public IdeAccess, public IdeCommands {
   static long LineOfText(host::CodeModule& module, const std::string& text);
   // Nothing where the module has no open pane.
   host::Ref<host::CodePane> OpenPaneOf(host::CodeModule& module) const;
-  void CreateFromFile(const std::string& path);
+  void CreateFromFile(ErrorReport& errors, const std::string& path);
   void CreateControl(ErrorReport& errors, const Parts& class_and_file, const std::string& name);
   host::Ref<host::VBControl> NewControl(host::VBControls& controls, const Parts& class_and_file,
                                         const host::Ref<host::VBControl>& container) const;

@@ -45,6 +45,10 @@ NewName NewNameOf(const std::string& text) {
   return {address.control, address.component};
 }
 
+void ReportNoProject(ErrorReport& errors, const std::string& wanted) {
+  errors.ReportError(std::string("No project is open.") + runtime::kCrLf + wanted);
+}
+
 bool IsDesigned(const host::Ref<host::VBComponent>& component, const std::string& name) {
   return IsMe(name) || runtime::UCase(component->Name()) == runtime::UCase(name);
 }
@@ -53,19 +57,19 @@ bool IsDesigned(const host::Ref<host::VBComponent>& component, const std::string
 
 void ProjectAccess::Create(ErrorReport& errors, const std::string& class_name, const std::string& name) {
   const Parts class_and_file = SplitArguments(class_name);
-  if (runtime::Holds(class_and_file[0], "\\")) return CreateFromFile(class_and_file[0]);
+  if (runtime::Holds(class_and_file[0], "\\")) return CreateFromFile(errors, class_and_file[0]);
   const CreatedKind* kind = FindKind(class_and_file[0]);
   if (kind == nullptr) return CreateControl(errors, class_and_file, name);
   const auto project = targets_.Environment().ActiveVBProject();
-  if (!project) throw host::Error(runtime::kObjectNotSet);
+  if (!project) return ReportNoProject(errors, class_name);
   SetName(project->VBComponents()->Add(kind->type)->Properties(), SplitArguments(name)[0]);
 }
 
-void ProjectAccess::CreateFromFile(const std::string& path) {
+void ProjectAccess::CreateFromFile(ErrorReport& errors, const std::string& path) {
   host::VBE& environment = targets_.Environment();
   if (runtime::Right(runtime::UCase(path), 4) == ".VBP") return environment.VBProjects()->AddFromFile(path);
   const auto project = environment.ActiveVBProject();
-  if (!project) throw host::Error(runtime::kObjectNotSet);
+  if (!project) return ReportNoProject(errors, path);
   project->VBComponents()->AddFile(path);
 }
 

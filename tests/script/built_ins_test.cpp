@@ -115,6 +115,7 @@ const Row kRows[] = {
     {"FORMAT(5,\"000\")", "005"},
     {"FORMAT(\"2/14/2026\",\"yyyy-mm-dd\")", "2026-02-14"},
     {"VBSQL(\"a\")", "\"a\""},
+    {"VBSQL(\"id=:nId\")", "\"id=\"+CStr(nId)"},
     {"VBSTR(\"a\")", "\"a\""},
     {"UNVBSTR(\"abc\")", "abc"},
     {"COMMENT(\"a\"&vbcrlf&\"b\")", "'a\r\n'b\r\n"},

@@ -140,7 +140,51 @@ TEST_F(CommandsTest, InAWizardDebugDoesNothing) {
   EXPECT_EQ(world.debug.views.size(), 0u);
 }
 
+TEST_F(CommandsTest, ModifyWithoutItsTwoPartsIsReportedWithOkAndWithCancel) {
+  const std::string message = "Use Modify(\"MyForm.myTxt\",\"default=string\") syntax";
+  EXPECT_EQ(RunCode("modify(\"bad\")\n=1"), "1");
+  EXPECT_EQ(Errors(), Lines{message});
+  AnswerCancel();
+  EXPECT_EQ(RunCode("modify(\"\",\"default=x\")\n=1"), "");
+  EXPECT_EQ(Errors(), Lines{message});
+  EXPECT_EQ(world.forms.calls, Lines());
+}
+
+TEST_F(CommandsTest, AFailingCommandEndsThePieceInSilence) {
+  for (const char* code : {"kill(\"C:\\none.txt\")", "mousepointer(\"x\")", "push(\"x\",1)", "push(-1,1)"})
+    EXPECT_EQ(RunScript("CODE{\n<%=1:" + std::string(code) + ":=2%><%=3%>\n}\n"), "13\n") << code;
+  EXPECT_EQ(Boxes(), Lines());
+}
+
+TEST_F(CommandsTest, UnloadOutsideASubIsNothingInAnEventEither) {
+  world.forms.while_shown = [](frmLib& lib) {
+    lib.Parts().state.dialogActive = true;
+    lib.RunCode("unload(\"9\"):=1:");
+    lib.Parts().state.dialogActive = false;
+  };
+  EXPECT_EQ(RunCode("show(\"FORM{a\"&vbcrlf&\"}\")\n=2"), "12");
+  EXPECT_EQ(world.forms.calls, Lines());
+}
+
+TEST_F(CommandsTest, PrintIsShownBeforeARunStartsAnother) {
+  world.services.files.Put("C:\\next.txt", "CODE{\r\n<%print(2):=3%>\r\n}\r\n");
+  EXPECT_EQ(RunCode("print(1)\nrun(\"C:\\next.txt\")"), "3\n");
+  EXPECT_EQ(Boxes(), (Lines{"1\n", "2\n"}));
+}
+
+// What an IF cannot reckon leaves the condition as it was, and the statement behind THEN is judged by that.
+TEST_F(CommandsTest, AnIfPassesItsErrorsOverStatementByStatement) {
+  world.ide.fails = true;
+  EXPECT_EQ(RunCode("if Form1.xx.Caption=1 then =1\n=2\nif Form1.xx.Caption=1 then =3\n=4"), "124");
+  EXPECT_EQ(Boxes(), Lines());
+}
+
 // Parameters between scripts.
+TEST_F(CommandsTest, GetParamsFillsALocalVariableFirst) {
+  lib.Parts().state.scriptParams = "one";
+  EXPECT_EQ(RunCode("dim aa\nsub s1()\ndim aa\ngetparams(aa)\n=aa\nend sub\ncall s1()\n=aa"), "one0");
+}
+
 TEST_F(CommandsTest, GetParamsFillsVariablesInOrder) {
   lib.Parts().state.scriptParams = "\1one\2two\1three";
   EXPECT_EQ(RunCode("dim aa,cc\ngetparams(aa,nobody,cc)\n=aa\n=\",\"\n=cc"), "one,three");
@@ -162,6 +206,23 @@ TEST_F(CommandsTest, ScriptRunHandsParametersOutAndBack) {
                            "CODE{\r\n<%\r\ndim aa,bb\r\ngetparams(aa,bb)\r\nputparams(bb,aa)\r\n%>\r\n}\r\n");
   EXPECT_EQ(RunCode("dim xx,yy\nscriptrun(\"C:\\sub.txt\",\"p\",\"q\")\ngetparams(xx,yy)\n=xx\n=yy"), "qp");
   EXPECT_EQ(world.paramExchange, "");
+}
+
+TEST_F(CommandsTest, ScriptRunOfAMissingFileStillBringsItsParametersBack) {
+  EXPECT_EQ(RunCode("scriptrun(\"C:\\none.txt\",\"p\",\"q\")\n=getparams()"), "|p|q|");
+  EXPECT_EQ(world.paramExchange, "");
+}
+
+TEST_F(CommandsTest, ScriptRunOfAFailingFileStillBringsItsParametersBack) {
+  world.services.files.Put("C:\\sub.txt", "CODE{\r\n<%putparams(\"r\"):kill(\"C:\\none\"):putparams(\"s\")%>\r\n}\r\n");
+  EXPECT_EQ(RunCode("scriptrun(\"C:\\sub.txt\",\"p\")\n=getparams()"), "|r|");
+}
+
+TEST_F(CommandsTest, ScriptRunWithoutParametersHandsNoOldOnesOn) {
+  world.services.files.Put("C:\\sub.txt", "CODE{\r\n<%print(\"[\"&getparams()&\"]\")%>\r\n}\r\n");
+  lib.Parts().state.scriptParams = "old";
+  EXPECT_EQ(RunCode("putparams(\"new\")\nscriptrun(\"C:\\sub.txt\")\n=getparams()"), "new");
+  EXPECT_EQ(Boxes(), Lines{"[]\n"});
 }
 
 TEST_F(CommandsTest, ScriptRunHasStoresOfItsOwn) {

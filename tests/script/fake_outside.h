@@ -20,11 +20,15 @@ class FakeIde : public IdeAccess {
  public:
   std::string name = "Sample", file = "C:\\Code\\Sample.vbp";
   std::vector<std::string> set;  // "address=value"
+  bool fails = false;            // a property that is read
 
   std::string ProjectName() override { return name; }
   std::string ProjectFileName() override { return file; }
   std::string Components(const std::string& filter) override { return Answer("components", filter); }
-  std::string GetProp(ErrorReport&, const std::string& list) override { return Answer("getprop", list); }
+  std::string GetProp(ErrorReport&, const std::string& list) override {
+    if (fails) throw runtime::Error(runtime::kObjectNotSet);
+    return Answer("getprop", list);
+  }
   void SetProp(ErrorReport&, const std::string& address, const std::string& value) override {
     set.push_back(address + "=" + value);
   }
