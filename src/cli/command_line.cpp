@@ -234,7 +234,8 @@ class CommandLine {
     script->add_flag("--save", script_.save, "save what it changed; without it nothing is saved")->needs(project);
     script->add_flag("--quiet", script_.quiet, "do not show what it changed");
     script->add_option("--library", script_.library,
-                       "folder of LibCode.txt and WorkShop; the installed one if left out");
+                       "folder of LibCode.txt and WorkShop; the installed one if left out")
+        ->check(CLI::ExistingDirectory);
     script->add_flag("--plan", script_.plan, "put out the statements in place of running them");
     script->add_option("--messages", messages_, "how boxes are told: text or json")
         ->check(CLI::IsMember({"text", "json"}));

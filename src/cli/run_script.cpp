@@ -44,7 +44,8 @@ class ScriptLoop : public host::EventLoop {
 };
 
 std::string Parameters(const ScriptOptions& options) {
-  std::string joined;
+  const bool begins_empty = !options.parameters.empty() && options.parameters.front().empty();
+  std::string joined(begins_empty, script::labelMark);  // GETPARAMS passes over one mark at the front
   for (const std::string& parameter : options.parameters) {
     if (&parameter != &options.parameters.front()) joined += script::listSep;
     joined += runtime::AnsiCodePage().FromUtf8(parameter);
@@ -102,7 +103,7 @@ struct HeadlessRun {
   script::PassedForms forms;
   script::NoDebugWindow debug;
   script::NoResultWindow result;
-  DeletingPlatform platform;
+  DeletingPlatform platform{boxes};
   std::string param_exchange;
   script::Surroundings around{services, access, workshop, objects, clock,    access,
                               workshop, forms,  debug,    result,  platform, param_exchange};
@@ -121,7 +122,12 @@ int RunScriptFile(const std::string& file_bytes, const ScriptOptions& options, s
   if (!OpenProject(project, options, errors)) return 1;
   HeadlessRun run(given, project, options, errors);
   const Interrupts interrupts;
-  run.lib.RunScriptText(script::WithLineEnds(file_bytes));
+  try {
+    run.lib.RunScriptText(script::WithLineEnds(file_bytes));
+  } catch (const WrongAnswer& wrong) {
+    errors << wrong.what() << '\n';
+    return 2;
+  }
   out << run.lib.ResultText() << std::flush;
   const bool written = TellAndSave(project, options, errors);
   return written && !run.boxes.ErrorCameUp() ? 0 : 1;

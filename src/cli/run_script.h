@@ -20,7 +20,7 @@ struct ScriptOptions {
 
 // Puts the result text out on [out] as it is, each box on [errors], and behind them what the script changed in the
 // project. Ctrl+C ends the script at its next yield, and nothing is saved then. 0, or 1 if an error box came up or a
-// file could not be opened or written.
+// file could not be opened or written; 2, without a result, for an answer that fits no button.
 int RunScriptFile(const std::string& file_bytes, const ScriptOptions& options, std::ostream& out, std::ostream& errors);
 
 }  // namespace corvane::cli

@@ -13,6 +13,14 @@ namespace {
 
 constexpr long kButtons = 15;  // of a style
 
+long ButtonOf(const std::string& answer, const std::string& title) {
+  const std::string upper = runtime::UCase(answer);
+  if (upper != "OK" && upper != "CANCEL")
+    throw WrongAnswer("--answer \"" + answer + "\" fits no button of the box \"" +
+                      runtime::AnsiCodePage().ToUtf8(title) + "\", which are ok and cancel");
+  return upper == "OK" ? host::vbOK : host::vbCancel;
+}
+
 }  // namespace
 
 long ScriptBoxes::MsgBox(const std::string& prompt, long style, const std::string& title) {
@@ -41,7 +49,7 @@ long ScriptBoxes::ErrorBox(const std::string& message, const std::string& flat) 
 long ScriptBoxes::Button(const Box& box, long otherwise) {
   long button = otherwise;
   if (!answers_.empty()) {
-    button = runtime::UCase(answers_.front()) == "OK" ? host::vbOK : host::vbCancel;
+    button = ButtonOf(answers_.front(), box.title);
     answers_.pop_front();
   }
   Tell(box, button == host::vbOK ? "ok" : "cancel");

@@ -3,16 +3,24 @@
 
 #include <deque>
 #include <iosfwd>
+#include <stdexcept>
 #include <string>
 
 #include "host/services.h"
 
 namespace corvane::cli {
 
+// An answer that fits no button of the box it was for.
+class WrongAnswer : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
 class ScriptBoxes : public host::Prompts {
  public:
   // [answers] are taken in the order of the questions: texts for input boxes, "ok" or "cancel" for boxes that have both
-  // buttons. Without one an error box is cancelled, a message box gets OK, an input box its default.
+  // buttons, where any other throws WrongAnswer. Without one an error box is cancelled, a message box gets OK, an input
+  // box its default.
   ScriptBoxes(std::ostream& out, bool json, std::deque<std::string> answers, std::string program)
       : out_(out), json_(json), answers_(std::move(answers)), program_(std::move(program)) {}
 

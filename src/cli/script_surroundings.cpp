@@ -8,6 +8,16 @@
 
 namespace corvane::cli {
 
+double DeletingPlatform::Shell(const std::string& program) {
+  boxes_.ErrorBox("SHELL starts no program on the command line: " + program, {});
+  throw runtime::Error(runtime::kFileNotFound);
+}
+
+// It tells no failure where there are windows either.
+void DeletingPlatform::Open(const std::string& file) {
+  boxes_.MsgBox("EXECUTE opens no file on the command line: " + file, host::vbExclamation, {});
+}
+
 void DeletingPlatform::Kill(const std::string& path) {
   std::error_code problem;
   if (std::filesystem::remove(environment::NativePath(path), problem)) return;

@@ -4,17 +4,23 @@
 #include <memory>
 #include <string>
 
+#include "cli/script_boxes.h"
 #include "script/outside.h"
 #include "script/platform.h"
 
 namespace corvane::cli {
 
-// Deletes files; starts nothing.
+// Deletes files; starts nothing, and says so.
 class DeletingPlatform : public script::Platform {
  public:
-  double Shell(const std::string&) override { throw runtime::Error(runtime::kFileNotFound); }
-  void Open(const std::string&) override { throw runtime::Error(runtime::kFileNotFound); }
+  explicit DeletingPlatform(ScriptBoxes& boxes) : boxes_(boxes) {}
+
+  double Shell(const std::string& program) override;
+  void Open(const std::string& file) override;
   void Kill(const std::string& path) override;
+
+ private:
+  ScriptBoxes& boxes_;
 };
 
 class NoObjects : public script::ScriptObjectFactory {

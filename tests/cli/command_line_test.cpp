@@ -70,6 +70,48 @@ TEST(CommandLine, ScriptWithAnErrorBoxEndsWithOne) {
   EXPECT_EQ(RunCorvane({"script", script, "--messages", "xml"}).status, 2);
 }
 
+TEST(CommandLine, ScriptTakesItsOptions) {
+  const TemporaryFolder folder;
+  const std::string script = folder.Path() + "/a.script";
+  WriteFile(script, "CODE{\n<%=inputbox(\"Name?\",\"Ask\",\"nobody\"):=$AA:ENDIF%>\n}\n");
+  WriteFile(folder.Path() + "/LibCode.txt", "{COMMON}\r\n$AA=5\r\n}\r\n");
+  const Words library = {"--library", folder.Path()};
+  const Ended result = RunCorvane(Words{"script", script, "--answer", "Ann", "--messages", "json"} + library);
+  EXPECT_EQ(result.out, "Ann5\r\n");
+  EXPECT_EQ(result.errors, "{\"box\":\"input\",\"title\":\"Ask\",\"message\":\"Name?\",\"answer\":\"Ann\"}\n");
+  EXPECT_EQ(RunCorvane(Words{"script", script, "--answer", ""} + library).out, "5\r\n");
+  EXPECT_EQ(RunCorvane({"script", script, "--plan"}).out,
+            "=inputbox(\"Name?\",\"Ask\",\"nobody\"):\r\n=$AA:\r\nENDIF:  \r\n");
+  const Ended checked = RunCorvane({"script", script, "--check"});
+  EXPECT_EQ(checked.status, 1);
+  EXPECT_THAT(checked.OutLines(), ElementsAre(HasSubstr("a.script:2: a single word is a label")));
+}
+
+TEST(CommandLine, ParametersOfAScriptMayBeAnyText) {
+  const TemporaryFolder folder;
+  const std::string script = folder.Path() + "/a.script";
+  WriteFile(script, "CODE{\n<%dim aa,bb:getparams(aa,bb):=\"<\"&aa&\">\"&bb%>\n}\n");
+  for (const char* parameter : {"-5", "", "[a,b]", "--plan", "a b", "\"q\"", "{x}"})
+    EXPECT_EQ(RunCorvane({"script", script, "--param", parameter, "--param", "end"}).out,
+              "<" + std::string(parameter) + ">end\r\n")
+        << parameter;
+}
+
+TEST(CommandLine, AnAnswerThatFitsNoButtonOrALibraryThatIsMissingIsWrongUsage) {
+  const TemporaryFolder folder;
+  const std::string script = folder.Path() + "/a.script";
+  WriteFile(script, "CODE{\n<%=1:=msgbox(\"Sure?\")%>\n}\n");
+  const Ended answer = RunCorvane({"script", script, "--answer", "yes"});
+  EXPECT_EQ(answer.status, 2);
+  EXPECT_EQ(answer.out, "");
+  EXPECT_THAT(answer.ErrorLines(),
+              ElementsAre("--answer \"yes\" fits no button of the box \"Corvane\", which are ok and cancel"));
+  const Ended library = RunCorvane({"script", script, "--library", folder.Path() + "/none"});
+  EXPECT_EQ(library.status, 2);
+  EXPECT_EQ(library.out, "");
+  EXPECT_THAT(library.errors, HasSubstr("none"));
+}
+
 TEST(CommandLine, HelpNamesTheCommandsAndIsDone) {
   const Ended result = RunCorvane({"--help"});
   EXPECT_EQ(result.status, 0);

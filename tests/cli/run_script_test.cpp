@@ -24,6 +24,14 @@ Ran RunScript(const std::string& script, const ScriptOptions& options = {}) {
   return {status, out.str(), errors.str()};
 }
 
+// A file on disk, and its name as scripts write it.
+struct ScriptFile {
+  tests::TemporaryFolder folder;
+  std::string path = folder.Path() + "/inner.txt", name = environment::WindowsPath(path);
+
+  explicit ScriptFile(const std::string& text) { std::ofstream(path, std::ios::binary) << text; }
+};
+
 TEST(RunScriptFile, PutsTheResultOutAsItIs) {
   const Ran ran = RunScript("CODE{\na <%=1%>\n}\n");
   EXPECT_EQ(ran.out, "a 1\r\n");
@@ -50,6 +58,75 @@ TEST(RunScriptFile, AnswersGoToTheBoxesInTheirOrder) {
   EXPECT_EQ(RunScript(script, {.answers = {"Ann", "cancel"}, .parameters = {}, .library = {}}).out, "AnnFalse");
   EXPECT_EQ(RunScript(script).out, "nobodyTrue");
   EXPECT_EQ(RunScript(script).errors, "Ask: Name?\nCorvane: Sure?\n");
+}
+
+TEST(RunScriptFile, AnswersOfInputBoxesAndErrorBoxesInterleave) {
+  ScriptOptions options;
+  options.answers = {"Ann", "OK", "Bob", "cancel", "unused"};
+  const std::string ask = "=inputbox(\"Name?\",\"Ask\")\nfoo bar\n";
+  const Ran ran = RunScript("CODE{\n<%\n" + ask + ask + "=3\n%>\n}\n", options);
+  EXPECT_EQ(ran.out, "AnnBob");
+  EXPECT_EQ(ran.status, 1);
+}
+
+TEST(RunScriptFile, AnAnswerThatFitsNoButtonEndsItAtOnce) {
+  ScriptOptions options;
+  options.answers = {"yes"};
+  for (const char* code : {"=msgbox(\"Sure?\")", "foo bar"}) {
+    const Ran ran = RunScript("CODE{\n<%=1:" + std::string(code) + ":print(2):=3%>\n}\n", options);
+    EXPECT_EQ(ran.out, "");
+    EXPECT_EQ(ran.errors.substr(0, 43),
+              "--answer \"yes\" fits no button of the box \"" + std::string(1, code[0] == '=' ? 'C' : 'W'));
+    EXPECT_EQ(ran.errors.find('\n'), ran.errors.size() - 1) << ran.errors;
+    EXPECT_EQ(ran.status, 2);
+  }
+}
+
+TEST(RunScriptFile, ExecuteSaysThatItOpensNothingAndTheRunGoesOn) {
+  const Ran ran = RunScript("CODE{\n<%=1:execute(\"a.htm\"):=2%>\n}\n");
+  EXPECT_EQ(ran.out, "12\r\n");
+  EXPECT_EQ(ran.errors, "Corvane: EXECUTE opens no file on the command line: a.htm\n");
+  EXPECT_EQ(ran.status, 0);
+}
+
+TEST(RunScriptFile, ShellSaysThatItStartsNothingAndEndsThePiece) {
+  const Ran ran =
+      RunScript("CODE{\n<%=1:shell(\"notepad\"):=2%><%=3%>\n}\n", {.answers = {"ok"}, .parameters = {}, .library = {}});
+  EXPECT_EQ(ran.out, "13\r\n");
+  EXPECT_EQ(ran.errors, "Weaver: SHELL starts no program on the command line: notepad\r\n\n");
+  EXPECT_EQ(ran.status, 1);
+}
+
+TEST(RunScriptFile, CreateWithoutAProjectSaysSo) {
+  for (const std::string code : {"create(\"CLASSMODULE\",\"clsA\")", "create(\"C:\\a.cls\",\"clsA\")"}) {
+    const Ran ran =
+        RunScript("CODE{\n<%=1:" + code + ":=2%>\n}\n", {.answers = {"ok"}, .parameters = {}, .library = {}});
+    EXPECT_EQ(ran.out, "12\r\n");
+    EXPECT_EQ(ran.errors.substr(0, 29), "Weaver: No project is open.\r\n") << ran.errors;
+    EXPECT_EQ(ran.status, 1);
+  }
+}
+
+TEST(RunScriptFile, TheLibraryIsTheFolderThatIsGiven) {
+  const tests::TemporaryFolder folder;
+  std::ofstream(folder / "LibCode.txt", std::ios::binary) << "{COMMON}\r\n$AA=5\r\n}\r\n";
+  std::filesystem::create_directory(folder / "WorkShop");
+  std::ofstream(folder / "WorkShop/inner.txt", std::ios::binary) << "CODE{\r\n<%=$AA%>\r\n}\r\n";
+  ScriptOptions options;
+  options.library = folder.Path();
+  EXPECT_EQ(RunScript("FILE:inner.txt\n", options).out, "5\r\n");
+}
+
+TEST(RunScriptFile, CtrlCEndsTheScriptThatRunStarted) {
+  const ScriptFile next("CODE{\r\n<%=2:while 1=1:wend%>\r\n}\r\n");
+  std::signal(SIGINT, SIG_IGN);
+  std::thread user([] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    std::raise(SIGINT);
+  });
+  EXPECT_EQ(RunScript("CODE{\n<%\n=1\nrun(\"" + next.name + "\")\n%>\n}\n").out, "2");
+  user.join();
+  std::signal(SIGINT, SIG_DFL);
 }
 
 TEST(RunScriptFile, BoxesAsJson) {
@@ -89,14 +166,6 @@ TEST(RunScriptFile, CtrlCEndsAnEndlessScript) {
   EXPECT_EQ(ran.out, "begun");
   EXPECT_EQ(ran.status, 0);
 }
-
-// A file on disk, and its name as scripts write it.
-struct ScriptFile {
-  tests::TemporaryFolder folder;
-  std::string path = folder.Path() + "/inner.txt", name = environment::WindowsPath(path);
-
-  explicit ScriptFile(const std::string& text) { std::ofstream(path, std::ios::binary) << text; }
-};
 
 TEST(RunScriptFile, CtrlCEndsAnEndlessScriptInsideAScript) {
   const ScriptFile inner("CODE{\r\n<%while 1=1:wend%>\r\n}\r\n");
