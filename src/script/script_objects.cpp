@@ -26,10 +26,8 @@ void ScriptObjects::Clear() {
 }
 
 // An object of the sibling library is told the folder of this one first.
-std::shared_ptr<ScriptObject> ScriptObjects::Create(const std::string& class_name, bool sibling) {
-  std::shared_ptr<ScriptObject> object = outside_.objects.CreateObject(class_name);
-  if (object && sibling) object->Command("INIT:" + std::string(1, listSep) + outside_.services.App.Path);
-  return object;
+void ScriptObjects::TellFolder(ScriptObject& object) {
+  object.Command("INIT:" + std::string(1, listSep) + outside_.services.App.Path);
 }
 
 std::string ScriptObjects::CreateScriptObject(const std::string& arguments) {
@@ -42,14 +40,14 @@ std::string ScriptObjects::CreateScriptObject(const std::string& arguments) {
   if (const long place = Find(key)) return IndexAt(place);
   const std::string class_name = arguments.substr(0, separator) + ".clsAction";
   std::shared_ptr<ScriptObject> object;
-  runtime::PassOverErrors(
-      [&] { object = Create(class_name, runtime::BeginsWith(runtime::UCase(class_name), kSiblingStart)); });
+  runtime::PassOverErrors([&] { object = outside_.objects.CreateObject(class_name); });
   if (!object) {
     errors_.ReportError("Can not create object " + class_name);
     return "0";
   }
-  table_.push_back(std::move(object));
+  table_.push_back(object);
   objectNames.append(1, labelMark).append(key).append(std::to_string(table_.size())).append(1, labelMark);
+  if (runtime::BeginsWith(runtime::UCase(class_name), kSiblingStart)) TellFolder(*object);
   return std::to_string(table_.size());
 }
 
@@ -85,7 +83,10 @@ std::string ScriptObjects::ObjectCall(long place, std::string_view arguments, Ex
 }
 
 std::string ScriptObjects::DbTaskCall(const std::string& command) {
-  if (!dbObject_) dbObject_ = Create(kSibling, true);
+  if (!dbObject_) {
+    dbObject_ = outside_.objects.CreateObject(kSibling);
+    TellFolder(*dbObject_);
+  }
   return TextOf(dbObject_->Command(command));
 }
 

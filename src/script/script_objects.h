@@ -34,7 +34,7 @@ class ScriptObjects {
   std::string objectNames;
 
  private:
-  std::shared_ptr<ScriptObject> Create(const std::string& class_name, bool sibling);
+  void TellFolder(ScriptObject& object);
   std::string IndexAt(long place) const;
 
   ScriptState& state_;

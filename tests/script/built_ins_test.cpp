@@ -371,11 +371,17 @@ TEST_F(BuiltInsTest, AFailingCallOfAnObjectIsEmptyWithoutAMessage) {
   EXPECT_EQ(Messages(), Texts());
 }
 
-TEST_F(BuiltInsTest, AnObjectThatFailsAtItsStartIsNotCreated) {
+TEST_F(BuiltInsTest, AnObjectThatFailsWhenItIsToldTheFolderStandsAllTheSame) {
   world.objects.calls_fail = true;
-  EXPECT_EQ(Value("CREATEOBJECT(\"sernith\",\"ff\")"), "0");
-  EXPECT_EQ(Messages(), Texts{"Can not create object sernith.clsAction"});
-  EXPECT_EQ(engine.objects.objectNames, "");
+  EXPECT_EQ(Value("CREATEOBJECT(\"sernith\",\"ff\")"), "");
+  EXPECT_EQ(Value("DBTASK(\"a\")"), "");
+  EXPECT_EQ(Messages(), Texts());
+  EXPECT_EQ(engine.objects.objectNames, "\1FF(1\1");
+  world.objects.calls_fail = false;
+  EXPECT_EQ(Value("ff(\"a\")"), "did a");
+  EXPECT_EQ(Value("DBTASK(\"b\")"), "did b");
+  EXPECT_EQ(world.objects.calls,
+            (Texts{"new sernith.clsAction", "new Sernith.clsAction", "sernith.clsAction: a", "Sernith.clsAction: b"}));
 }
 
 TEST_F(BuiltInsTest, AnArrayIsFoundBeforeTheFunctionOfAnObject) {
