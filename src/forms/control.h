@@ -132,7 +132,8 @@ class Control {
   virtual bool UserKeyDown(int key_code, int shift);
   virtual bool UserKeyPress(int key_ascii);
   virtual void UserKeyUp(int key_code, int shift);
-  virtual void UserMouseDown(int button, int shift, Twips x, Twips y);
+  // False: another control did not let the focus go, so the press, its click and its release are none.
+  virtual bool UserMouseDown(int button, int shift, Twips x, Twips y);
   virtual void UserMouseMove(int button, int shift, Twips x, Twips y);
   virtual void UserMouseUp(int button, int shift, Twips x, Twips y);
   virtual void UserClick();

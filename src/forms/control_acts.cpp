@@ -27,11 +27,13 @@ void Control::UserKeyUp(int key_code, int shift) {
   if (key_code != 0) KeyUp(key_code, shift);
 }
 
-void Control::UserMouseDown(int button, int shift, Twips x, Twips y) {
-  if (!AcceptsInput()) return;
+bool Control::UserMouseDown(int button, int shift, Twips x, Twips y) {
+  if (!AcceptsInput()) return false;
   UserFocus();
+  if (CanTakeFocus() && form_->IsActiveForm() && !HasFocus()) return false;
   pressed_button_ = button;
   MouseDown(button, shift, x, y);
+  return true;
 }
 
 void Control::UserMouseMove(int button, int shift, Twips x, Twips y) {

@@ -47,6 +47,7 @@ void Form::SetWindowState(int value) {
   if (window_state_ == value) return;
   window_state_ = value;
   if (peer_) peer_->Changed(Property::WindowState);
+  resized_ = resized_ || visible_;
   if (loaded_) Resize();
 }
 
@@ -81,6 +82,13 @@ void Form::UserResize(Twips width, Twips height) {
   if (loaded_) Resize();
 }
 
+void Form::NoteSize(Twips width, Twips height) {
+  if (width == place_.width && height == place_.height) return;
+  place_.width = width;
+  place_.height = height;
+  resized_ = false;
+}
+
 void Form::UserMove(Twips left, Twips top) {
   place_.left = left;
   place_.top = top;
@@ -89,6 +97,7 @@ void Form::UserMove(Twips left, Twips top) {
 void Form::UserWindowState(int state) {
   if (window_state_ == state) return;
   window_state_ = state;
+  resized_ = true;
   if (loaded_) Resize();
 }
 

@@ -121,6 +121,8 @@ class Form : public Container {
   void UserResize(Twips width, Twips height);  // outer size
   void UserMove(Twips left, Twips top);
   void UserWindowState(int state);
+  // The window has another size because it was shown, or in another state: Resize comes of that.
+  void NoteSize(Twips width, Twips height);
   // The window became the active one of the screen. Another form is told Deactivate first; a window of another program
   // in front of it changes nothing, so false is passed over.
   void UserActivate(bool active);
@@ -131,6 +133,8 @@ class Form : public Container {
   // Keys that a window takes before its controls see them: shortcuts of menus, access keys (Alt and a letter; those of
   // the menu bar are the toolkit's), Tab and Shift+Tab, Enter and Esc for buttons. True when the key was used up.
   bool UserDialogKey(int key_code, int shift);
+  // That, and what it leaves to the control with the focus, else to the form. True when the key was used up.
+  bool UserKey(int key_code, int shift);
 
   forms::FormPeer* Peer() const { return peer_.get(); }
 

@@ -42,6 +42,12 @@ bool Form::UserDialogKey(int key_code, int shift) {
   return false;
 }
 
+// Where no handler was called the form is still there.
+bool Form::UserKey(int key_code, int shift) {
+  if (UserDialogKey(key_code, shift)) return true;
+  return active_control_ ? active_control_->UserKeyDown(key_code, shift) : UserKeyDown(key_code, shift);
+}
+
 bool Form::UseShortcut(int key_code, int shift) {
   Menu* item = key_code == 0 ? nullptr : ItemOfShortcut(menus_, key_code, shift);
   if (item) item->UserClick();

@@ -43,7 +43,6 @@ class RecordingCanvas : public Canvas {
   void Refresh() override;
 
   const std::vector<std::string>& Calls() const { return calls_; }
-  std::string AsText() const;  // all calls, a line each
   void Forget() { calls_.clear(); }
   static std::string PictureText(const Picture& picture);  // as a call names it
 
@@ -65,7 +64,6 @@ class HeadlessToolkit : public Toolkit {
   void DoEvents() override;
   void PopupMenu(Form& form, Menu& menu, Twips x, Twips y) override;
   Control* ControlUnderPointer() override { return under_pointer_; }
-  bool IsMouseButtonDown() override { return mouse_down_; }
 
   // [act] runs in the next DoEvents (or modal loop), after those posted before.
   void Post(std::function<void()> act) { posted_.push_back(std::move(act)); }
@@ -84,7 +82,6 @@ class HeadlessToolkit : public Toolkit {
   const std::vector<std::vector<std::string>>& Popups() const { return popups_; }
 
   void SetControlUnderPointer(Control* control) { under_pointer_ = control; }
-  void SetMouseButtonDown(bool down) { mouse_down_ = down; }
 
   // One tick of a timer that runs; nothing on one that is stopped or not loaded.
   void Tick(Timer& timer);
@@ -113,7 +110,6 @@ class HeadlessToolkit : public Toolkit {
   std::vector<std::vector<std::string>> popups_;
   std::map<Timer*, long> due_;
   Control* under_pointer_ = nullptr;
-  bool mouse_down_ = false;
   long now_ = 0;
   std::vector<std::string> faults_;
 };

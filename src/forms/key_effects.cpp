@@ -38,11 +38,14 @@ long RowReached(const ListControl& list, int key_code) {
   }
 }
 
-bool MoveInList(ListControl& list, int key_code) {
+bool MoveInList(ListControl& list, int key_code, int shift) {
   if (list.ListCount() == 0) return false;
   const long row = RowReached(list, key_code);
   if (row < 0) return false;
-  if (row != list.ListIndex()) list.UserSelect(row);
+  if (row == list.ListIndex()) return true;
+  auto* box = dynamic_cast<ListBox*>(&list);
+  if (box && box->MultiSelect() == 2 && (shift & vbShiftMask) != 0) return box->UserExtend(row), true;
+  list.UserSelect(row);
   return true;
 }
 
@@ -135,7 +138,7 @@ void EditCombo(ComboBox& combo, int key_ascii) {
 
 bool HaveKeyEffect(Control& control, int key_code, int shift) {
   if ((shift & (vbCtrlMask | vbAltMask)) != 0) return false;
-  if (auto* list = dynamic_cast<ListControl*>(&control)) return MoveInList(*list, key_code);
+  if (auto* list = dynamic_cast<ListControl*>(&control)) return MoveInList(*list, key_code, shift);
   if (auto* bar = dynamic_cast<ScrollBar*>(&control)) return ScrollBy(*bar, key_code);
   if (auto* box = dynamic_cast<TextBox*>(&control)) return MoveInText(*box, key_code);
   return false;
@@ -149,7 +152,6 @@ void HaveCharacterEffect(Control& control, int key_ascii) {
       return SelectByCharacter(*list, key_ascii);
     return list->UserToggle(list->ListIndex());
   }
-  if (key_ascii == ' ' && dynamic_cast<Button*>(&control)) control.UserClick();
 }
 
 int CharacterOf(int key_code, int shift) {

@@ -41,7 +41,8 @@ class ListControl : public Control {
 
   // The user moved the selection to [row]: ListIndex and Click (also for the same row, as a mouse click does).
   virtual void UserSelect(long row);
-  void UserScroll(long top_row);  // raises Scroll
+  void UserScroll(long top_row);                     // raises Scroll
+  void NoteTopIndex(long row) { top_index_ = row; }  // what a toolkit shows on top, for rows of another height
   Event<> Scroll;
   Variant Get(Property property) const override;
   void Set(Property property, const Variant& value) override;
@@ -71,6 +72,7 @@ class ListBox : public ListControl {
   void UserSelect(long row) override;  // of extended selection: that row is marked and no other
   Event<long> ItemCheck;
   void UserToggle(long row);  // check box or Ctrl+click
+  void UserExtend(long row);  // Shift: marks all from the selected row to this one, which is selected then; one Click
   Variant Get(Property property) const override;
   void Set(Property property, const Variant& value) override;
 

@@ -88,10 +88,4 @@ void RecordingCanvas::Refresh() {
   Record("refresh");
 }
 
-std::string RecordingCanvas::AsText() const {
-  std::string text;
-  for (const std::string& call : calls_) text += call + "\n";
-  return text;
-}
-
 }  // namespace corvane::forms

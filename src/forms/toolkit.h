@@ -55,7 +55,6 @@ class Toolkit {
   virtual void PopupMenu(Form& form, Menu& menu, Twips x, Twips y) = 0;
   // The control under the mouse pointer, or null: what GetCursorPos with WindowFromPoint tells.
   virtual Control* ControlUnderPointer() = 0;
-  virtual bool IsMouseButtonDown() = 0;
 
   // Where every act of the user enters: runs [act]; an error in it ends the act, is told to OnFault, and never leaves.
   void Guard(const std::function<void()>& act) noexcept;

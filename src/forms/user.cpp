@@ -52,6 +52,12 @@ bool User::Do(Control& control, Act&& act) {
   return true;
 }
 
+// False where the press was refused, too.
+bool User::PressDown(Control& control, int button, int shift, Twips x, Twips y) {
+  bool refused = false;
+  return Do(control, [&] { refused = !control.UserMouseDown(button, shift, x, y); }) && !refused;
+}
+
 void User::ShowFocus() {
   Control* control = form_.IsActiveForm() ? form_.ActiveControl() : nullptr;
   if (control && control->Peer()) control->Peer()->TakeFocus();
@@ -86,10 +92,13 @@ bool User::TypeKey(int key_code, int shift, int key_ascii) {
     used_up = control ? control->UserKeyDown(key_code, shift) : form_.UserKeyDown(key_code, shift);
     if (!used_up && control) used_up = HaveKeyEffect(*control, key_code, shift);
   });
+  bool clicks = false;
   if (!used_up && key_ascii != 0 && form_.Visible()) {
     form_.Toolkit().Guard([&] {
       const bool cancelled = control ? control->UserKeyPress(key_ascii) : form_.UserKeyPress(key_ascii);
-      if (!cancelled && control) HaveCharacterEffect(*control, key_ascii);
+      if (cancelled || !control) return;
+      HaveCharacterEffect(*control, key_ascii);
+      clicks = key_ascii == ' ' && IsPressButton(*control);
     });
   }
   form_.Toolkit().Guard([&] {
@@ -97,6 +106,7 @@ bool User::TypeKey(int key_code, int shift, int key_ascii) {
     Control* now = form_.ActiveControl();
     now ? now->UserKeyUp(key_code, shift) : form_.UserKeyUp(key_code, shift);
   });
+  if (clicks && form_.ActiveControl() == control) Do(*control, [&] { control->UserClick(); });
   return true;
 }
 
@@ -106,11 +116,10 @@ bool User::Click(Control& control) {
 
 bool User::ClickAt(Control& control, Twips x, Twips y, int button, int shift) {
   Control& hit = ControlAt(control, x, y);
-  const auto press = [&] { hit.UserMouseDown(button, shift, x, y); };
   const auto click = [&] {
     if (button == vbLeftButton && IsPressButton(hit)) hit.UserClick();
   };
-  if (!Do(hit, press)) return false;
+  if (!PressDown(hit, button, shift, x, y)) return false;
   Do(hit, click);
   Do(hit, [&] { hit.UserMouseUp(button, shift, x, y); });
   return true;
@@ -137,7 +146,7 @@ bool User::MoveOver(Control& control, Twips x, Twips y, int button, int shift) {
 bool User::Drag(Control& control, Twips x1, Twips y1, Twips x2, Twips y2) {
   Twips dx = x2 - x1, dy = y2 - y1;
   Control& hit = ControlAt(control, x1, y1);
-  if (!Do(hit, [&] { hit.UserMouseDown(vbLeftButton, 0, x1, y1); })) return false;
+  if (!PressDown(hit, vbLeftButton, 0, x1, y1)) return false;
   Do(hit, [&] { hit.UserMouseMove(vbLeftButton, 0, x1 + dx, y1 + dy); });
   Do(hit, [&] { hit.UserMouseUp(vbLeftButton, 0, x1 + dx, y1 + dy); });
   return true;
@@ -146,7 +155,7 @@ bool User::Drag(Control& control, Twips x1, Twips y1, Twips x2, Twips y2) {
 bool User::Choose(ListControl& list, long row) {
   if (row < 0 || row >= list.ListCount()) return false;
   if (auto* combo = dynamic_cast<ComboBox*>(&list)) return ChooseInCombo(*combo, row);
-  if (!Do(list, [&] { list.UserMouseDown(vbLeftButton, 0, 0, 0); })) return false;
+  if (!PressDown(list, vbLeftButton, 0, 0, 0)) return false;
   Do(list, [&] { list.UserSelect(row); });
   Do(list, [&] { list.UserMouseUp(vbLeftButton, 0, 0, 0); });
   return true;

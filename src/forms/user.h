@@ -54,6 +54,7 @@ class User {
  private:
   template <class Act>
   bool Do(Control& control, Act&& act);
+  bool PressDown(Control& control, int button, int shift, Twips x, Twips y);
   void ShowFocus();  // on a toolkit whose widgets did not take part in the act
   bool TypeKey(int key_code, int shift, int key_ascii);
   bool ChooseInCombo(ComboBox& combo, long row);

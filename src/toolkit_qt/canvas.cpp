@@ -183,7 +183,7 @@ void QtCanvas::Text(forms::Twips x, forms::Twips y, std::string_view text, const
 void QtCanvas::PaintPicture(const forms::PictureRef& picture, const forms::Rect& place) {
   if (image_.isNull()) return;
   const QRect box = DeviceBox(place);
-  const QImage& shown = ImageOf(picture, box.size());
+  const QImage shown = ImageOf(picture, box.size());
   if (shown.isNull()) return;
   Painter().drawImage(box.topLeft(), shown);
   Touch(box);

@@ -55,6 +55,7 @@ class FormWindow : public QWidget {
     setFocusPolicy(Qt::NoFocus);
   }
   void Leave() { peer_ = nullptr; }
+  bool HasPeer() const { return peer_ != nullptr; }
 
  protected:
   void closeEvent(QCloseEvent* event) override {
@@ -74,6 +75,9 @@ class FormWindow : public QWidget {
   }
   void keyPressEvent(QKeyEvent* event) override {
     if (!peer_ || !peer_->KeyPressed(*event)) QWidget::keyPressEvent(event);
+  }
+  void keyReleaseEvent(QKeyEvent* event) override {
+    if (peer_) peer_->KeyReleased(*event);
   }
 
  private:
@@ -200,9 +204,14 @@ void FormWindowPeer::RunModalLoop() {
 void FormWindowPeer::WindowResized() {
   LayOut();
   const QSize now = surface_->size();
-  if (showing_ > 0 || !window_->isVisible() || window_->isMinimized() || now == ClientPixels()) return;
+  if (!window_->isVisible() || window_->isMinimized() || now == ClientPixels()) return;
   const forms::Rect frame = FrameOfForm(form_);
-  toolkit_.Guard([&] { form_.UserResize(TwipsOf(now.width()) + frame.width, TwipsOf(now.height()) + frame.height); });
+  const forms::Twips width = TwipsOf(now.width()) + frame.width, height = TwipsOf(now.height()) + frame.height;
+  if (ShownState() != form_.WindowState() || (showing_ > 0 && ShownState() != forms::vbNormal)) {
+    form_.NoteSize(width, height);
+  } else if (showing_ == 0) {
+    toolkit_.Guard([&] { form_.UserResize(width, height); });
+  }
 }
 
 void FormWindowPeer::WindowMoved() {
@@ -212,10 +221,12 @@ void FormWindowPeer::WindowMoved() {
   toolkit_.Guard([&] { form_.UserMove(TwipsOf(now.x()), TwipsOf(now.y())); });
 }
 
+int FormWindowPeer::ShownState() const {
+  return window_->isMinimized() ? forms::vbMinimized : window_->isMaximized() ? forms::vbMaximized : forms::vbNormal;
+}
+
 void FormWindowPeer::WindowStateChanged() {
-  const int now = window_->isMinimized()   ? forms::vbMinimized
-                  : window_->isMaximized() ? forms::vbMaximized
-                                           : forms::vbNormal;
+  const int now = ShownState();
   if (showing_ > 0 || now == form_.WindowState()) return;
   toolkit_.Guard([&] { form_.UserWindowState(now); });
 }
@@ -224,21 +235,22 @@ void FormWindowPeer::CloseAsked() {
   toolkit_.Guard([this] { form_.UserClose(); });
 }
 
-// Only keys that no control took come here.
+// Only keys that no control took come here; a control was asked already.
 bool FormWindowPeer::KeyPressed(const QKeyEvent& event) {
-  const int code = KeyCodeOf(event), shift = ShiftOf(event.modifiers());
-  bool used = false;
+  if (form_.ActiveControl()) return false;
+  const int code = KeyCodeOf(event), shift = ShiftOf(event.modifiers()), character = KeyAsciiOf(event);
+  const QPointer<FormWindow> window = window_;
   toolkit_.Guard([&] {
-    if (form_.ActiveControl()) return;  // it was asked already
-    used = form_.UserDialogKey(code, shift);
-    if (used) return;
-    used = true;
-    int key_code = code, key_ascii = KeyAsciiOf(event);
-    form_.KeyDown(key_code, shift);
-    if (key_code == 0 || OpenMenuByKey(form_, key_code, shift)) return;
-    if (key_ascii != 0) form_.KeyPress(key_ascii);
+    if ((code != 0 && form_.UserKey(code, shift)) || !window || !window->HasPeer()) return;
+    if (!OpenMenuByKey(form_, code, shift) && character != 0) form_.UserKeyPress(character);
   });
-  return used;
+  return true;
+}
+
+void FormWindowPeer::KeyReleased(const QKeyEvent& event) {
+  const int code = KeyCodeOf(event);
+  if (code == 0 || event.isAutoRepeat() || form_.ActiveControl()) return;
+  toolkit_.Guard([&] { form_.UserKeyUp(code, ShiftOf(event.modifiers())); });
 }
 
 bool OpenMenuByKey(forms::Form& form, int key_code, int shift) {

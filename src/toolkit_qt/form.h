@@ -38,12 +38,14 @@ class FormWindowPeer : public forms::FormPeer {
   void WindowStateChanged();
   void CloseAsked();
   bool KeyPressed(const QKeyEvent& event);
+  void KeyReleased(const QKeyEvent& event);
 
  private:
   void ShowPlace();
   void ShowState();
   void ShowVisible();
   void LayOut();
+  int ShownState() const;
   QSize ClientPixels() const;
 
   QtToolkit& toolkit_;

@@ -1,6 +1,7 @@
 #include "toolkit_qt/input.h"
 
 #include <QPointer>
+#include <utility>
 
 #include "forms/form.h"
 #include "toolkit_qt/form.h"
@@ -73,9 +74,7 @@ bool Input::KeyPressed(const QKeyEvent& event) {
   const QPointer<Input> self(this);
   bool used = false;
   const bool done = Tell([&] {
-    if (code != 0) used = control_.FormOf().UserDialogKey(code, shift);
-    if (used || !self) return;
-    if (code != 0) used = control_.UserKeyDown(code, shift);
+    if (code != 0) used = control_.FormOf().UserKey(code, shift);
     if (code != 0 && !used && self) used = OpenMenuByKey(control_.FormOf(), code, shift);
     if (used || !self || character == 0) return;
     used = control_.UserKeyPress(character);
@@ -91,14 +90,20 @@ void Input::KeyReleased(const QKeyEvent& event) {
 bool Input::MousePressed(const QMouseEvent& event, const QWidget& widget) {
   const int button = ButtonOf(event.button());
   if (button == 0) return false;
+  if (std::exchange(refused_, false)) return true;
   const Place place = PlaceOf(event, widget);
-  return !Tell([&] {
+  const QPointer<Input> self(this);
+  bool taken = true;
+  held_ |= button;
+  const bool done = Tell([&] {
     if (event.type() == QEvent::MouseButtonDblClick && button == forms::vbLeftButton) {
       control_.UserDblClick();
     } else {
-      control_.UserMouseDown(button, ShiftOf(event.modifiers()), place.x, place.y);
+      taken = control_.UserMouseDown(button, ShiftOf(event.modifiers()), place.x, place.y);
     }
   });
+  if (self && !taken) held_ &= ~button;
+  return !done || !taken;
 }
 
 bool Input::MouseReleased(QMouseEvent& event, QWidget& widget) {
@@ -106,10 +111,12 @@ bool Input::MouseReleased(QMouseEvent& event, QWidget& widget) {
   if (button == 0) return false;
   const Place place = PlaceOf(event, widget);
   const QPointer<Input> self(this);
+  const bool told = (held_ & button) != 0;
+  held_ &= ~button;
   const bool qt_first = mouse_ == Mouse::ReleasesLast;
   if (qt_first) static_cast<QObject&>(widget).event(&event);
   if (!self) return true;
-  const bool alive = Tell([&] { control_.UserMouseUp(button, ShiftOf(event.modifiers()), place.x, place.y); });
+  const bool alive = !told || Tell([&] { control_.UserMouseUp(button, ShiftOf(event.modifiers()), place.x, place.y); });
   return qt_first || !alive;
 }
 
@@ -119,7 +126,13 @@ void Input::MouseMoved(const QMouseEvent& event, const QWidget& widget) {
 }
 
 void Input::FocusCame() {
-  if (!toolkit_.IsByCode() && !control_.HasFocus()) Tell([&] { control_.UserFocus(); });
+  refused_ = false;
+  if (toolkit_.IsByCode() || control_.HasFocus()) return;
+  const QPointer<Input> self(this);
+  Tell([&] {
+    control_.UserFocus();
+    if (self) refused_ = control_.CanTakeFocus() && control_.FormOf().IsActiveForm() && !control_.HasFocus();
+  });
 }
 
 Input::Place Input::PlaceOf(const QMouseEvent& event, const QWidget& widget) const {

@@ -44,6 +44,8 @@ class Input : public QObject {
   QtToolkit& toolkit_;
   forms::Control& control_;
   QWidget* base_ = nullptr;
+  int held_ = 0;          // the buttons whose press was told and whose release was not
+  bool refused_ = false;  // the focus that came last was not let go by who had it
   Mouse mouse_ = Mouse::Untold;
 };
 

@@ -169,7 +169,7 @@ void ListView::mouseReleaseEvent(QMouseEvent* event) {
   if (on_box || ToggleOnClick || (Extends && (held & Qt::ControlModifier))) {
     OnToggle(row);
   } else if (Extends && (held & Qt::ShiftModifier)) {
-    OnExtend(list_->ListIndex(), row);
+    OnExtend(row);
   } else {
     OnChoose(row);
   }
@@ -186,7 +186,7 @@ long ListView::RowBeginningWith(QChar letter) const {
 }
 
 long ListView::RowOfKey(int key) const {
-  const long now = list_->ListIndex(), page = RowsInView() - 1, last = Count() - 1;
+  const long now = list_->ListIndex(), page = std::max(1L, RowsInView() - 1), last = Count() - 1;
   switch (key) {
     case Qt::Key_Up:
     case Qt::Key_Left:
@@ -220,7 +220,7 @@ void ListView::keyPressEvent(QKeyEvent* event) {
   if (row < 0) return event->ignore();
   Follow(row);
   if (row == list_->ListIndex()) return;
-  (event->modifiers() & Qt::ShiftModifier) && Extends ? OnExtend(list_->ListIndex(), row) : OnChoose(row);
+  (event->modifiers() & Qt::ShiftModifier) && Extends ? OnExtend(row) : OnChoose(row);
 }
 
 void ListView::wheelEvent(QWheelEvent* event) {

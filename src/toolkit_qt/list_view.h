@@ -23,7 +23,7 @@ class ListView : public QWidget {
   // The user's acts.
   std::function<void(long row)> OnChoose;
   std::function<void(long row)> OnToggle;
-  std::function<void(long from, long to)> OnExtend;  // Shift
+  std::function<void(long row)> OnExtend;  // Shift
   std::function<void(long top_row)> OnScroll;
   bool ToggleOnClick = false;  // simple multi-selection
   bool Extends = false;        // extended multi-selection

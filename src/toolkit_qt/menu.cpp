@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "forms/form.h"
+#include "forms/mnemonic.h"
 #include "toolkit_qt/fonts.h"
 #include "toolkit_qt/form.h"
 #include "toolkit_qt/texts.h"
@@ -38,55 +39,6 @@ QString ShortcutText(const forms::Menu& item) {
 bool Holds(const std::vector<forms::Menu*>& items, const forms::Menu* wanted) {
   return std::any_of(items.begin(), items.end(),
                      [&](forms::Menu* item) { return item == wanted || Holds(item->Items(), wanted); });
-}
-
-using OnChosen = std::function<void(forms::Menu&)>;
-
-void Fill(QtToolkit& toolkit, QMenu& shown, const forms::Menu& menu, const OnChosen& on_chosen);
-
-// Entries of a menu that opens out of another are read when it opens.
-void AddSubmenu(QtToolkit& toolkit, QMenu& shown, forms::Menu& item, const OnChosen& on_chosen) {
-  QMenu* sub = shown.addMenu(ShownText(item.Caption()));
-  sub->menuAction()->setEnabled(item.Enabled());
-  QObject::connect(sub, &QMenu::aboutToShow, sub, [&toolkit, sub, &item, on_chosen] {
-    toolkit.Guard([&] { item.UserOpen(); });
-    sub->clear();
-    Fill(toolkit, *sub, item, on_chosen);
-  });
-}
-
-void AddItem(QMenu& shown, forms::Menu& item, const OnChosen& on_chosen) {
-  QString text = ShownText(item.Caption());
-  if (const QString keys = ShortcutText(item); !keys.isEmpty()) text += '\t' + keys;
-  QAction* action = shown.addAction(text);
-  action->setCheckable(item.Checked());
-  action->setChecked(item.Checked());
-  action->setEnabled(item.Enabled());
-  QObject::connect(action, &QAction::triggered, action, [&item, on_chosen] { on_chosen(item); });
-}
-
-void Fill(QtToolkit& toolkit, QMenu& shown, const forms::Menu& menu, const OnChosen& on_chosen) {
-  shown.setFont(MenuFont());
-  for (forms::Menu* item : menu.Items()) {
-    if (!item->Visible()) continue;
-    if (item->IsSeparator()) {
-      shown.addSeparator();
-    } else if (!item->Items().empty()) {
-      AddSubmenu(toolkit, shown, *item, on_chosen);
-    } else {
-      AddItem(shown, *item, on_chosen);
-    }
-  }
-}
-
-// The letter behind the single "&"; 0 for none.
-char AccessKeyOf(const std::string& caption) {
-  for (size_t i = 0; i + 1 < caption.size(); ++i) {
-    if (caption[i] != '&') continue;
-    if (caption[i + 1] != '&') return static_cast<char>(std::toupper(static_cast<unsigned char>(caption[i + 1])));
-    ++i;
-  }
-  return 0;
 }
 
 // Titles of the bar follow their menus; items are read when they are opened.
@@ -131,19 +83,63 @@ void MenuBar::ShowTitles() {
   bar_->clear();
   const auto on_chosen = [this](forms::Menu& item) {
     toolkit_.Guard([&] {
-      if (Holds(form_.Menus(), &item)) item.UserClick();
+      if (IsThere(&item)) item.UserClick();
     });
   };
   for (forms::Menu* menu : form_.Menus()) {
     if (!menu->Visible()) continue;
     QMenu* shown = bar_->addMenu(ShownText(menu->Caption()));
     shown->menuAction()->setEnabled(menu->Enabled());
-    QObject::connect(shown, &QMenu::aboutToShow, &context_, [this, shown, menu, on_chosen] {
-      toolkit_.Guard([&] { menu->UserOpen(); });
-      shown->clear();
-      Fill(toolkit_, *shown, *menu, on_chosen);
-    });
+    OpenWith(*shown, *menu, on_chosen);
   }
+}
+
+bool MenuBar::IsThere(const forms::Menu* item) const {
+  return Holds(form_.Menus(), item);
+}
+
+// The menu's own Click may change its items, or take the form away.
+void MenuBar::OpenWith(QMenu& shown, forms::Menu& menu, const OnChosen& on_chosen) {
+  const QPointer<QObject> self(&context_);
+  QObject::connect(&shown, &QMenu::aboutToShow, &context_, [this, self, &shown, &menu, on_chosen] {
+    if (!IsThere(&menu)) return;
+    const QPointer<QMenu> still(&shown);
+    toolkit_.Guard([&] { menu.UserOpen(); });
+    if (!self || !still || !IsThere(&menu)) return;
+    shown.clear();
+    Fill(shown, menu, on_chosen);
+  });
+}
+
+void MenuBar::Fill(QMenu& shown, const forms::Menu& menu, const OnChosen& on_chosen) {
+  shown.setFont(MenuFont());
+  for (forms::Menu* item : menu.Items()) {
+    if (!item->Visible()) continue;
+    if (item->IsSeparator()) {
+      shown.addSeparator();
+    } else if (!item->Items().empty()) {
+      AddSubmenu(shown, *item, on_chosen);
+    } else {
+      AddItem(shown, *item, on_chosen);
+    }
+  }
+}
+
+// Entries of a menu that opens out of another are read when it opens.
+void MenuBar::AddSubmenu(QMenu& shown, forms::Menu& item, const OnChosen& on_chosen) {
+  QMenu* sub = shown.addMenu(ShownText(item.Caption()));
+  sub->menuAction()->setEnabled(item.Enabled());
+  OpenWith(*sub, item, on_chosen);
+}
+
+void MenuBar::AddItem(QMenu& shown, forms::Menu& item, const OnChosen& on_chosen) {
+  QString text = ShownText(item.Caption());
+  if (const QString keys = ShortcutText(item); !keys.isEmpty()) text += '\t' + keys;
+  QAction* action = shown.addAction(text);
+  action->setCheckable(item.Checked());
+  action->setChecked(item.Checked());
+  action->setEnabled(item.Enabled());
+  QObject::connect(action, &QAction::triggered, &context_, [&item, on_chosen] { on_chosen(item); });
 }
 
 int MenuBar::ShownHeight() {
@@ -164,19 +160,20 @@ bool MenuBar::Open(int key_code) {
   for (forms::Menu* menu : form_.Menus()) {
     if (!menu->Visible()) continue;
     ++place;
-    if (!menu->Enabled() || AccessKeyOf(menu->Caption()) != key_code) continue;
+    if (!menu->Enabled() || forms::AccessKeyOf(menu->Caption()) != key_code) continue;
     bar_->setActiveAction(bar_->actions().value(place));
     return true;
   }
   return false;
 }
 
-forms::Menu* ChooseFrom(QtToolkit& toolkit, forms::Menu& menu, QPoint place) {
+forms::Menu* MenuBar::ChooseFrom(forms::Menu& menu, QPoint place) {
   forms::Menu* chosen = nullptr;
   QMenu shown;
-  Fill(toolkit, shown, menu, [&](forms::Menu& item) { chosen = &item; });
+  const QPointer<QObject> self(&context_);
+  Fill(shown, menu, [&](forms::Menu& item) { chosen = &item; });
   if (!shown.isEmpty()) shown.exec(place);
-  return chosen;
+  return self && chosen && IsThere(chosen) ? chosen : nullptr;
 }
 
 }  // namespace corvane::toolkit_qt

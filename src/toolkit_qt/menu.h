@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
+#include <functional>
 #include <memory>
 
 #include "forms/menu.h"
@@ -24,8 +25,16 @@ class MenuBar {
   int ShownHeight();
   int LayOut(int width);  // returns the height it takes
   bool Open(int key_code);
+  // Shows the items of [menu] at a place of the screen and waits. The chosen one, null for none, or when the form went.
+  forms::Menu* ChooseFrom(forms::Menu& menu, QPoint place);
 
  private:
+  using OnChosen = std::function<void(forms::Menu&)>;
+  bool IsThere(const forms::Menu* item) const;
+  void OpenWith(QMenu& shown, forms::Menu& menu, const OnChosen& on_chosen);
+  void Fill(QMenu& shown, const forms::Menu& menu, const OnChosen& on_chosen);
+  void AddSubmenu(QMenu& shown, forms::Menu& item, const OnChosen& on_chosen);
+  void AddItem(QMenu& shown, forms::Menu& item, const OnChosen& on_chosen);
   void ShowTitles();
   QtToolkit& toolkit_;
   forms::Form& form_;
@@ -33,9 +42,6 @@ class MenuBar {
   bool stale_ = true;
   QObject context_;  // the bar's window may outlive this: with it end the connections
 };
-
-// Shows the items of [menu] at a place of the screen and waits. The chosen one, null for none.
-forms::Menu* ChooseFrom(QtToolkit& toolkit, forms::Menu& menu, QPoint place);
 
 std::unique_ptr<forms::Peer> NewMenuPeer(forms::Menu& menu);
 

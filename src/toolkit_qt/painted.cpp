@@ -30,7 +30,7 @@ void PaintSunkenFrame(QPainter& painter, const QRect& place) {
 
 void PaintShownPicture(QPainter& painter, const forms::PictureRef& picture, const QRect& place) {
   const double scale = painter.device()->devicePixelRatioF();
-  const QImage& image = ImageOf(picture, (QSizeF(place.size()) * scale).toSize());
+  const QImage image = ImageOf(picture, (QSizeF(place.size()) * scale).toSize());
   if (!image.isNull()) painter.drawImage(QRectF(place), image, QRectF(image.rect()));
 }
 

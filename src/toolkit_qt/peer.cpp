@@ -74,7 +74,6 @@ void ControlPeer::Changed(forms::Property property) {
   const auto is = [&](auto... any) { return property == Property::All || ((property == any) || ...); };
   if (is(Property::Font)) ShowFont();
   if (is(Property::BackColor, Property::ForeColor)) ShowColors();
-  if (is(Property::Container)) widget_->setParent(InsideOf(control_.ContainerOf()));
   if (is(Property::Left, Property::Top, Property::Width, Property::Height)) ShowPlace();
   if (is(Property::ToolTipText)) widget_->setToolTip(ShownText(control_.ToolTipText()));
   if (is(Property::MousePointer)) {
@@ -82,7 +81,7 @@ void ControlPeer::Changed(forms::Property property) {
   }
   ShowOwn(property);
   if (is(Property::Enabled)) widget_->setEnabled(control_.Enabled());
-  if (is(Property::Visible, Property::Container)) widget_->setVisible(control_.Visible());
+  if (is(Property::Visible)) widget_->setVisible(control_.Visible());
   --showing_;
 }
 
@@ -126,12 +125,14 @@ void ControlPeer::ReportThenShow(forms::Property property, const std::function<v
 }
 
 void RemadePeer::Changed(forms::Property property) {
-  if (made_for_ != variant_()) {
-    made_for_ = variant_();
-    shown_ = make_();
-    property = forms::Property::All;
-  }
-  shown_->Changed(property);
+  if (made_for_ == variant_()) return shown_->Changed(property);
+  made_for_ = variant_();
+  const QWidget* before = Widget();
+  const QWidget* focus = before ? before->window()->focusWidget() : nullptr;
+  const bool had_focus = focus && (focus == before || before->isAncestorOf(focus));
+  shown_ = make_();
+  shown_->Changed(forms::Property::All);
+  if (had_focus) shown_->TakeFocus();
 }
 
 }  // namespace corvane::toolkit_qt

@@ -4,8 +4,10 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QSvgRenderer>
+#include <algorithm>
 #include <map>
 #include <memory>
+#include <vector>
 
 namespace corvane::toolkit_qt {
 namespace {
@@ -14,8 +16,10 @@ struct Decoded {
   std::weak_ptr<const forms::Picture> owner;
   std::unique_ptr<QSvgRenderer> drawing;  // of a vector picture
   QImage pixels;                          // of any other, at its own size
-  std::map<std::pair<int, int>, QImage> scaled;
+  std::vector<QImage> scaled;             // the one asked for last is at the end
 };
+
+constexpr size_t kSizesKept = 4;
 
 bool LooksLikeSvg(const QByteArray& bytes) {
   const QByteArray start = bytes.left(1024).trimmed();
@@ -113,12 +117,20 @@ QSize SizeOf(const forms::PictureRef& picture) {
   return decoded.drawing ? decoded.drawing->defaultSize() : decoded.pixels.size();
 }
 
-const QImage& ImageOf(const forms::PictureRef& picture, QSize size) {
-  static const QImage nothing;
-  if (!picture || size.isEmpty()) return nothing;
+QImage ImageOf(const forms::PictureRef& picture, QSize size) {
+  if (!picture || size.isEmpty()) return {};
   Decoded& decoded = DecodedOf(picture);
-  QImage& image = decoded.scaled[{size.width(), size.height()}];
-  if (image.isNull()) image = Draw(decoded, size);
+  auto& kept = decoded.scaled;
+  const auto found =
+      std::find_if(kept.begin(), kept.end(), [size](const QImage& image) { return image.size() == size; });
+  if (found != kept.end()) {
+    std::rotate(found, found + 1, kept.end());
+    return kept.back();
+  }
+  const QImage image = Draw(decoded, size);
+  if (image.isNull()) return image;
+  if (kept.size() == kSizesKept) kept.erase(kept.begin());
+  kept.push_back(image);
   return image;
 }
 

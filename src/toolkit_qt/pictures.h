@@ -12,9 +12,9 @@ namespace corvane::toolkit_qt {
 // Its own size in logical pixels; empty for none or one that cannot be decoded.
 QSize SizeOf(const forms::PictureRef& picture);
 
-// Scaled to [size] device pixels; null for none or one that cannot be decoded. Kept for the next call while the picture
-// lives.
-const QImage& ImageOf(const forms::PictureRef& picture, QSize size);
+// Scaled to [size] device pixels; null for none or one that cannot be decoded. The few sizes asked for last are kept
+// while the picture lives.
+QImage ImageOf(const forms::PictureRef& picture, QSize size);
 
 // For buttons, menus and windows: sharp at each resolution of the display.
 QIcon IconOf(const forms::PictureRef& picture);

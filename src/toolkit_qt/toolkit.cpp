@@ -109,16 +109,12 @@ void QtToolkit::DoEvents() {
 void QtToolkit::PopupMenu(forms::Form& form, forms::Menu& menu, forms::Twips x, forms::Twips y) {
   auto* peer = dynamic_cast<FormWindowPeer*>(form.Peer());
   if (!peer || !peer->Surface()) return;
-  forms::Menu* chosen = ChooseFrom(*this, menu, peer->Surface()->mapToGlobal(QPoint(Pixels(x), Pixels(y))));
+  forms::Menu* chosen = peer->Menus().ChooseFrom(menu, peer->Surface()->mapToGlobal(QPoint(Pixels(x), Pixels(y))));
   if (chosen) Guard([&] { chosen->UserClick(); });
 }
 
 forms::Control* QtToolkit::ControlUnderPointer() {
   return ControlShownBy(QApplication::widgetAt(QCursor::pos()));
-}
-
-bool QtToolkit::IsMouseButtonDown() {
-  return QGuiApplication::mouseButtons() != Qt::NoButton;
 }
 
 double QtToolkit::ScaleFor(const QWidget& widget) const {

@@ -33,7 +33,6 @@ class QtToolkit : public forms::Toolkit {
   void DoEvents() override;
   void PopupMenu(forms::Form& form, forms::Menu& menu, forms::Twips x, forms::Twips y) override;
   forms::Control* ControlUnderPointer() override;
-  bool IsMouseButtonDown() override;
 
   // While one lives, focus and size change because the logic said so, and are not reported as acts.
   class ByCode {

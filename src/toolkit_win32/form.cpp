@@ -111,6 +111,7 @@ void FormWindowPeer::Changed(forms::Property property) {
     if (property == Property::Visible) form_.Hide();
     return;
   }
+  const Life self = life_;
   const Win32Toolkit::ByCode by_code(toolkit_);
   ++showing_;
   const auto is = [&](auto... any) { return property == Property::All || ((property == any) || ...); };
@@ -119,7 +120,6 @@ void FormWindowPeer::Changed(forms::Property property) {
   if (is(Property::BackColor)) RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
   if (is(Property::Left, Property::Top, Property::Width, Property::Height)) ShowPlace();
   if (is(Property::WindowState)) ShowState();
-  const Life self = life_;
   if (is(Property::Visible)) ShowVisible();
   if (!self.expired()) --showing_;
 }
@@ -136,7 +136,8 @@ void FormWindowPeer::ShowPlace() {
   if (form_.WindowState() != forms::vbNormal && form_.Visible()) return;
   const RECT wanted = toolkit_.Scale().PixelsOf(form_.Place());
   POINT corner{wanted.left, wanted.top};
-  if (!IsPlaced(form_)) corner = MiddleOfScreen(toolkit_.HostWindow(), {WidthOf(wanted), HeightOf(wanted)});
+  if (!IsPlaced(form_) && !IsWindowVisible(Handle()))
+    corner = MiddleOfScreen(toolkit_.HostWindow(), {WidthOf(wanted), HeightOf(wanted)});
   placing_ = true;
   SetWindowPos(Handle(), nullptr, corner.x, corner.y, WidthOf(wanted), HeightOf(wanted),
                SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
@@ -170,7 +171,9 @@ void FormWindowPeer::BelongTo(HWND owner) {
 void FormWindowPeer::ShowOnScreen() {
   if (IsWindowVisible(Handle())) return;
   menus_.ShowNow();
-  ShowPlace();
+  // Hidden in another state it comes back at the place that it had before that.
+  const bool restored = form_.WindowState() == forms::vbNormal && ShownState() != forms::vbNormal;
+  if (!restored) ShowPlace();
   if (!IsPlaced(form_)) {
     const RECT place = OuterPlace(Handle());
     form_.UserMove(toolkit_.Scale().TwipsOf(place.left), toolkit_.Scale().TwipsOf(place.top));
@@ -181,7 +184,7 @@ void FormWindowPeer::ShowOnScreen() {
     modal_ = std::make_shared<ModalRun>(Handle());
   }
   constexpr int kShow[] = {SW_SHOWNA, SW_SHOWMINNOACTIVE, SW_SHOWMAXIMIZED};
-  ShowWindow(Handle(), kShow[form_.WindowState()]);
+  ShowWindow(Handle(), restored ? SW_SHOWNOACTIVATE : kShow[form_.WindowState()]);
 }
 
 void FormWindowPeer::TakeFocus() {
@@ -265,10 +268,7 @@ LRESULT FormWindowPeer::OnMessage(Window& window, const Message& message) {
 bool FormWindowPeer::OnKey(Window&, int key_code, int shift) {
   const Life self = life_;
   bool used = false;
-  toolkit_.Guard([&] {
-    used = form_.UserDialogKey(key_code, shift);
-    if (!used && !self.expired() && !form_.ActiveControl()) used = form_.UserKeyDown(key_code, shift);
-  });
+  toolkit_.Guard([&] { used = form_.UserKey(key_code, shift); });
   return used || self.expired();
 }
 
@@ -314,16 +314,20 @@ void FormWindowPeer::PutWhereFocusBelongs() {
 
 void FormWindowPeer::WindowResized(WPARAM how) {
   if (!form_.Visible() || !IsWindowVisible(Handle())) return;
-  const Life self = life_;
   const int state = ShownState();
-  if (showing_ == 0 && state != form_.WindowState()) {
+  const bool changes_state = state != form_.WindowState();
+  const RECT now = OuterPlace(Handle()), wanted = toolkit_.Scale().PixelsOf(form_.Place());
+  const bool resized =
+      !placing_ && how != SIZE_MINIMIZED && (WidthOf(now) != WidthOf(wanted) || HeightOf(now) != HeightOf(wanted));
+  const forms::Twips width = toolkit_.Scale().TwipsOf(WidthOf(now)), height = toolkit_.Scale().TwipsOf(HeightOf(now));
+  if (showing_ > 0) {
+    if (resized) form_.NoteSize(width, height);
+  } else if (changes_state) {
+    if (resized) form_.NoteSize(width, height);
     toolkit_.Guard([&] { form_.UserWindowState(state); });
+  } else if (resized) {
+    toolkit_.Guard([&] { form_.UserResize(width, height); });
   }
-  if (self.expired() || placing_ || how == SIZE_MINIMIZED) return;
-  const RECT wanted = toolkit_.Scale().PixelsOf(form_.Place()), now = OuterPlace(Handle());
-  if (WidthOf(now) == WidthOf(wanted) && HeightOf(now) == HeightOf(wanted)) return;
-  toolkit_.Guard(
-      [&] { form_.UserResize(toolkit_.Scale().TwipsOf(WidthOf(now)), toolkit_.Scale().TwipsOf(HeightOf(now))); });
 }
 
 void FormWindowPeer::WindowMoved() {

@@ -171,7 +171,7 @@ void ListView::Release(POINT place) {
   if (row < 0) return;
   const int held = ShiftNow();
   if (IsOnBox(place) || ToggleOnClick || (Extends && (held & forms::vbCtrlMask))) return OnToggle(row);
-  if (Extends && (held & forms::vbShiftMask)) return OnExtend(list_.ListIndex(), row);
+  if (Extends && (held & forms::vbShiftMask)) return OnExtend(row);
   OnChoose(row);
 }
 
@@ -186,7 +186,7 @@ long ListView::RowBeginningWith(wchar_t letter) const {
 }
 
 long ListView::RowOfKey(int key) const {
-  const long now = list_.ListIndex(), page = RowsInView() - 1, last = Count() - 1;
+  const long now = list_.ListIndex(), page = std::max(1L, RowsInView() - 1), last = Count() - 1;
   switch (key) {
     case VK_UP:
     case VK_LEFT:
@@ -210,7 +210,7 @@ long ListView::RowOfKey(int key) const {
 void ListView::MoveTo(long row) {
   Follow(row);
   if (row == list_.ListIndex()) return;
-  Extends && (ShiftNow() & forms::vbShiftMask) ? OnExtend(list_.ListIndex(), row) : OnChoose(row);
+  Extends && (ShiftNow() & forms::vbShiftMask) ? OnExtend(row) : OnChoose(row);
 }
 
 bool ListView::KeyDown(int key) {

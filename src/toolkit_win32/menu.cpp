@@ -139,7 +139,14 @@ void MenuBar::Opens(HMENU shown) {
   forms::Menu* menu = found->second;
   const Life self = life_;
   toolkit_.Guard([menu] { menu->UserOpen(); });
-  if (!self.expired() && IsThere(menu)) Fill(shown, *menu);
+  if (self.expired()) return;
+  if (IsThere(menu)) Fill(shown, *menu);
+  ForgetClosed();
+}
+
+// A menu that is filled anew destroys those that opened out of it.
+void MenuBar::ForgetClosed() {
+  std::erase_if(opened_by_, [](const auto& entry) { return !IsMenu(entry.first); });
 }
 
 void MenuBar::Chosen(unsigned number) {
@@ -187,7 +194,7 @@ forms::Menu* MenuBar::ChooseFrom(forms::Menu& menu, POINT place) {
   }
   DestroyMenu(shown);
   if (self.expired()) return nullptr;
-  std::erase_if(opened_by_, [](const auto& entry) { return !IsMenu(entry.first); });
+  ForgetClosed();
   const size_t chosen = number - kFirstNumber;
   forms::Menu* item = number >= kFirstNumber && chosen < items_.size() ? items_[chosen] : nullptr;
   items_.clear();

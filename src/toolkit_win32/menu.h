@@ -32,6 +32,7 @@ class MenuBar {
 
  private:
   void Opens(HMENU shown);
+  void ForgetClosed();
   void Fill(HMENU shown, const forms::Menu& menu);
   void AddItem(HMENU shown, forms::Menu& item);
   void FillTitles();

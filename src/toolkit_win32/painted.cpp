@@ -70,6 +70,16 @@ void RepaintWithClear(HWND window, const RECT* place) {
   }
 }
 
+// Where it stood something else is seen now. A form that is unloaded is hidden already.
+PaintedPeer::~PaintedPeer() {
+  if (Handle() && control_.FormOf().Visible()) Repaint();
+}
+
+void PaintedPeer::BringToFront(bool front) {
+  ControlPeer::BringToFront(front);
+  Repaint();
+}
+
 void PaintedPeer::CreatePainted(Mouse mouse, bool takes_mouse) {
   takes_mouse_ = takes_mouse;
   Create({nullptr}, mouse);

@@ -11,6 +11,8 @@ namespace corvane::toolkit_win32 {
 class PaintedPeer : public ControlPeer {
  public:
   using ControlPeer::ControlPeer;
+  ~PaintedPeer() override;
+  void BringToFront(bool front) override;
   // For controls in front of this one. The origin of [dc] is this one's.
   void PaintWithoutGround(HDC dc) { Paint(dc, window_.Client()); }
   // Whether what lies behind shows through.

@@ -78,12 +78,11 @@ void ControlPeer::Changed(forms::Property property) {
   const auto is = [&](auto... any) { return property == Property::All || ((property == any) || ...); };
   if (is(Property::Font)) ShowFont();
   if (is(Property::BackColor, Property::ForeColor)) ShowColors();
-  if (property == Property::Container) SetParent(Handle(), InsideOf(control_.ContainerOf()));
   if (is(Property::Left, Property::Top, Property::Width, Property::Height)) ShowPlace();
   if (is(Property::ToolTipText)) toolkit_.Tips().Show(Handle(), ShownText(control_.ToolTipText()));
   ShowOwn(property);
   if (is(Property::Enabled)) ShowEnabled();
-  if (is(Property::Visible, Property::Container)) ShowVisible();
+  if (is(Property::Visible)) ShowVisible();
   --showing_;
 }
 
@@ -201,12 +200,8 @@ LRESULT ControlPeer::OnMessage(Window& window, const Message& message) {
 }
 
 bool ControlPeer::OnKey(Window&, int key_code, int shift) {
-  const Life self = life_;
   bool used = false;
-  const bool done = Tell([&] {
-    used = control_.FormOf().UserDialogKey(key_code, shift);
-    if (!used && !self.expired()) used = control_.UserKeyDown(key_code, shift);
-  });
+  const bool done = Tell([&] { used = control_.FormOf().UserKey(key_code, shift); });
   return used || !done;
 }
 
@@ -249,17 +244,23 @@ LRESULT ControlPeer::MousePressed(Window& window, const Message& message) {
   const forms::Point place = PlaceOf(message);
   const int button = ButtonOf(message.id), shift = ShiftOfMouse(message.w);
   const Life self = life_;
+  bool taken = true;
   held_ |= button;
   ++pressing_;
   const bool done = Tell([&] {
     if (IsDoubleClick(message.id) && button == forms::vbLeftButton) {
       control_.UserDblClick();
     } else {
-      control_.UserMouseDown(button, shift, place.x, place.y);
+      taken = control_.UserMouseDown(button, shift, place.x, place.y);
     }
   });
   if (self.expired()) return 0;
   --pressing_;
+  if (!taken) {
+    held_ &= ~button;
+    if (captures_) FreeMouse();
+    return 0;
+  }
   if (captures_ && GetCapture() != message.window) {  // a window that a handler opened took it
     TellLostButtons();
     return 0;

@@ -1,6 +1,7 @@
 #include "forms/scroll_bar.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "toolkit_win32/peer.h"
 #include "toolkit_win32/peers.h"
@@ -69,6 +70,9 @@ class ScrollBarPeer : public ControlPeer {
       case SB_THUMBPOSITION:
         dragging_ = false;
         return MoveTo(ThumbPlace());
+      case SB_ENDSCROLL:  // alone when the bar lost the mouse under the thumb
+        if (std::exchange(dragging_, false)) MoveBy(0);
+        return;
       default:
         break;
     }

@@ -163,6 +163,7 @@ class DrawnPeer : public PaintedPeer {
   void BringToFront(bool front) override {
     const HWND above = front ? JustAboveTheDrawn() : HWND_BOTTOM;
     SetWindowPos(Handle(), above, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    Repaint();
   }
 
  private:

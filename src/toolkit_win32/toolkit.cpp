@@ -162,13 +162,6 @@ forms::Control* Win32Toolkit::ControlUnderPointer() {
   return GetCursorPos(&place) ? ControlShownBy(WindowFromPoint(place)) : nullptr;
 }
 
-bool Win32Toolkit::IsMouseButtonDown() {
-  for (int button : {VK_LBUTTON, VK_RBUTTON, VK_MBUTTON}) {
-    if (GetAsyncKeyState(button) & 0x8000) return true;
-  }
-  return false;
-}
-
 void Win32Toolkit::SetScreenPointer(int mouse_pointer) {
   if (std::exchange(screen_pointer_, mouse_pointer) == mouse_pointer) return;
   POINT place{};

@@ -45,7 +45,6 @@ class Win32Toolkit : public forms::Toolkit, private MessageSink {
   void DoEvents() override;
   void PopupMenu(forms::Form& form, forms::Menu& menu, forms::Twips x, forms::Twips y) override;
   forms::Control* ControlUnderPointer() override;
-  bool IsMouseButtonDown() override;
 
   // The pointer over all our windows (Screen.MousePointer); 0: each its own.
   void SetScreenPointer(int mouse_pointer);

@@ -174,15 +174,6 @@ RECT Window::Client() const {
   return client;
 }
 
-void Window::ChangeStyle(DWORD add, DWORD remove) {
-  const auto style = static_cast<DWORD>(GetWindowLongPtrW(handle_, GWL_STYLE));
-  const DWORD wanted = (style & ~remove) | add;
-  if (wanted == style) return;
-  SetWindowLongPtrW(handle_, GWL_STYLE, static_cast<LONG_PTR>(wanted));
-  SetWindowPos(handle_, nullptr, 0, 0, 0, 0,
-               SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
-}
-
 Window* WindowAt(HWND handle) {
   const WindowSlot* slot = handle ? WindowSlot::Of(handle) : nullptr;
   return slot ? slot->window : nullptr;

@@ -68,8 +68,6 @@ class Window {
   std::wstring Text() const;
   void SetText(const std::wstring& text);  // nothing when it is the same
   RECT Client() const;
-  // Adds and takes away styles.
-  void ChangeStyle(DWORD add, DWORD remove);
 
  private:
   friend struct WindowSlot;

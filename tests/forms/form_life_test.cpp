@@ -190,6 +190,19 @@ TEST_F(FormLife, MoveRaisesResizeOnlyForAnotherSize) {
   EXPECT_EQ(window.Taken(), (Log{"Resize"}));
 }
 
+// A toolkit shows a window that was hidden when its state changed.
+TEST_F(FormLife, ASizeThatCameOfShowingIsResizedOnce) {
+  window.Show();
+  window.Hide();
+  window.SetWindowState(vbMaximized);
+  window.Taken();
+  window.NoteSize(9000, 6000);
+  window.Show();
+  const Log log = window.Taken();
+  EXPECT_EQ(std::count(log.begin(), log.end(), "Resize"), 1);
+  EXPECT_EQ(window.Width(), 9000);
+}
+
 TEST_F(FormLife, MinimisingAndRestoringRaiseResize) {
   window.Show();
   window.Taken();

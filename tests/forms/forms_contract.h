@@ -373,6 +373,27 @@ TEST_P(FormsContract, ChoosingARowSelectsAndClicks) {
   EXPECT_EQ(window->Taken(), (Log{"lst_MouseDown", "lst_Click", "lst_MouseUp"}));
 }
 
+TEST_P(FormsContract, ShiftMarksAllRowsOnTheWayWithOneClick) {
+  window->lst.SetMultiSelect(2);
+  Show();
+  Focus(window->lst);
+  window->lst.UserSelect(0);
+  window->Taken();
+  driver->Press(*window, vbKeyEnd, vbShiftMask);
+  EXPECT_EQ(window->Taken(), (Log{"lst_Click"}));
+  EXPECT_EQ(window->lst.SelCount(), 3);
+  EXPECT_EQ(window->lst.ListIndex(), 2);
+}
+
+TEST_P(FormsContract, PagesOfAListOfOneRowAreARow) {
+  window->lst.SetHeight(300);
+  Show();
+  window->lst.SetListIndex(0);
+  Focus(window->lst);
+  driver->Press(*window, vbKeyPageDown, 0);
+  EXPECT_GT(window->lst.ListIndex(), 0);
+}
+
 TEST_P(FormsContract, ArrowsWalkThroughAList) {
   Show();
   window->lst.SetListIndex(0);
@@ -453,6 +474,69 @@ TEST_P(FormsContract, ARefusedValidationKeepsTheFocus) {
   EXPECT_EQ(window->ActiveControl(), &window->txt);
   driver->Type(*window, "a");
   EXPECT_EQ(window->txt.Text(), "a");
+}
+
+TEST_P(FormsContract, ARefusedValidationKeepsTheMouseToo) {
+  Show();
+  int asked = 0;
+  window->txt.Validate = [&](bool& cancel) { cancel = true, ++asked; };
+  const auto presses_nothing = [&](Control& control, const std::function<void()>& act) {
+    Focus(window->txt);
+    asked = 0;
+    act();
+    driver->Settle();
+    EXPECT_EQ(window->Taken(), Log{}) << control.Name();
+    EXPECT_EQ(asked, 1) << control.Name();
+    EXPECT_EQ(window->ActiveControl(), &window->txt) << control.Name();
+  };
+  for (Control* control : {static_cast<Control*>(&window->cmd), static_cast<Control*>(&window->pic),
+                           static_cast<Control*>(&window->chk)}) {
+    presses_nothing(*control, [&] { Click(*control); });
+  }
+  presses_nothing(window->lst, [&] { driver->ChooseRow(window->lst, 1); });
+  EXPECT_EQ(window->lst.ListIndex(), -1);
+  EXPECT_EQ(window->chk.Value(), vbUnchecked);
+  window->txt.Validate = nullptr;
+  Click(window->cmd);
+  EXPECT_EQ(window->Taken(), (Log{"cmd_MouseDown", "cmd_Click", "cmd_MouseUp"}));
+}
+
+TEST_P(FormsContract, TheBlankPressesAButtonWhenItIsLetGo) {
+  Show();
+  Focus(window->cmd);
+  window->cmd.KeyDown = [&](int&, int) { window->log.push_back("KeyDown"); };
+  window->cmd.KeyPress = [&](int& key) { window->log.push_back("KeyPress " + std::to_string(key)); };
+  window->cmd.KeyUp = [&](int&, int) { window->log.push_back("KeyUp"); };
+  driver->Type(*window, " ");
+  EXPECT_EQ(window->Taken(), (Log{"KeyDown", "KeyPress 32", "KeyUp", "cmd_Click"}));
+}
+
+TEST_P(FormsContract, AFormWithoutControlsHearsKeysItself) {
+  Form bare(driver->Toolkit(), "frmBare");
+  bare.Move(300, 300, 3000, 3000);
+  Log told;
+  bare.KeyDown = [&](int& key, int) { told.push_back("KeyDown " + std::to_string(key)); };
+  bare.KeyPress = [&](int& key) { told.push_back("KeyPress " + std::to_string(key)); };
+  bare.KeyUp = [&](int& key, int) { told.push_back("KeyUp " + std::to_string(key)); };
+  bare.Show();
+  driver->Settle();
+  driver->Type(bare, "a");
+  EXPECT_EQ(told, (Log{"KeyDown 65", "KeyPress 97", "KeyUp 65"}));
+  told.clear();
+  bare.KeyDown = [&](int& key, int) { key = 0; };
+  driver->Type(bare, "a");
+  EXPECT_EQ(told, (Log{"KeyUp 65"}));
+}
+
+TEST_P(FormsContract, AFormMayGoInAKeyOfItsOwn) {
+  Form bare(driver->Toolkit(), "frmBare");
+  bare.KeyDown = [&](int&, int) { bare.Unload(); };
+  bare.Show();
+  driver->Settle();
+  driver->Type(bare, "a");
+  driver->Settle();
+  EXPECT_FALSE(bare.IsLoaded());
+  EXPECT_EQ(faults, Log{});
 }
 
 TEST_P(FormsContract, EnterAndEscapePressTheirButtons) {
@@ -779,6 +863,21 @@ TEST_P(FormsContract, ResizingByCodeRaisesResizeAndKeepsTheFrame) {
   EXPECT_LE(window->ScaleWidth(), 7500);
   EXPECT_GT(window->ScaleWidth(), 7000);
   EXPECT_LT(window->ScaleHeight(), 6000);
+}
+
+TEST_P(FormsContract, AnotherStateIsResizedWithTheNewSize) {
+  Show();
+  const Twips width = window->Width();
+  std::vector<Twips> widths;
+  window->Resize = [&] { widths.push_back(window->Width()); };
+  for (int state : {vbMaximized, vbNormal}) {
+    widths.clear();
+    window->SetWindowState(state);
+    driver->Settle();
+    ASSERT_FALSE(widths.empty()) << state;
+    EXPECT_EQ(widths.back(), window->Width()) << state;
+  }
+  EXPECT_EQ(window->Width(), width);
 }
 
 TEST_P(FormsContract, DoEventsReturns) {

@@ -213,6 +213,21 @@ TEST_F(Lists, AClickInAnExtendedSelectionMarksThatRowAlone) {
   EXPECT_EQ(lst.SelCount(), 2);
 }
 
+TEST_F(Lists, ExtendingMarksAllBetweenInOneClick) {
+  lst.SetMultiSelect(2);
+  Fill({"a", "b", "c", "d"});
+  Show();
+  lst.UserSelect(3);
+  window.Taken();
+  lst.UserExtend(1);
+  EXPECT_EQ(window.Taken(), (Log{"lst_Click"}));
+  EXPECT_EQ(lst.SelCount(), 3);
+  EXPECT_FALSE(lst.Selected(0));
+  EXPECT_EQ(lst.ListIndex(), 1);
+  lst.UserExtend(4);
+  EXPECT_EQ(window.Taken(), Log{});
+}
+
 TEST_F(Lists, AClickInASimpleSelectionLeavesTheMarks) {
   lst.SetMultiSelect(1);
   Fill({"a", "b"});

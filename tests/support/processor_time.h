@@ -3,6 +3,7 @@
 
 #ifdef _WIN32
 #include <windows.h>
+#undef RGB  // a name of forms/
 #else
 #include <ctime>
 #endif

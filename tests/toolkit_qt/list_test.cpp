@@ -138,6 +138,29 @@ TEST_F(Lists, TopIndexEndsOnTheLastPage) {
   EXPECT_EQ(list.TopIndex(), 100 - View().RowsInView());
 }
 
+TEST_F(Lists, TheLastRowWithABoxCanBeReached) {
+  list.SetStyle(1);
+  list.SetHeight(1500);
+  Fill(100);
+  Show();
+  list.SetListIndex(99);
+  EXPECT_EQ(View().TopRow(), 100 - View().RowsInView());
+  list.SetTopIndex(10);
+  EXPECT_EQ(View().TopRow(), 10);
+}
+
+TEST_F(Lists, AHandlerMayUnloadTheFormWhileRowsAreMarked) {
+  list.SetMultiSelect(2);
+  Fill(6);
+  Show();
+  ClickRow(0);
+  list.Click = [this] { form.Unload(); };
+  ClickRow(4, Qt::ShiftModifier);
+  EXPECT_FALSE(form.IsLoaded());
+  EXPECT_EQ(list.SelCount(), 5);
+  EXPECT_EQ(faults, Strings{});
+}
+
 TEST_F(Lists, HundredThousandRowsCostOnlyThoseInView) {
   for (int row = 0; row < 100000; ++row) list.AddItem("row");
   Show();

@@ -297,6 +297,16 @@ TEST_F(WindowTest, DisabledIconIsAPaleGrayOfItsShape) {
   }
 }
 
+TEST_F(WindowTest, APictureOfManySizesKeepsTheLastFew) {
+  const forms::PictureRef picture = IconFile("search");
+  const auto drawn = [&](int size) { return ImageOf(picture, {size, size}).cacheKey(); };
+  const qint64 first = drawn(10);
+  for (int size : {11, 12, 13}) drawn(size);
+  EXPECT_EQ(drawn(10), first);
+  for (int size : {14, 15, 16, 17}) drawn(size);
+  EXPECT_NE(drawn(10), first);
+}
+
 TEST_F(WindowTest, SystemColoursAreThoseOfThePalette) {
   const QPalette palette = QGuiApplication::palette();
   EXPECT_EQ(ShownColor(forms::kWindowBackground), palette.color(QPalette::Base));

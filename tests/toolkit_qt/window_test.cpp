@@ -329,6 +329,42 @@ TEST_F(Window, ClickMovesTheFocusAndValidateMayKeepIt) {
   EXPECT_TRUE(second.HasFocus());
 }
 
+TEST_F(Window, AFocusedBoxThatIsMadeAgainKeepsTheKeys) {
+  forms::TextBox other(form, "txtOther"), box(form, "txt");
+  Show();
+  box.SetFocus();
+  box.SetMultiLine(true);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(toolkit.WindowOf(form)->focusWidget(), &WidgetOf(box));
+  Type("a");
+  EXPECT_EQ(box.Text(), "a");
+}
+
+TEST_F(Window, ItemsAndFormMayGoWhileTheirMenuIsOpen) {
+  forms::Menu popup(form, "mnuPop", "pop"), sub(popup, "mnuSub", "Sub");
+  auto item = std::make_unique<forms::Menu>(sub, "mnuItem", "Item");
+  popup.SetVisible(false);
+  sub.Click = [&] { told.push_back("sub"); };
+  item->Click = [&] { told.push_back("item"); };
+  Show();
+  QTimer::singleShot(1, [&] {
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    QMenu* inner = menu->actions().at(0)->menu();
+    emit inner->aboutToShow();
+    ASSERT_EQ(inner->actions().size(), 1);
+    item.reset();
+    inner->actions().at(0)->trigger();
+    form.Unload();
+    emit inner->aboutToShow();
+    menu->close();
+  });
+  form.PopupMenu(popup, 300, 300);
+  EXPECT_FALSE(form.IsLoaded());
+  EXPECT_EQ(told, (Strings{"sub"}));
+  EXPECT_EQ(faults, Strings{});
+}
+
 TEST_F(Window, EnterAndEscPressTheirButtonsWithoutKeyEvents) {
   forms::TextBox box(form, "txt");
   forms::CommandButton ok(form, "ok"), cancel(form, "cancel");

@@ -367,10 +367,12 @@ TEST_F(Canvas, NothingIsDrawnForAnEmptyOrUndecodablePicture) {
   }
 }
 
-TEST_F(Canvas, ABrokenPictureIsNoFault) {
+TEST_F(Canvas, ABrokenPictureIsNotSeenOutsideItsPlace) {
   const std::string whole = IconFile({{32, kRed}, {16, kYellow}});
   for (size_t length = 0; length < whole.size(); length += 37) {
-    canvas.PaintPicture(PictureOf(whole.substr(0, length)), {0, 0, 300, 300});
+    const RECT ink = Drawn([&] { canvas.PaintPicture(PictureOf(whole.substr(0, length)), {0, 0, 300, 300}); }).Ink();
+    EXPECT_LE(ink.right, toolkit.Scale().Pixels(300)) << length;
+    EXPECT_LE(ink.bottom, toolkit.Scale().Pixels(300)) << length;
   }
   EXPECT_EQ(toolkit.Pictures().SizeOf(PictureOf(whole)).cx, 32);
 }

@@ -208,6 +208,24 @@ TEST_F(ScrollBarTest, LinesPagesAndEndsMoveByTheControlsSteps) {
   EXPECT_EQ(Info().nPos, 0);
 }
 
+// As when the bar is disabled, or loses the mouse, under the thumb.
+TEST_F(ScrollBarTest, DraggingThatIsBrokenOffChangesOnceAndEnds) {
+  Show();
+  Taken();
+  SCROLLINFO info = Info();
+  info.fMask = SIF_POS;
+  info.nPos = 50;
+  SetScrollInfo(WindowOf(bar), SB_CTL, &info, FALSE);
+  Act(SB_THUMBTRACK);
+  EXPECT_EQ(Taken(), Log{"Scroll 60"});
+  Act(SB_ENDSCROLL);
+  EXPECT_EQ(Taken(), Log{"Change 60"});
+  Act(SB_LINEDOWN);
+  EXPECT_EQ(Taken(), Log{"Change 62"});
+  bar.SetValue(10);
+  EXPECT_EQ(Info().nPos, 0);
+}
+
 TEST_F(ScrollBarTest, ARangeMayRunBackwards) {
   bar.SetMin(100), bar.SetMax(0);
   bar.SetValue(90);

@@ -1,8 +1,7 @@
 // List boxes: what they answer, what clicks and keys do, what a long one costs.
+#include "tests/support/processor_time.h"
 #include "tests/toolkit_win32/window_fixture.h"
 #include "toolkit_win32/texts.h"
-
-#include "tests/support/processor_time.h"  // behind the room's headers, which take back the macros of the system's
 
 namespace corvane::toolkit_win32 {
 namespace {
@@ -314,6 +313,21 @@ TEST_F(ListTest, AHandlerMayClearTheListOrUnloadTheForm) {
   list.Click = [this] { form.Unload(); };
   ClickRow(2);
   EXPECT_EQ(WindowOf(form), nullptr);
+  EXPECT_EQ(faults, Log{});
+}
+
+TEST_F(ListTest, AHandlerMayUnloadTheFormWhileRowsAreMarked) {
+  list.SetMultiSelect(2);
+  Fill(6);
+  Show();
+  ClickRow(0);
+  list.Click = [this] { form.Unload(); };
+  {
+    const Held shift({VK_SHIFT});
+    ClickRow(4);
+  }
+  EXPECT_EQ(WindowOf(form), nullptr);
+  EXPECT_EQ(list.SelCount(), 5);
   EXPECT_EQ(faults, Log{});
 }
 

@@ -32,13 +32,11 @@ class PaintedTest : public WindowTest {
   COLORREF PixelAt(forms::Twips x, forms::Twips y) {
     const HWND window = WindowOf(form);
     RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_UPDATENOW);
-    const HDC dc = GetDC(window);  // the whole of it: GetDC leaves out children when they are clipped
     POINT place{toolkit.Scale().Pixels(x), toolkit.Scale().Pixels(y)};
     const Spot spot = SpotOn(window, place);
     const HDC own = GetDC(spot.window);
     const COLORREF color = GetPixel(own, spot.place.x, spot.place.y);
     ReleaseDC(spot.window, own);
-    ReleaseDC(window, dc);
     return color;
   }
   // What stands on the screen there, without painting anything again.
@@ -59,7 +57,7 @@ class PaintedTest : public WindowTest {
   }
   bool HasColour(const forms::Control& control, COLORREF wanted) {
     const HWND window = WindowOf(control);
-    RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    UpdateWindow(window);
     RECT client{};
     GetClientRect(window, &client);
     const HDC dc = GetDC(window);
@@ -92,9 +90,9 @@ TEST_F(PaintedTest, AClearLabelShowsWhatLiesBehindIt) {
   label.Move(300, 300, 1500, 600);
   label.SetBackStyle(0), label.SetCaption("");
   Show();
-  EXPECT_EQ(PixelAt(900, 500), kGreen);
+  EXPECT_EQ(ShownAt(900, 500), kGreen);
   shape.SetFillColor(kBlue);
-  EXPECT_EQ(PixelAt(900, 500), kBlue);
+  EXPECT_EQ(ShownAt(900, 500), kBlue);
 }
 
 TEST_F(PaintedTest, AFrameHoldsControlsAndItsCaption) {
@@ -107,8 +105,8 @@ TEST_F(PaintedTest, AFrameHoldsControlsAndItsCaption) {
   Show();
   EXPECT_EQ(GetParent(WindowOf(label)), WindowOf(frame));
   EXPECT_EQ(TextOf(WindowOf(frame)), L"&MMM");
-  EXPECT_EQ(PixelAt(900, 1100), kGreen);
-  EXPECT_EQ(PixelAt(2500, 1200), kBlue);
+  EXPECT_EQ(ShownAt(900, 1100), kGreen);
+  EXPECT_EQ(ShownAt(2500, 1200), kBlue);
   EXPECT_TRUE(HasColour(frame, kRed));
   frame.SetBorderStyle(0);
   EXPECT_FALSE(HasColour(frame, kRed));
@@ -119,12 +117,12 @@ TEST_F(PaintedTest, AnImageIsShownAtItsSizeOrStretched) {
   image.Move(300, 300, 1500, 1500);
   image.SetPicture(PictureOf(kRed));
   Show();
-  EXPECT_EQ(PixelAt(300 + 8 * 15, 300 + 8 * 15), kRed);
-  EXPECT_NE(PixelAt(1500, 1500), kRed);
+  EXPECT_EQ(ShownAt(300 + 8 * 15, 300 + 8 * 15), kRed);
+  EXPECT_NE(ShownAt(1500, 1500), kRed);
   image.SetStretch(true);
-  EXPECT_EQ(PixelAt(1500, 1500), kRed);
+  EXPECT_EQ(ShownAt(1500, 1500), kRed);
   image.SetPicture(nullptr);
-  EXPECT_NE(PixelAt(1500, 1500), kRed);
+  EXPECT_NE(ShownAt(1500, 1500), kRed);
 }
 
 TEST_F(PaintedTest, LinesAreAsThickAsTheySayInBothDirections) {
@@ -132,11 +130,11 @@ TEST_F(PaintedTest, LinesAreAsThickAsTheySayInBothDirections) {
   flat.SetPoints(300, 600, 2100, 600), rising.SetPoints(300, 2700, 1800, 1200);
   for (forms::Line* line : {&flat, &rising}) line->SetBorderColor(kRed), line->SetBorderWidth(2);
   Show();
-  EXPECT_EQ(PixelAt(900, 600), kRed);
-  EXPECT_EQ(PixelAt(900, 615), kRed);
-  EXPECT_NE(PixelAt(900, 645), kRed);
-  EXPECT_EQ(PixelAt(1050, 1950), kRed);
-  EXPECT_NE(PixelAt(400, 1300), kRed);
+  EXPECT_EQ(ShownAt(900, 600), kRed);
+  EXPECT_EQ(ShownAt(900, 615), kRed);
+  EXPECT_NE(ShownAt(900, 645), kRed);
+  EXPECT_EQ(ShownAt(1050, 1950), kRed);
+  EXPECT_NE(ShownAt(400, 1300), kRed);
 }
 
 TEST_F(PaintedTest, ShapesHaveTheirForm) {
@@ -155,12 +153,12 @@ TEST_F(PaintedTest, ShapesHaveTheirForm) {
                {ShapeKind::Circle, false, false}};
   for (const auto& each : cases) {
     shape.SetShape(each.kind);
-    EXPECT_EQ(PixelAt(1800, 1050), kGreen);
-    EXPECT_EQ(PixelAt(315, 315) == kRed, each.corner) << static_cast<int>(each.kind);
-    EXPECT_EQ(PixelAt(315, 1050) == kRed, each.middle_of_left_side) << static_cast<int>(each.kind);
+    EXPECT_EQ(ShownAt(1800, 1050), kGreen);
+    EXPECT_EQ(ShownAt(315, 315) == kRed, each.corner) << static_cast<int>(each.kind);
+    EXPECT_EQ(ShownAt(315, 1050) == kRed, each.middle_of_left_side) << static_cast<int>(each.kind);
   }
   shape.SetFillStyle(1);
-  EXPECT_NE(PixelAt(1800, 1050), kGreen);
+  EXPECT_NE(ShownAt(1800, 1050), kGreen);
 }
 
 TEST_F(PaintedTest, LinesAndShapesLieBehindControlsTheLastInFront) {
@@ -171,12 +169,12 @@ TEST_F(PaintedTest, LinesAndShapesLieBehindControlsTheLastInFront) {
   for (forms::Shape* shape : {&below, &above}) shape->SetFillStyle(0);
   below.SetFillColor(kGreen), above.SetFillColor(kBlue);
   Show();
-  EXPECT_EQ(PixelAt(450, 450), kGreen);
-  EXPECT_EQ(PixelAt(2100, 2100), kBlue);
-  EXPECT_NE(PixelAt(1050, 900), kGreen);
+  EXPECT_EQ(ShownAt(450, 450), kGreen);
+  EXPECT_EQ(ShownAt(2100, 2100), kBlue);
+  EXPECT_NE(ShownAt(1050, 900), kGreen);
   below.ZOrder();
-  EXPECT_EQ(PixelAt(2100, 2100), kGreen);
-  EXPECT_NE(PixelAt(1050, 900), kGreen);
+  EXPECT_EQ(ShownAt(2100, 2100), kGreen);
+  EXPECT_NE(ShownAt(1050, 900), kGreen);
   int clicks = 0;
   button.Click = [&] { ++clicks; };
   Click(button);
@@ -199,6 +197,39 @@ TEST_F(PaintedTest, WhatShowsThroughFollowsAShapeBehindIt) {
   EXPECT_EQ(ShownAt(600, 600), kBlue);
   shape.SetLeft(3000);
   EXPECT_EQ(ShownAt(600, 600), GetSysColor(COLOR_BTNFACE));
+}
+
+TEST_F(PaintedTest, WhatShowsThroughFollowsTheOrderOfWhatLiesBehind) {
+  forms::Shape below(form, "shp1"), above(form, "shp2");
+  forms::Label label(form, "lbl");
+  label.Move(300, 300, 600, 600);
+  label.SetBackStyle(0), label.SetCaption("");
+  for (forms::Shape* shape : {&below, &above}) shape->Move(0, 0, 1500, 1500), shape->SetFillStyle(0);
+  below.SetFillColor(kGreen), above.SetFillColor(kBlue);
+  Show();
+  EXPECT_EQ(ShownAt(600, 600), kBlue);
+  below.ZOrder();
+  EXPECT_EQ(ShownAt(600, 600), kGreen);
+  auto& made = dynamic_cast<forms::Shape&>(form.AddControl("VB.Shape", "shpNew", form));
+  made.Move(0, 0, 1500, 1500);
+  made.SetFillStyle(0), made.SetFillColor(kRed);
+  made.SetVisible(true);
+  EXPECT_EQ(ShownAt(600, 600), kRed);
+  form.RemoveControl(made);
+  EXPECT_EQ(ShownAt(600, 600), kGreen);
+}
+
+TEST_F(PaintedTest, ALabelThatGoesBehindIsNotSeenInFront) {
+  forms::Label first(form, "lbl1"), second(form, "lbl2");
+  first.Move(0, 0, 1500, 1500), second.Move(0, 0, 1500, 1500);
+  first.SetBackColor(kGreen), second.SetBackColor(kBlue);
+  forms::Label clear(form, "lbl3");
+  clear.Move(300, 300, 600, 600);
+  clear.SetBackStyle(0), clear.SetCaption("");
+  Show();
+  EXPECT_EQ(ShownAt(600, 600), kBlue);
+  second.ZOrder(1);
+  EXPECT_EQ(ShownAt(600, 600), kGreen);
 }
 
 TEST_F(PaintedTest, WhatShowsThroughFollowsTheGroundOfItsContainer) {

@@ -63,6 +63,16 @@ TEST_F(MouseTest, AButtonThatWentDownElsewhereIsNotTold) {
   EXPECT_EQ(told, Log{});
 }
 
+TEST_F(MouseTest, APressThatAnotherControlDoesNotAllowIsNotTold) {
+  forms::TextBox txt(form, "txt");
+  txt.Validate = [](bool& cancel) { cancel = true; };
+  Show();
+  txt.SetFocus();
+  Click(pic);
+  EXPECT_EQ(told, Log{});
+  EXPECT_EQ(GetCapture(), nullptr);
+}
+
 TEST_F(MouseTest, AReleaseIsToldOnce) {
   Show();
   Click(pic);

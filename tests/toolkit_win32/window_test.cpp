@@ -115,6 +115,65 @@ TEST_F(Window, StatesGoBothWays) {
   EXPECT_EQ(form.WindowState(), forms::vbNormal);
 }
 
+TEST_F(Window, TheUsersMaximisingResizesOnceWithTheNewSize) {
+  Show();
+  std::vector<forms::Twips> widths;
+  form.Resize = [&] { widths.push_back(form.Width()); };
+  PostMessageW(WindowOf(form), WM_SYSCOMMAND, SC_MAXIMIZE, 0);
+  Pump();
+  EXPECT_EQ(form.WindowState(), forms::vbMaximized);
+  ASSERT_EQ(widths.size(), 1u);
+  EXPECT_GT(widths[0], 6000);
+}
+
+TEST_F(Window, AStateSetByCodeResizesOnceWithTheNewSize) {
+  Show();
+  std::vector<forms::Twips> widths;
+  form.Resize = [&] { widths.push_back(form.Width()); };
+  form.SetWindowState(forms::vbMaximized);
+  Pump();
+  ASSERT_EQ(widths.size(), 1u);
+  EXPECT_GT(widths[0], 6000);
+  form.SetWindowState(forms::vbNormal);
+  Pump();
+  ASSERT_EQ(widths.size(), 2u);
+  EXPECT_EQ(widths[1], 6000);
+}
+
+TEST_F(Window, AHandlerMayUnloadTheFormThatIsMaximised) {
+  Show();
+  form.Resize = [this] { form.Unload(); };
+  form.SetWindowState(forms::vbMaximized);
+  Pump();
+  EXPECT_FALSE(form.IsLoaded());
+  EXPECT_EQ(faults, Log{});
+}
+
+TEST_F(Window, HiddenMaximisedItIsShownAsItWasBefore) {
+  Show();
+  form.SetWindowState(forms::vbMaximized);
+  Pump();
+  form.Hide();
+  form.SetWindowState(forms::vbNormal);
+  Show();
+  EXPECT_FALSE(IsZoomed(WindowOf(form)));
+  EXPECT_TRUE(IsWindowVisible(WindowOf(form)));
+  EXPECT_EQ(form.Width(), 6000);
+  EXPECT_EQ(form.Height(), 4500);
+}
+
+TEST_F(Window, InTheCornerOfTheScreenItStaysThere) {
+  Show();
+  SetWindowPos(WindowOf(form), nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+  Pump();
+  ASSERT_EQ(form.Left(), 0);
+  form.SetWidth(5000);
+  RECT place{};
+  GetWindowRect(WindowOf(form), &place);
+  EXPECT_EQ(place.left, 0);
+  EXPECT_EQ(place.top, 0);
+}
+
 TEST_F(Window, RestoredByCodeHasItsNormalSizeAgain) {
   Show();
   form.SetWindowState(forms::vbMaximized);
