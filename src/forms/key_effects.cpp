@@ -4,6 +4,7 @@
 #include <string>
 
 #include "forms/controls.h"
+#include "forms/list_rows.h"
 #include "runtime/strings.h"
 
 namespace corvane::forms {
@@ -17,30 +18,10 @@ void Show(Control& control, Property property) {
   if (control.Peer()) control.Peer()->Changed(property);
 }
 
-// The row that a key leads to from [row]; -1 for a key that does not move.
-long RowReached(const ListControl& list, int key_code) {
-  const long last = list.ListCount() - 1, row = list.ListIndex();
-  switch (key_code) {
-    case vbKeyUp:
-      return std::max(0L, row - 1);
-    case vbKeyDown:
-      return std::min(last, row + 1);
-    case vbKeyPageUp:
-      return std::max(0L, row - kPageRows);
-    case vbKeyPageDown:
-      return std::min(last, row + kPageRows);
-    case vbKeyHome:
-      return 0;
-    case vbKeyEnd:
-      return last;
-    default:
-      return -1;
-  }
-}
-
 bool MoveInList(ListControl& list, int key_code, int shift) {
-  if (list.ListCount() == 0) return false;
-  const long row = RowReached(list, key_code);
+  const bool sideways = key_code == vbKeyLeft || key_code == vbKeyRight;
+  if (list.ListCount() == 0 || (sideways && list.Kind() == ControlKind::ComboBox)) return false;
+  const long row = RowReached(list, key_code, kPageRows);
   if (row < 0) return false;
   if (row == list.ListIndex()) return true;
   auto* box = dynamic_cast<ListBox*>(&list);
@@ -112,14 +93,10 @@ void EditText(TextBox& box, int key_ascii) {
   }
 }
 
-// The next row, round the end, that begins with the character.
 void SelectByCharacter(ListControl& list, int key_ascii) {
-  const long count = list.ListCount();
-  const std::string wanted = runtime::UCase(std::string(1, static_cast<char>(key_ascii)));
-  for (long step = 1; step <= count; ++step) {
-    const long row = (list.ListIndex() + step) % count;
-    if (runtime::UCase(runtime::Left(list.List(row), 1)) == wanted) return list.UserSelect(row);
-  }
+  const char letter = static_cast<char>(key_ascii);
+  const long row = RowBeginningWith(list, {&letter, 1});
+  if (row >= 0) list.UserSelect(row);
 }
 
 void EditCombo(ComboBox& combo, int key_ascii) {

@@ -4,37 +4,21 @@
 
 #include <QScrollBar>
 #include <QWidget>
-#include <functional>
 
-#include "forms/lists.h"
+#include "forms/list_rows.h"
 
 namespace corvane::toolkit_qt {
 
-class ListView : public QWidget {
+class ListView : public QWidget, public forms::ListRows {
  public:
   ListView(forms::ListControl& list, QWidget* parent);
-  // The control is gone or loses its widgets: nothing is read or told any more.
-  void Leave() { list_ = nullptr; }
-
-  // What the rows carry besides their text.
-  bool Boxes = false;
-  std::function<bool(long row)> IsMarked = [](long) { return false; };  // ticked, or selected among many
-
-  // The user's acts.
-  std::function<void(long row)> OnChoose;
-  std::function<void(long row)> OnToggle;
-  std::function<void(long row)> OnExtend;  // Shift
-  std::function<void(long top_row)> OnScroll;
-  bool ToggleOnClick = false;  // simple multi-selection
-  bool Extends = false;        // extended multi-selection
 
   // Rows came, went or changed: shown at the next turn of the loop.
   void RowsChanged();
-  void Follow(long row);  // scrolls it into view
-  void ScrollTo(long row);
-  long TopRow() const { return top_; }
   int RowHeight() const;
-  long RowsInView() const;
+  long RowsInView() const override;
+  void FitScrollBar() override;
+  void Repaint() override { update(); }
   long RowAt(const QPoint& place) const;  // -1 outside the rows
 
  protected:
@@ -49,20 +33,12 @@ class ListView : public QWidget {
   void wheelEvent(QWheelEvent* event) override;
 
  private:
-  long Count() const { return list_ ? list_->ListCount() : 0; }
   QRect RowsPlace() const;
   int BoxWidth() const;
   bool IsOnBox(const QPoint& place) const { return Boxes && place.x() < RowsPlace().left() + BoxWidth(); }
-  void FitScrollBar();
   void PaintRow(QPainter& painter, long row, const QRect& place);
-  bool IsShownSelected(long row) const;
-  long RowOfKey(int key) const;  // -1 when the key moves nothing
-  long RowBeginningWith(QChar letter) const;
 
-  forms::ListControl* list_;
   QScrollBar* bar_;
-  long top_ = 0;
-  long pressed_ = -1;  // the row under the held button
   bool stale_ = false;
 };
 

@@ -18,10 +18,6 @@ namespace {
 constexpr int kIndent = 2, kBox = 13;  // pixels at 96 dots to the inch
 constexpr size_t kShownBytes = 1024;   // of a row: more never fits a screen
 
-wchar_t UpperOf(wchar_t letter) {
-  return static_cast<wchar_t>(reinterpret_cast<UINT_PTR>(CharUpperW(reinterpret_cast<wchar_t*>(UINT_PTR{letter}))));
-}
-
 POINT PlaceOf(const Message& message) {
   return {GET_X_LPARAM(message.l), GET_Y_LPARAM(message.l)};
 }
@@ -29,7 +25,7 @@ POINT PlaceOf(const Message& message) {
 }  // namespace
 
 int ListView::RowHeight() const {
-  const int text = toolkit_.Fonts().Of(list_.Font()).Height();
+  const int text = toolkit_.Fonts().Of(list_->Font()).Height();
   return Boxes ? std::max(text, toolkit_.Scale().Scaled(kBox + 2)) : text;
 }
 
@@ -44,12 +40,12 @@ long ListView::RowsInView() const {
 long ListView::RowAt(POINT place) const {
   const RECT rows = window_.Client();
   if (place.y < rows.top || place.y >= rows.bottom) return -1;
-  const long row = top_ + place.y / RowHeight();
-  return row < std::min(Count(), top_ + RowsInView()) ? row : -1;
+  const long row = TopRow() + place.y / RowHeight();
+  return row < std::min(Count(), TopRow() + RowsInView()) ? row : -1;
 }
 
 RECT ListView::PlaceOfRow(long row) const {
-  const int top = static_cast<int>(row - top_) * RowHeight();
+  const int top = static_cast<int>(row - TopRow()) * RowHeight();
   return {0, top, window_.Client().right, top + RowHeight()};
 }
 
@@ -62,9 +58,9 @@ void ListView::RowsChanged(Life life) {
 // A bar that comes or goes leaves less or more room for the rows: it hides itself where all fit.
 void ListView::FitScrollBar() {
   stale_ = false;
-  top_ = std::clamp(top_, 0L, std::max(0L, Count() - RowsInView()));
+  KeepInRange();
   Repaint();
-  const BarState wanted{std::max(0L, Count() - 1), RowsInView(), top_};
+  const BarState wanted{std::max(0L, Count() - 1), RowsInView(), TopRow()};
   if (bar_ == wanted) return;
   bar_ = wanted;
   SCROLLINFO info{};
@@ -76,32 +72,16 @@ void ListView::FitScrollBar() {
   SetScrollInfo(window_.Handle(), SB_VERT, &info, TRUE);
 }
 
-void ListView::ScrollTo(long row) {
-  top_ = std::max(0L, row);
-  FitScrollBar();
-}
-
-void ListView::Follow(long row) {
-  if (row < 0) return;
-  if (row < top_) return ScrollTo(row);
-  if (row >= top_ + RowsInView()) ScrollTo(row - RowsInView() + 1);
-}
-
-bool ListView::IsShownSelected(long row) const {
-  if (Many()) return IsMarked(row);
-  return row == (pressed_ >= 0 ? pressed_ : list_.ListIndex());
-}
-
 void ListView::PaintRows() {
   if (stale_) FitScrollBar();
   PAINTSTRUCT paint{};
   const HDC target = BeginPaint(window_.Handle(), &paint);
   if (target && !IsRectEmpty(&paint.rcPaint)) {
     const BufferedPaint buffer(target, paint.rcPaint);
-    Fill(buffer.Dc(), paint.rcPaint, list_.BackColor());
+    Fill(buffer.Dc(), paint.rcPaint, list_->BackColor());
     // Whole rows only.
-    const long end = std::min(Count(), top_ + RowsInView());
-    for (long row = top_ + paint.rcPaint.top / RowHeight(); row < end; ++row) {
+    const long end = std::min(Count(), TopRow() + RowsInView());
+    for (long row = TopRow() + paint.rcPaint.top / RowHeight(); row < end; ++row) {
       const RECT place = PlaceOfRow(row);
       if (place.top >= paint.rcPaint.bottom) break;
       PaintRow(buffer.Dc(), row, place);
@@ -111,17 +91,17 @@ void ListView::PaintRows() {
 }
 
 void ListView::PaintRow(HDC dc, long row, const RECT& place) const {
-  const bool selected = IsShownSelected(row), active = list_.IsActive();
+  const bool selected = IsShownSelected(row), active = list_->Enabled();
   const RECT text{place.left + BoxWidth(), place.top, place.right, place.bottom};
   if (selected && active) Fill(dc, text, forms::kHighlight);
   if (Boxes) PaintBox(dc, place, IsMarked(row));
-  forms::Color color = active ? list_.ForeColor() : static_cast<forms::Color>(forms::kGrayText);
+  forms::Color color = active ? list_->ForeColor() : static_cast<forms::Color>(forms::kGrayText);
   if (selected && active) color = forms::kHighlightText;
-  ShownFont& font = toolkit_.Fonts().Of(list_.Font());
-  const std::string_view bytes = list_.Rows().At(row).text;
+  ShownFont& font = toolkit_.Fonts().Of(list_->Font());
+  const std::string_view bytes = list_->Rows().At(row).text;
   font.Draw(dc, text.left + toolkit_.Scale().Scaled(kIndent), text.top + (HeightOf(text) - font.Height()) / 2,
             bytes.substr(0, kShownBytes), ShownColor(color));
-  if (Many() && row == list_.ListIndex() && GetFocus() == window_.Handle()) DrawFocusRect(dc, &text);
+  if (Many() && row == list_->ListIndex() && GetFocus() == window_.Handle()) DrawFocusRect(dc, &text);
 }
 
 void ListView::PaintBox(HDC dc, const RECT& place, bool ticked) const {
@@ -129,7 +109,7 @@ void ListView::PaintBox(HDC dc, const RECT& place, bool ticked) const {
   const int top = place.top + (HeightOf(place) - size) / 2;
   RECT box{left, top, left + size, top + size};
   const Theme theme(toolkit_, window_.Handle(), L"BUTTON");
-  const bool active = list_.IsActive();
+  const bool active = list_->Enabled();
   if (theme) {
     const int on = active ? CBS_CHECKEDNORMAL : CBS_CHECKEDDISABLED;
     return theme.Draw(dc, BP_CHECKBOX, ticked ? on : active ? CBS_UNCHECKEDNORMAL : CBS_UNCHECKEDDISABLED, box);
@@ -148,92 +128,8 @@ void ListView::PaintFrame() const {
   OffsetRect(&frame, -frame.left, -frame.top);
   const RECT inside = InsideBorder(frame, GetSystemMetrics(SM_CXEDGE));
   ExcludeClipRect(dc, inside.left, inside.top, inside.right, inside.bottom);
-  theme.Draw(dc, EP_EDITTEXT, list_.IsActive() ? ETS_NORMAL : ETS_DISABLED, frame);
+  theme.Draw(dc, EP_EDITTEXT, list_->Enabled() ? ETS_NORMAL : ETS_DISABLED, frame);
   ReleaseDC(window_.Handle(), dc);
-}
-
-void ListView::Press(POINT place) {
-  pressed_ = RowAt(place);
-  Repaint();
-}
-
-void ListView::Drag(POINT place, WPARAM held) {
-  if (pressed_ < 0 || !(held & MK_LBUTTON)) return;
-  const long row = RowAt(place);
-  if (row < 0 || row == pressed_) return;
-  pressed_ = row;
-  Repaint();
-}
-
-void ListView::Release(POINT place) {
-  const long row = std::exchange(pressed_, -1);
-  Repaint();
-  if (row < 0) return;
-  const int held = ShiftNow();
-  if (IsOnBox(place) || ToggleOnClick || (Extends && (held & forms::vbCtrlMask))) return OnToggle(row);
-  if (Extends && (held & forms::vbShiftMask)) return OnExtend(row);
-  OnChoose(row);
-}
-
-long ListView::RowBeginningWith(wchar_t letter) const {
-  const long count = Count(), from = list_.ListIndex();
-  for (long step = 1; step <= count; ++step) {
-    const long row = (from + step + count) % count;
-    const std::wstring text = ShownText(std::string_view(list_.Rows().At(row).text).substr(0, 2));
-    if (!text.empty() && UpperOf(text[0]) == UpperOf(letter)) return row;
-  }
-  return -1;
-}
-
-long ListView::RowOfKey(int key) const {
-  const long now = list_.ListIndex(), page = std::max(1L, RowsInView() - 1), last = Count() - 1;
-  switch (key) {
-    case VK_UP:
-    case VK_LEFT:
-      return std::max(0L, now - 1);
-    case VK_DOWN:
-    case VK_RIGHT:
-      return std::min(last, now + 1);
-    case VK_PRIOR:
-      return std::max(0L, now - page);
-    case VK_NEXT:
-      return std::min(last, now + page);
-    case VK_HOME:
-      return 0;
-    case VK_END:
-      return last;
-    default:
-      return -1;
-  }
-}
-
-void ListView::MoveTo(long row) {
-  Follow(row);
-  if (row == list_.ListIndex()) return;
-  Extends && (ShiftNow() & forms::vbShiftMask) ? OnExtend(row) : OnChoose(row);
-}
-
-bool ListView::KeyDown(int key) {
-  const long row = Count() > 0 ? RowOfKey(key) : -1;
-  if (row >= 0) MoveTo(row);
-  return row >= 0;
-}
-
-bool ListView::Typed(wchar_t character) {
-  if (Count() == 0 || character < ' ') return false;
-  if (character == ' ' && (Boxes || Many())) {
-    if (list_.ListIndex() >= 0) OnToggle(list_.ListIndex());
-    return true;
-  }
-  const long row = RowBeginningWith(character);
-  if (row >= 0) MoveTo(row);
-  return true;
-}
-
-void ListView::ScrollByUser(long row) {
-  const long before = top_;
-  ScrollTo(row);
-  if (top_ != before && OnScroll) OnScroll(top_);
 }
 
 void ListView::Scroll(int how) {
@@ -242,13 +138,13 @@ void ListView::Scroll(int how) {
   info.fMask = SIF_TRACKPOS;
   switch (how) {
     case SB_LINEUP:
-      return ScrollByUser(top_ - 1);
+      return ScrollByUser(TopRow() - 1);
     case SB_LINEDOWN:
-      return ScrollByUser(top_ + 1);
+      return ScrollByUser(TopRow() + 1);
     case SB_PAGEUP:
-      return ScrollByUser(top_ - RowsInView());
+      return ScrollByUser(TopRow() - RowsInView());
     case SB_PAGEDOWN:
-      return ScrollByUser(top_ + RowsInView());
+      return ScrollByUser(TopRow() + RowsInView());
     case SB_TOP:
       return ScrollByUser(0);
     case SB_BOTTOM:
@@ -269,7 +165,7 @@ void ListView::Wheel(int turn) {
   const int notches = turned_ / WHEEL_DELTA;
   turned_ -= notches * WHEEL_DELTA;
   const long step = lines == WHEEL_PAGESCROLL ? RowsInView() : static_cast<long>(lines);
-  if (notches != 0) ScrollByUser(top_ - notches * step);
+  if (notches != 0) ScrollByUser(TopRow() - notches * step);
 }
 
 // As the system's own list box answers, for those who ask windows what they show.
@@ -280,9 +176,9 @@ std::optional<LRESULT> ListView::Answer(const Message& message) const {
     case LB_GETCOUNT:
       return Count();
     case LB_GETCURSEL:
-      return list_.ListIndex() < 0 ? LB_ERR : list_.ListIndex();
+      return list_->ListIndex() < 0 ? LB_ERR : list_->ListIndex();
     case LB_GETTOPINDEX:
-      return top_;
+      return TopRow();
     case LB_GETITEMHEIGHT:
       return RowHeight();
     case LB_GETSEL:
@@ -292,10 +188,10 @@ std::optional<LRESULT> ListView::Answer(const Message& message) const {
       *reinterpret_cast<RECT*>(message.l) = PlaceOfRow(row);
       return TRUE;
     case LB_GETTEXTLEN:
-      return is_row ? static_cast<LRESULT>(ShownText(list_.List(row)).size()) : LB_ERR;
+      return is_row ? static_cast<LRESULT>(ShownText(list_->List(row)).size()) : LB_ERR;
     case LB_GETTEXT: {
       if (!is_row) return LB_ERR;
-      const std::wstring text = ShownText(list_.List(row));
+      const std::wstring text = ShownText(list_->List(row));
       std::copy_n(text.c_str(), text.size() + 1, reinterpret_cast<wchar_t*>(message.l));
       return static_cast<LRESULT>(text.size());
     }
@@ -334,25 +230,25 @@ LRESULT ListView::OnMessage(const Message& message) {
       Wheel(GET_WHEEL_DELTA_WPARAM(message.w));
       return 0;
     case WM_LBUTTONDOWN:
-      Press(PlaceOf(message));
+      Press(RowAt(PlaceOf(message)));
       return 0;
     case WM_LBUTTONDBLCLK:  // the second of two quick clicks chooses nothing, but it ticks
-      if (ToggleOnClick || IsOnBox(PlaceOf(message))) Press(PlaceOf(message));
+      if (ToggleOnClick || IsOnBox(PlaceOf(message))) Press(RowAt(PlaceOf(message)));
       return 0;
     case WM_MOUSEMOVE:
-      Drag(PlaceOf(message), message.w);
+      if (message.w & MK_LBUTTON) DragTo(RowAt(PlaceOf(message)));
       return 0;
     case WM_LBUTTONUP:
-      Release(PlaceOf(message));
+      Release(IsOnBox(PlaceOf(message)), ShiftNow());
       return 0;
     case WM_CAPTURECHANGED:  // another window took the mouse: nothing is chosen
-      if (reinterpret_cast<HWND>(message.l) != window_.Handle() && std::exchange(pressed_, -1) >= 0) Repaint();
+      if (reinterpret_cast<HWND>(message.l) != window_.Handle()) LoseMouse();
       break;
     case WM_KEYDOWN:
-      if (KeyDown(static_cast<int>(message.w))) return 0;
+      if (KeyDown(static_cast<int>(message.w), ShiftNow())) return 0;
       break;
     case WM_CHAR:
-      if (Typed(static_cast<wchar_t>(message.w))) return 0;
+      if (Typed(BytesOf(std::wstring(1, static_cast<wchar_t>(message.w))), ShiftNow())) return 0;
       break;
     default:
       break;
