@@ -163,6 +163,14 @@ TEST_F(Evaluated, NotBeforeAComparisonIsOverwrittenAndAroundItInverts) {
   EXPECT_FALSE(state.notFlag);
 }
 
+// Behind AND it inverts what stands before the AND; in front of OR it inverts both together.
+TEST_F(Evaluated, NotBesideAndAndOr) {
+  Expect(*this, {{"1 AND NOT 0", "boolean False"},
+                 {"0 AND NOT 0", "boolean True"},
+                 {"NOT 0 OR 0", "boolean True"},
+                 {"NOT 0 OR 1", "boolean False"}});
+}
+
 TEST_F(Evaluated, ATextThatIsNoTruthLeavesTheResultTrue) {
   EXPECT_TRUE(Truth("\"abc\""));
   EXPECT_TRUE(Truth("\"\""));
