@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cerrno>
+#include <climits>
 #include <cstdlib>
 #include <dirent.h>
 #include <fcntl.h>
@@ -14,6 +15,7 @@
 #include "environment/wildcard.h"
 #include "runtime/code_page.h"
 #include "runtime/error.h"
+#include "runtime/strings.h"
 
 namespace corvane::environment {
 
@@ -86,6 +88,7 @@ class NameFinder {
   std::string Find(const Names& split, const std::string& windows) {
     is_plain_ = false;
     if (split.names.empty()) return split.absolute ? "/" : ".";
+    if (windows.size() >= PATH_MAX) return runtime::Replace(windows, "\\", "/");  // nothing can be there
     std::string start =
         windows.ends_with(split.names.back()) ? windows.substr(0, windows.size() - split.names.back().size()) : windows;
     if (start == last_start_ && start.size() < windows.size()) {

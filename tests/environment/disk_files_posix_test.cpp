@@ -14,6 +14,7 @@
 #include "environment/paths.h"
 #include "runtime/code_page.h"
 #include "tests/environment/opened.h"
+#include "tests/support/processor_time.h"
 
 namespace corvane::environment {
 namespace {
@@ -88,6 +89,17 @@ TEST_F(DiskFilesTest, ReadsNamesOfTheCodePageOnADiskOfUtf8) {
             "x");
   EXPECT_EQ(files_->List(Path(""), "*.bas"), std::vector<std::string>{"M\xF3"
                                                                       "dulo.bas"});
+}
+
+TEST_F(DiskFilesTest, APathThatIsTooLongIsNotSoughtNameByName) {
+  std::string path = "Z:";
+  for (int i = 0; i < 100'000; ++i) path += "\\a";
+  const double seconds = tests::SecondsOf([&] {
+    EXPECT_EQ(files_->List(path, "*"), std::vector<std::string>());
+    EXPECT_THROW(files_->Read(path), runtime::Error);
+    EXPECT_THROW(files_->Write(path, "x"), runtime::Error);
+  });
+  EXPECT_LT(seconds, 1);
 }
 
 TEST_F(DiskFilesTest, AFolderWithoutAPlaceOnThisMachineHoldsNothing) {
