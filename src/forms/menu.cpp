@@ -48,7 +48,9 @@ Menu::Menu(Container& container, std::string name, std::string caption)
 }
 
 Menu::Menu(Menu& parent, std::string name, std::string caption, int index)
-    : Control(NotOnSurface{}, parent.ContainerOf(), std::move(name), index), parent_(&parent), caption_(std::move(caption)) {
+    : Control(NotOnSurface{}, parent.ContainerOf(), std::move(name), index),
+      parent_(&parent),
+      caption_(std::move(caption)) {
   parent.items_.push_back(this);
 }
 
