@@ -139,12 +139,12 @@ class PicturedButtonPeer : public ButtonPeer {
     const int width = toolkit_.Scale().Scaled(size.cx), height = toolkit_.Scale().Scaled(size.cy);
     int top = place.top + (HeightOf(place) - height - HeightOf(text)) / 2;
     const int left = place.left + (WidthOf(place) - width) / 2;
-    toolkit_.Pictures().Draw(dc, {left, top, left + width, top + height}, button_.Picture(), !button_.IsActive());
+    toolkit_.Pictures().Draw(dc, {left, top, left + width, top + height}, button_.Picture(), !button_.Enabled());
     top += height;
     text = {place.left, top, place.right, top + HeightOf(text)};
     const forms::Color gray = forms::kGrayText;
     SetBkMode(dc, TRANSPARENT);
-    SetTextColor(dc, ShownColor(button_.IsActive() ? button_.ForeColor() : gray));
+    SetTextColor(dc, ShownColor(button_.Enabled() ? button_.ForeColor() : gray));
     DrawTextW(dc, caption.c_str(), -1, &text, DT_CENTER | DT_WORDBREAK);
   }
 

@@ -146,7 +146,7 @@ class ToolbarPeer : public ControlPeer {
     Shown wanted;
     if (bar_.ImageListOf() && !IsBlank(button)) wanted.image = images_.PlaceOf(bar_.ImageListOf()->Item(button.Image));
     wanted.text = ShownText(button.Caption);
-    wanted.state = static_cast<BYTE>((button.Enabled && bar_.IsActive() ? TBSTATE_ENABLED : 0) |
+    wanted.state = static_cast<BYTE>((button.Enabled && bar_.Enabled() ? TBSTATE_ENABLED : 0) |
                                      (button.Visible ? 0 : TBSTATE_HIDDEN) | (button.Pressed ? TBSTATE_CHECKED : 0));
     return wanted;
   }

@@ -112,6 +112,20 @@ TEST_F(PaintedTest, AFrameHoldsControlsAndItsCaption) {
   EXPECT_FALSE(HasColour(frame, kRed));
 }
 
+TEST_F(PaintedTest, ADisabledFrameLeavesTheLookOfWhatItHolds) {
+  forms::Frame frame(form, "fra");
+  frame.Move(300, 300, 3000, 1500);
+  frame.SetForeColor(kRed), frame.SetCaption("MMM");
+  forms::Label label(frame, "lbl");
+  label.Move(300, 600, 900, 300);
+  label.SetForeColor(kBlue), label.SetCaption("MMM");
+  Show();
+  frame.SetEnabled(false);
+  EXPECT_FALSE(HasColour(frame, kRed));
+  InvalidateRect(WindowOf(label), nullptr, FALSE);
+  EXPECT_TRUE(HasColour(label, kBlue));
+}
+
 TEST_F(PaintedTest, AnImageIsShownAtItsSizeOrStretched) {
   forms::Image image(form, "img");
   image.Move(300, 300, 1500, 1500);
