@@ -9,6 +9,15 @@
 
 namespace corvane::forms {
 
+namespace {
+
+bool IsAmong(const std::vector<Menu*>& items, const Menu* wanted) {
+  return std::any_of(items.begin(), items.end(),
+                     [&](const Menu* item) { return item == wanted || IsAmong(item->Items(), wanted); });
+}
+
+}  // namespace
+
 Form::Form(forms::Toolkit& toolkit, std::string name) : toolkit_(toolkit), name_(std::move(name)) {}
 
 Form::~Form() {
@@ -115,6 +124,14 @@ bool Form::UserKeyPress(int key_ascii) {
 
 void Form::UserKeyUp(int key_code, int shift) {
   if (visible_ && !toolkit_.IsBlocked(*this)) KeyUp(key_code, shift);
+}
+
+bool Form::ShowsMenuBar() const {
+  return std::any_of(menus_.begin(), menus_.end(), [](const Menu* menu) { return menu->Visible(); });
+}
+
+bool Form::HasMenu(const Menu* item) const {
+  return IsAmong(menus_, item);
 }
 
 void Form::PopupMenu(Menu& menu, Twips x, Twips y) {

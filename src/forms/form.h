@@ -106,6 +106,8 @@ class Form : public Container {
 
   // The menus of the menu bar, and those that only pop up (their Visible is false).
   const std::vector<Menu*>& Menus() const { return menus_; }
+  bool ShowsMenuBar() const;
+  bool HasMenu(const Menu* item) const;  // at any depth; [item] may be gone
   // The menu's own Click, then its items; the chosen item's Click comes before it returns.
   void PopupMenu(Menu& menu, Twips x, Twips y);
 

@@ -82,9 +82,7 @@ std::unique_ptr<Peer> HeadlessToolkit::NewPeer(Control& control) {
 
 Rect HeadlessToolkit::FrameOf(const Form& form) {
   if (form.BorderStyle() == FormBorder::None) return {};
-  const bool bar =
-      std::any_of(form.Menus().begin(), form.Menus().end(), [](const Menu* menu) { return menu->Visible(); });
-  const Twips above = kHeadlessBorder + kHeadlessCaption + (bar ? kHeadlessMenuBar : 0);
+  const Twips above = kHeadlessBorder + kHeadlessCaption + (form.ShowsMenuBar() ? kHeadlessMenuBar : 0);
   return {kHeadlessBorder, above, 2 * kHeadlessBorder, above + kHeadlessBorder};
 }
 

@@ -25,6 +25,16 @@ struct KeyName {
 constexpr KeyName kKeyNames[] = {
     {"INSERT", vbKeyInsert}, {"DEL", vbKeyDelete}, {"DELETE", vbKeyDelete}, {"BKSP", vbKeyBack}, {"BS", vbKeyBack}};
 
+struct KeyText {
+  int key;
+  std::string_view text;
+};
+
+constexpr KeyText kKeyTexts[] = {
+    {vbKeyBack, "Backspace"}, {vbKeyTab, "Tab"},    {vbKeyReturn, "Enter"}, {vbKeyEscape, "Esc"},
+    {vbKeySpace, "Space"},    {vbKeyInsert, "Ins"}, {vbKeyDelete, "Del"},
+};
+
 int KeyNamed(std::string_view name) {
   for (const KeyName& each : kKeyNames) {
     if (each.name == name) return each.key;
@@ -109,6 +119,20 @@ Variant Menu::Get(Property property) const {
 }
 void Menu::Set(Property property, const Variant& value) {
   SetBy<Control>(kProperties, *this, property, value);
+}
+
+std::string Menu::ShortcutText() const {
+  const int key = ShortcutKey(), shift = ShortcutShift();
+  if (key == 0) return {};
+  std::string text;
+  if (shift & vbCtrlMask) text += "Ctrl+";
+  if (shift & vbShiftMask) text += "Shift+";
+  if (shift & vbAltMask) text += "Alt+";
+  if (key >= vbKeyF1 && key < vbKeyF1 + 16) return text + "F" + std::to_string(key - vbKeyF1 + 1);
+  for (const KeyText& each : kKeyTexts) {
+    if (each.key == key) return text.append(each.text);
+  }
+  return text + static_cast<char>(key);
 }
 
 }  // namespace corvane::forms

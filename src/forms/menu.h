@@ -31,6 +31,7 @@ class Menu : public Control {
   // The key that "^S" or "{F5}" names, and its shift state; 0 for a text that names none.
   int ShortcutKey() const;
   int ShortcutShift() const;
+  std::string ShortcutText() const;  // as menus show it: "Ctrl+F2"; empty for none
   Variant Get(Property property) const override;
   void Set(Property property, const Variant& value) override;
 

@@ -108,6 +108,16 @@ void Line::Set(Property property, const Variant& value) {
   SetBy<Control>(kLine, *this, property, value);
 }
 
+bool Shape::IsSquare() const {
+  return shape_ == ShapeKind::Square || shape_ == ShapeKind::Circle || shape_ == ShapeKind::RoundedSquare;
+}
+
+std::optional<Color> Shape::ShownFill() const {
+  if (fill_style_ == 0) return fill_color_;
+  if (back_style_ == 1) return BackColor();
+  return std::nullopt;
+}
+
 void Shape::SetShape(ShapeKind value) {
   shape_ = static_cast<ShapeKind>(Within(static_cast<int>(value), 0, 5));
   Changed(Property::Shape);

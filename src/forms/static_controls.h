@@ -1,6 +1,8 @@
 // Label, Frame, Image, Line, Shape: what only shows something.
 #pragma once
 
+#include <optional>
+
 #include "forms/control.h"
 
 namespace corvane::forms {
@@ -21,7 +23,8 @@ class Label : public Control {
   void SetAutoSize(bool value);
   bool WordWrap() const { return word_wrap_; }
   void SetWordWrap(bool value);
-  int BackStyle() const { return back_style_; }  // 0 transparent, 1 opaque
+  bool Wraps() const { return word_wrap_ || !auto_size_; }  // its lines are cut to its width
+  int BackStyle() const { return back_style_; }             // 0 transparent, 1 opaque
   void SetBackStyle(int value);
   bool UseMnemonic() const { return use_mnemonic_; }  // an "&" marks the access key of the control behind it
   void SetUseMnemonic(bool value);
@@ -87,6 +90,7 @@ class Line : public Control {
   Twips Y1() const { return y1_; }
   Twips X2() const { return x2_; }
   Twips Y2() const { return y2_; }
+  bool Rises() const { return (x1_ <= x2_) != (y1_ <= y2_); }  // to the right
   void SetPoints(Twips x1, Twips y1, Twips x2, Twips y2);
   Color BorderColor() const { return border_color_; }
   void SetBorderColor(Color value);
@@ -113,6 +117,8 @@ class Shape : public Control {
   ControlKind Kind() const override { return ControlKind::Shape; }
   ShapeKind ShapeOf() const { return shape_; }
   void SetShape(ShapeKind value);
+  bool IsSquare() const;
+  std::optional<Color> ShownFill() const;  // nothing where what lies behind shows
   Color BorderColor() const { return border_color_; }
   void SetBorderColor(Color value);
   Color FillColor() const { return fill_color_; }

@@ -86,7 +86,7 @@ class FormWindow : public QWidget {
 
 forms::Rect FrameOfForm(const forms::Form& form) {
   forms::Rect frame = BorderOf(form).frame;
-  if (MenuBar::IsWanted(form)) {
+  if (form.ShowsMenuBar()) {
     frame.top += TwipsOf(MenuBar::kHeight);
     frame.height += TwipsOf(MenuBar::kHeight);
   }

@@ -13,34 +13,6 @@
 namespace corvane::toolkit_qt {
 namespace {
 
-struct KeyText {
-  int code;
-  const char* text;
-};
-
-constexpr KeyText kKeyTexts[] = {
-    {8, "Backspace"}, {9, "Tab"}, {13, "Enter"}, {27, "Esc"}, {32, "Space"}, {45, "Ins"}, {46, "Del"},
-};
-
-QString ShortcutText(const forms::Menu& item) {
-  const int code = item.ShortcutKey(), shift = item.ShortcutShift();
-  if (code == 0) return {};
-  QString text;
-  if (shift & forms::vbCtrlMask) text += "Ctrl+";
-  if (shift & forms::vbShiftMask) text += "Shift+";
-  if (shift & forms::vbAltMask) text += "Alt+";
-  if (code >= forms::vbKeyF1 && code < forms::vbKeyF1 + 16) return text + QString("F%1").arg(code - forms::vbKeyF1 + 1);
-  for (const KeyText& key : kKeyTexts) {
-    if (key.code == code) return text + key.text;
-  }
-  return text + QChar(code);
-}
-
-bool Holds(const std::vector<forms::Menu*>& items, const forms::Menu* wanted) {
-  return std::any_of(items.begin(), items.end(),
-                     [&](forms::Menu* item) { return item == wanted || Holds(item->Items(), wanted); });
-}
-
 // Titles of the bar follow their menus; items are read when they are opened.
 class MenuPeer : public forms::Peer {
  public:
@@ -58,10 +30,6 @@ class MenuPeer : public forms::Peer {
 
 std::unique_ptr<forms::Peer> NewMenuPeer(forms::Menu& menu) {
   return std::make_unique<MenuPeer>(menu);
-}
-
-bool MenuBar::IsWanted(const forms::Form& form) {
-  return std::any_of(form.Menus().begin(), form.Menus().end(), [](forms::Menu* menu) { return menu->Visible(); });
 }
 
 MenuBar::MenuBar(QtToolkit& toolkit, forms::Form& form, QWidget& window)
@@ -95,7 +63,7 @@ void MenuBar::ShowTitles() {
 }
 
 bool MenuBar::IsThere(const forms::Menu* item) const {
-  return Holds(form_.Menus(), item);
+  return form_.HasMenu(item);
 }
 
 // The menu's own Click may change its items, or take the form away.
@@ -134,7 +102,7 @@ void MenuBar::AddSubmenu(QMenu& shown, forms::Menu& item, const OnChosen& on_cho
 
 void MenuBar::AddItem(QMenu& shown, forms::Menu& item, const OnChosen& on_chosen) {
   QString text = ShownText(item.Caption());
-  if (const QString keys = ShortcutText(item); !keys.isEmpty()) text += '\t' + keys;
+  if (const std::string keys = item.ShortcutText(); !keys.empty()) text += '\t' + ShownText(keys);
   QAction* action = shown.addAction(text);
   action->setCheckable(item.Checked());
   action->setChecked(item.Checked());
@@ -143,7 +111,7 @@ void MenuBar::AddItem(QMenu& shown, forms::Menu& item, const OnChosen& on_chosen
 }
 
 int MenuBar::ShownHeight() {
-  return IsWanted(form_) ? kHeight : 0;
+  return form_.ShowsMenuBar() ? kHeight : 0;
 }
 
 int MenuBar::LayOut(int width) {

@@ -17,7 +17,6 @@ class QtToolkit;
 class MenuBar {
  public:
   static constexpr int kHeight = 22;  // logical pixels
-  static bool IsWanted(const forms::Form& form);
 
   MenuBar(QtToolkit& toolkit, forms::Form& form, QWidget& window);
   // The titles again, at the next turn of the loop or the next layout.

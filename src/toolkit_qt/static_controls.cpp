@@ -41,7 +41,7 @@ void PaintLabel(const forms::Label& label, QPainter& painter, QRect place) {
   }
   int flags = Qt::AlignTop | FlagsOf(label.Alignment());
   if (label.UseMnemonic()) flags |= Qt::TextShowMnemonic;
-  if (label.WordWrap() || !label.AutoSize()) flags |= Qt::TextWordWrap;
+  if (label.Wraps()) flags |= Qt::TextWordWrap;
   painter.setFont(ShownFont(label.Font()));
   painter.setPen(TextColorOf(label));
   painter.drawText(place, flags, ShownLines(label.Caption()));
@@ -80,13 +80,12 @@ void PaintImage(const forms::Image& image, QPainter& painter, QRect place) {
 void PaintLine(const forms::Line& line, QPainter& painter, const QRect& place) {
   const int width = std::max(1, line.BorderWidth());
   const QPointF inside(width / 2.0, width / 2.0);
-  const bool rises = (line.X1() <= line.X2()) != (line.Y1() <= line.Y2());
   const QRectF box = QRectF(place).adjusted(inside.x(), inside.y(), -inside.x(), -inside.y());
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(ShownColor(line.BorderColor()), width, Qt::SolidLine, Qt::FlatCap));
   if (place.width() == width || place.height() == width) {
     painter.fillRect(place, ShownColor(line.BorderColor()));
-  } else if (rises) {
+  } else if (line.Rises()) {
     painter.drawLine(box.bottomLeft(), box.topRight());
   } else {
     painter.drawLine(box.topLeft(), box.bottomRight());
@@ -104,14 +103,10 @@ void PaintShape(const forms::Shape& shape, QPainter& painter, const QRect& place
   const double pen = bordered ? std::max(1, shape.BorderWidth()) : 0;
   QRectF box = QRectF(place).adjusted(pen / 2, pen / 2, -pen / 2, -pen / 2);
   const ShapeKind kind = shape.ShapeOf();
-  if (kind == ShapeKind::Square || kind == ShapeKind::Circle || kind == ShapeKind::RoundedSquare) box = Squared(box);
+  if (shape.IsSquare()) box = Squared(box);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(bordered ? QPen(ShownColor(shape.BorderColor()), pen) : QPen(Qt::NoPen));
-  if (shape.FillStyle() == 0) {
-    painter.setBrush(ShownColor(shape.FillColor()));
-  } else if (shape.BackStyle() == 1) {
-    painter.setBrush(ShownColor(shape.BackColor()));
-  }
+  if (const auto fill = shape.ShownFill()) painter.setBrush(ShownColor(*fill));
   const double corner = std::min(box.width(), box.height()) / 6;
   switch (kind) {
     case ShapeKind::Oval:

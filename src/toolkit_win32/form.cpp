@@ -76,7 +76,7 @@ BOOL CALLBACK PassOn(HWND child, LPARAM l) noexcept {
 forms::Rect FrameOfForm(const Win32Toolkit& toolkit, const forms::Form& form) {
   const Border& border = BorderOf(form);
   RECT frame{0, 0, 0, 0};
-  AdjustWindowRectEx(&frame, border.style, MenuBar::IsWanted(form), border.extended);
+  AdjustWindowRectEx(&frame, border.style, form.ShowsMenuBar(), border.extended);
   const PixelScale& scale = toolkit.Scale();
   return {scale.TwipsOf(-frame.left), scale.TwipsOf(-frame.top), scale.TwipsOf(WidthOf(frame)),
           scale.TwipsOf(HeightOf(frame))};

@@ -13,36 +13,6 @@ namespace {
 
 constexpr unsigned kFirstNumber = 0x100;
 
-struct KeyText {
-  int code;
-  const wchar_t* text;
-};
-
-constexpr KeyText kKeyTexts[] = {
-    {8, L"Backspace"}, {9, L"Tab"}, {13, L"Enter"}, {27, L"Esc"}, {32, L"Space"}, {45, L"Ins"}, {46, L"Del"},
-};
-
-std::wstring ShortcutText(const forms::Menu& item) {
-  const int code = item.ShortcutKey(), shift = item.ShortcutShift();
-  if (code == 0) return {};
-  std::wstring text = L"\t";
-  if (shift & forms::vbCtrlMask) text += L"Ctrl+";
-  if (shift & forms::vbShiftMask) text += L"Shift+";
-  if (shift & forms::vbAltMask) text += L"Alt+";
-  if (code >= forms::vbKeyF1 && code < forms::vbKeyF1 + 16) {
-    return text + L'F' + std::to_wstring(code - forms::vbKeyF1 + 1);
-  }
-  for (const KeyText& key : kKeyTexts) {
-    if (key.code == code) return text + key.text;
-  }
-  return text + static_cast<wchar_t>(code);
-}
-
-bool Holds(const std::vector<forms::Menu*>& items, const forms::Menu* wanted) {
-  return std::any_of(items.begin(), items.end(),
-                     [&](forms::Menu* item) { return item == wanted || Holds(item->Items(), wanted); });
-}
-
 // Titles of the bar follow their menus; items are read when they are opened.
 class MenuPeer : public forms::Peer {
  public:
@@ -60,10 +30,6 @@ class MenuPeer : public forms::Peer {
 
 std::unique_ptr<forms::Peer> NewMenuPeer(forms::Menu& menu) {
   return std::make_unique<MenuPeer>(menu);
-}
-
-bool MenuBar::IsWanted(const forms::Form& form) {
-  return std::any_of(form.Menus().begin(), form.Menus().end(), [](forms::Menu* menu) { return menu->Visible(); });
 }
 
 MenuBar::MenuBar(Win32Toolkit& toolkit, forms::Form& form, Window& window)
@@ -85,7 +51,7 @@ void MenuBar::ShowNow() {
   if (!stale_ || is_open_ || !window_) return;
   stale_ = false;
   const HMENU before = bar_;
-  bar_ = IsWanted(form_) ? CreateMenu() : nullptr;
+  bar_ = form_.ShowsMenuBar() ? CreateMenu() : nullptr;
   opened_by_.clear();
   if (bar_) FillTitles();
   SetMenu(window_.Handle(), bar_);
@@ -117,7 +83,8 @@ void MenuBar::Fill(HMENU shown, const forms::Menu& menu) {
 // Entries of a menu that opens out of another are read when it opens.
 void MenuBar::AddItem(HMENU shown, forms::Menu& item) {
   const UINT state = (item.Enabled() ? MF_ENABLED : MF_GRAYED) | (item.Checked() ? MF_CHECKED : MF_UNCHECKED);
-  const std::wstring text = ShownText(item.Caption()) + ShortcutText(item);
+  std::wstring text = ShownText(item.Caption());
+  if (const std::string keys = item.ShortcutText(); !keys.empty()) text += L'\t' + ShownText(keys);
   if (!item.Items().empty()) {
     const HMENU sub = CreatePopupMenu();
     opened_by_[sub] = &item;
@@ -129,7 +96,7 @@ void MenuBar::AddItem(HMENU shown, forms::Menu& item) {
 }
 
 bool MenuBar::IsThere(const forms::Menu* item) const {
-  return Holds(form_.Menus(), item);
+  return form_.HasMenu(item);
 }
 
 // The menu's own Click may change its items, or the bar.

@@ -16,8 +16,6 @@ class Win32Toolkit;
 
 class MenuBar {
  public:
-  static bool IsWanted(const forms::Form& form);
-
   MenuBar(Win32Toolkit& toolkit, forms::Form& form, Window& window);
   ~MenuBar();
   MenuBar(const MenuBar&) = delete;

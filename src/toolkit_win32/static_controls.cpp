@@ -60,7 +60,7 @@ class CaptionedPeer : public PaintedPeer {
     const std::wstring text = ShownText(shown_.Caption());
     const HGDIOBJ before = SelectObject(dc, toolkit_.Fonts().HandleOf(shown_.Font()));
     SetBkMode(dc, TRANSPARENT);
-    SetTextColor(dc, ShownColor(shown_.IsActive() ? shown_.ForeColor() : static_cast<forms::Color>(forms::kGrayText)));
+    SetTextColor(dc, ShownColor(shown_.Enabled() ? shown_.ForeColor() : static_cast<forms::Color>(forms::kGrayText)));
     DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &place, flags);
     SelectObject(dc, before);
   }
@@ -84,7 +84,7 @@ class LabelPeer : public CaptionedPeer<forms::Label> {
     }
     UINT flags = DT_TOP | DT_EXPANDTABS | FlagsOf(shown_.Alignment());
     if (!shown_.UseMnemonic()) flags |= DT_NOPREFIX;
-    if (shown_.WordWrap() || !shown_.AutoSize()) flags |= DT_WORDBREAK;
+    if (shown_.Wraps()) flags |= DT_WORDBREAK;
     PaintText(dc, text, flags);
   }
 };
@@ -113,7 +113,7 @@ class FramePeer : public CaptionedPeer<forms::Frame> {
  private:
   void PaintBox(HDC dc, RECT box) {
     const Theme theme(toolkit_, Handle(), L"BUTTON");
-    if (theme) return theme.Draw(dc, BP_GROUPBOX, shown_.IsActive() ? GBS_NORMAL : GBS_DISABLED, box);
+    if (theme) return theme.Draw(dc, BP_GROUPBOX, shown_.Enabled() ? GBS_NORMAL : GBS_DISABLED, box);
     DrawEdge(dc, &box, EDGE_ETCHED, BF_RECT);
   }
 
@@ -202,7 +202,7 @@ class LinePeer : public DrawnPeer {
   void Paint(HDC dc, const RECT& place) override {
     const int width = Width(), inside = width / 2;
     if (WidthOf(place) == width || HeightOf(place) == width) return Fill(dc, place, line_.BorderColor());
-    const bool rises = (line_.X1() <= line_.X2()) != (line_.Y1() <= line_.Y2());
+    const bool rises = line_.Rises();
     const int right = place.right - 1 - inside, bottom = place.bottom - 1 - inside;
     const Selected pen(dc, CreatePen(PS_SOLID, width, ShownColor(line_.BorderColor())));
     MoveToEx(dc, place.left + inside, rises ? bottom : place.top + inside, nullptr);
@@ -228,8 +228,7 @@ class ShapePeer : public DrawnPeer {
   void Paint(HDC dc, const RECT& place) override {
     using forms::ShapeKind;
     const ShapeKind kind = shape_.ShapeOf();
-    const bool square = kind == ShapeKind::Square || kind == ShapeKind::Circle || kind == ShapeKind::RoundedSquare;
-    const RECT box = square ? Squared(place) : place;
+    const RECT box = shape_.IsSquare() ? Squared(place) : place;
     const Selected pen(dc, NewPen()), brush(dc, NewBrush());
     const int corner = std::min(WidthOf(box), HeightOf(box)) / 3;
     // Without a border the edge is the fill's, a pixel further out.
@@ -256,9 +255,8 @@ class ShapePeer : public DrawnPeer {
     return CreatePen(PS_INSIDEFRAME, width, ShownColor(shape_.BorderColor()));
   }
   HGDIOBJ NewBrush() const {
-    if (shape_.FillStyle() == 0) return CreateSolidBrush(ShownColor(shape_.FillColor()));
-    if (shape_.BackStyle() == 1) return CreateSolidBrush(ShownColor(shape_.BackColor()));
-    return GetStockObject(NULL_BRUSH);
+    const std::optional<forms::Color> fill = shape_.ShownFill();
+    return fill ? CreateSolidBrush(ShownColor(*fill)) : GetStockObject(NULL_BRUSH);
   }
   const forms::Shape& shape_;
 };

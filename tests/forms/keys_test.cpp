@@ -195,20 +195,34 @@ TEST_F(Shortcuts, AreReadFromTheirText) {
   struct {
     const char* text;
     int key, shift;
-  } const cases[] = {{"^S", 'S', 2},
-                     {"{F5}", vbKeyF5, 0},
-                     {"+^{F1}", vbKeyF1, 3},
-                     {"%{BKSP}", vbKeyBack, 4},
-                     {"", 0, 0},
-                     {"^{INSERT}", vbKeyInsert, 2},
-                     {"+{DEL}", vbKeyDelete, 1},
-                     {"{F17}", 0, 0},
-                     {"^{F12}", vbKeyF12, 2}};
+    const char* shown;
+  } const cases[] = {{"^S", 'S', 2, "Ctrl+S"},
+                     {"{F5}", vbKeyF5, 0, "F5"},
+                     {"+^{F1}", vbKeyF1, 3, "Ctrl+Shift+F1"},
+                     {"%{BKSP}", vbKeyBack, 4, "Alt+Backspace"},
+                     {"", 0, 0, ""},
+                     {"^{INSERT}", vbKeyInsert, 2, "Ctrl+Ins"},
+                     {"+{DEL}", vbKeyDelete, 1, "Shift+Del"},
+                     {"{F17}", 0, 0, ""},
+                     {"^{F12}", vbKeyF12, 2, "Ctrl+F12"}};
   for (const auto& each : cases) {
     mnuSave.SetShortcut(each.text);
     EXPECT_EQ(mnuSave.ShortcutKey(), each.key) << each.text;
     EXPECT_EQ(mnuSave.ShortcutShift(), each.shift) << each.text;
+    EXPECT_EQ(mnuSave.ShortcutText(), each.shown);
   }
+}
+
+TEST_F(Shortcuts, TheBarAndItsMenusAreTheForms) {
+  Menu mnuOther{window, "mnuOther", "Other"};
+  EXPECT_TRUE(window.ShowsMenuBar());
+  EXPECT_TRUE(window.HasMenu(&mnuFile));
+  EXPECT_TRUE(window.HasMenu(&mnuSave));
+  EXPECT_FALSE(window.HasMenu(nullptr));
+  Form bare(toolkit, "frmBare");
+  EXPECT_FALSE(bare.HasMenu(&mnuSave));
+  mnuFile.SetVisible(false), mnuOther.SetVisible(false);
+  EXPECT_FALSE(window.ShowsMenuBar()) << "popup menus alone";
 }
 
 TEST_F(Shortcuts, ClickBeforeAnyControlHearsTheKey) {
