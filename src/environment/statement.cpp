@@ -150,8 +150,8 @@ bool ParseProcedureHeader(std::string_view text, ProcedureHeader& header) {
   if (!BeginsAName(name)) return false;
   header.name_at = words.Start();
   header.name_length = name.size();
-  std::string_view rest = words.Rest();
-  if (doubtful::kTypeSignIsPartOfName && !rest.empty() && IsTypeSign(rest[0])) ++header.name_length;
+  if constexpr (doubtful::kTypeSignIsPartOfName)
+    if (!words.Rest().empty() && IsTypeSign(words.Rest()[0])) ++header.name_length;
   return true;
 }
 

@@ -42,8 +42,10 @@ std::shared_ptr<ActWindow> WindowList::Add(WindowActs acts) {
 
 void WindowList::Remove(const std::shared_ptr<ActWindow>& window) {
   if (!window) return;
-  const auto kept = window;  // [window] may be the list's own reference
-  std::erase(windows_, kept);
+  const auto at = std::find(windows_.begin(), windows_.end(), window);
+  if (at == windows_.end()) return window->Detach();
+  const auto kept = std::move(*at);  // [window] may be this very reference
+  windows_.erase(at);
   kept->Detach();
 }
 
@@ -62,7 +64,7 @@ host::Ref<host::Window> WindowList::Item(const host::Index& index) {
   return ItemOf(Open(), index, [](const auto& window) { return window->Caption(); });
 }
 
-std::shared_ptr<ActWindow> AddImmediateWindow(WindowList& windows, std::function<void(bool shown)> changed) {
+std::shared_ptr<ActWindow> AddImmediateWindow(WindowList& windows, const std::function<void(bool shown)>& changed) {
   auto show = [changed](bool shown) {
     if (changed) changed(shown);
   };

@@ -52,6 +52,6 @@ class WindowList : public host::Windows {
 
 // The Immediate window: open from the start; SetFocus and SetVisible(true) open it again after Close.
 // It stays an item of Windows all the time. [changed] is told whether it was shown (and focused) or closed.
-std::shared_ptr<ActWindow> AddImmediateWindow(WindowList& windows, std::function<void(bool shown)> changed);
+std::shared_ptr<ActWindow> AddImmediateWindow(WindowList& windows, const std::function<void(bool shown)>& changed);
 
 }  // namespace corvane::environment
