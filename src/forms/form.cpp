@@ -56,8 +56,8 @@ void Form::SetWindowState(int value) {
   if (window_state_ == value) return;
   window_state_ = value;
   if (peer_) peer_->Changed(Property::WindowState);
-  resized_ = resized_ || visible_;
-  if (loaded_) Resize();
+  resized_ = visible_;  // out of sight it is told when the form is shown
+  if (visible_) Resize();
 }
 
 void Form::SetBackColor(Color value) {

@@ -271,6 +271,23 @@ TEST_F(Connecting, RunModeLoadsAWindowThatWasNeverOpenedAndLeavesItsState) {
   EXPECT_EQ(connect.mfrmAddIn()->lbxComp->ListCount(), 3);
 }
 
+// The window is still meant to be on the screen, though it is not loaded any more.
+TEST_F(Connecting, AfterExitARunLoadsTheWindowOutOfSightAndMinimisesIt) {
+  Connect(ConnectMode::Startup);
+  connect.Show(false);
+  auto& window = *connect.mfrmAddIn();
+  window.tlbr.UserButtonClick(window.tlbr.PositionOf("pExit"));
+  ASSERT_FALSE(window.IsLoaded());
+  ASSERT_TRUE(connect.FormDisplayed);
+  environment->EnterRunMode();
+  EXPECT_TRUE(window.IsLoaded());
+  EXPECT_FALSE(window.Visible());
+  EXPECT_EQ(window.WindowState(), forms::vbMinimized);
+  connect.Show(false);
+  EXPECT_TRUE(window.Visible());
+  EXPECT_EQ(window.WindowState(), forms::vbMinimized);
+}
+
 TEST_F(Connecting, AnEnvironmentWithoutBuildEventsWorksWithoutThem) {
   environment->SetOffersBuildEvents(false);
   Connect(ConnectMode::Startup);

@@ -1,3 +1,4 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "tests/forms/error_number.h"
@@ -211,6 +212,21 @@ TEST_F(FormLife, MinimisingAndRestoringRaiseResize) {
   window.SetWindowState(vbNormal);
   EXPECT_EQ(window.Taken(), (Log{"Resize", "Resize"}));
   EXPECT_EQ(NumberOf([&] { window.SetWindowState(3); }), 380);
+}
+
+TEST_F(FormLife, AStateThatIsSetOutOfSightRaisesResizeWhenTheFormIsShown) {
+  window.LoadForm();
+  window.Taken();
+  window.SetWindowState(vbMinimized);
+  EXPECT_EQ(window.Taken(), Log{});
+  window.Show();
+  EXPECT_THAT(window.Taken(), ::testing::Contains("Resize").Times(1));
+  window.Hide();
+  window.Taken();
+  window.SetWindowState(vbNormal);
+  EXPECT_EQ(window.Taken(), Log{});
+  window.Show();
+  EXPECT_THAT(window.Taken(), ::testing::Contains("Resize").Times(1));
 }
 
 TEST_F(FormLife, ScaleIsInsideTheFrame) {
