@@ -15,7 +15,7 @@ inline void PutSample(const std::string& folder, environment::MemoryFiles& files
   const auto root = std::filesystem::path(CORVANE_SOURCE_DIR) / "samples";
   for (const auto& entry : std::filesystem::recursive_directory_iterator(root / folder)) {
     if (!entry.is_regular_file()) continue;
-    std::string name = std::filesystem::relative(entry.path(), root).generic_string();
+    std::string name = entry.path().lexically_relative(root).generic_string();
     for (char& c : name)
       if (c == '/') c = '\\';
     const auto bytes = golden::ReadFile(entry.path());
