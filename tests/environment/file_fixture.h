@@ -25,6 +25,11 @@ class FileFixture : public HostFixture {
     environment_->OpenFromModules(project, files);
     return Seen();
   }
+  host::Ref<host::VBE> OpenNew(const std::string& project) override {
+    environment_->OpenFromTexts("", "Type=Exe\r\nModule=Main; Main.bas\r\nName=\"" + project + "\"\r\n",
+                                {{"Main.bas", "Attribute VB_Name = \"Main\"\r\n"}});
+    return Seen();
+  }
   std::string PathOf(const std::string& name) override { return "C:\\Files\\" + name; }
   std::string PutFile(const std::string& name, const std::string& bytes) override {
     files_.Put(PathOf(name), bytes);

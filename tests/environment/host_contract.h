@@ -27,6 +27,8 @@ class HostFixture {
     std::string code;
   };
   virtual host::Ref<host::VBE> Open(const std::string& project, const std::vector<Source>& sources) = 0;
+  // A new project, which was never saved, with one empty module "Main".
+  virtual host::Ref<host::VBE> OpenNew(const std::string& project) = 0;
 
   // Puts a file into a folder that may be written to; returns its full path, with "\\" in it.
   virtual std::string PutFile(const std::string& name, const std::string& bytes) = 0;

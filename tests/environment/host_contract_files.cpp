@@ -60,6 +60,13 @@ TEST_P(HostContract, ASavedProjectHasAFullPathAndSoHaveItsComponents) {
   EXPECT_EQ(ErrorOf([&] { main->FileNames(2); }), 9);
 }
 
+TEST_P(HostContract, AProjectThatWasNeverSavedHasNoFileName) {
+  const auto project = fixture_->OpenNew("Fresh")->ActiveVBProject();
+  EXPECT_EQ(project->Name(), "Fresh");
+  EXPECT_EQ(project->FileName(), "");
+  EXPECT_EQ(project->VBComponents()->Item("Main")->FileNames(1), "");
+}
+
 TEST_P(HostContract, AComponentHasNoFileNameBeforeItIsSaved) {
   const auto added = Open({{"Main", false, ""}})->ActiveVBProject()->VBComponents()->Add(ComponentType::StdModule);
   EXPECT_EQ(added->FileNames(1), "");
