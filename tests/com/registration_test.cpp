@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
-#include <sddl.h>
 #include <vector>
 
 #include "com/com_pointer.h"
@@ -12,6 +11,7 @@
 #include "com/module_use.h"
 #include "com/registry_edit.h"
 #include "com/texts.h"
+#include "tests/support/registry_rights.h"
 
 namespace corvane::com {
 namespace {
@@ -19,8 +19,9 @@ namespace {
 constexpr wchar_t kLibrary[] = L"C:\\Program Files\\Corvane\\corvane.dll";
 // Where everybody's classes and everything of the system's vendor stand.
 const std::vector<std::string> kCommon = {"Software\\Classes", "Software\\Microsoft"};
-constexpr wchar_t kEverything[] = L"D:(A;;KA;;;WD)", kNoValuesSet[] = L"D:(D;;0x2;;;WD)(A;;KA;;;WD)",
-                  kNoLookInside[] = L"D:(D;;0x8;;;WD)(A;;KA;;;WD)";
+using tests::kEverything;
+using tests::kNoLookInside;
+using tests::kNoValuesSet;
 constexpr wchar_t kTestKey[] = L"Software\\CorvaneRegistrationTest";
 
 class RegistrationTest : public testing::Test {
@@ -50,13 +51,7 @@ class RegistrationTest : public testing::Test {
   }
 
   static void Allow(const std::wstring& path, const wchar_t* who_may_what) {
-    PSECURITY_DESCRIPTOR rights = nullptr;
-    ASSERT_TRUE(ConvertStringSecurityDescriptorToSecurityDescriptorW(who_may_what, SDDL_REVISION_1, &rights, nullptr));
-    HKEY key = nullptr;
-    ASSERT_EQ(RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, WRITE_DAC, &key), ERROR_SUCCESS);
-    EXPECT_EQ(RegSetKeySecurity(key, DACL_SECURITY_INFORMATION, rights), ERROR_SUCCESS);
-    RegCloseKey(key);
-    LocalFree(rights);
+    tests::Allow(HKEY_CURRENT_USER, path.c_str(), who_may_what);
   }
 
   // All below [root], a line each: "key\name = value".

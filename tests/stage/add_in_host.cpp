@@ -2,11 +2,13 @@
 
 #include <ocidl.h>
 
+#include "tests/stage/texts.h"
+
 namespace corvane::stage {
 
 namespace {
 
-constexpr wchar_t kProgId[] = L"corvane.Connect";
+constexpr char kName[] = "Corvane - 2000";  // in the list
 
 // No entries. The environment hands it over by reference.
 class NoCustomEntries {
@@ -21,8 +23,11 @@ class NoCustomEntries {
 }  // namespace
 
 HRESULT AddInHost::Create() {
+  const auto listed = FindListed(kName);
+  if (!listed) return REGDB_E_CLASSNOTREG;
+  entry_ = *listed;
   CLSID id;
-  HRESULT code = CLSIDFromProgID(kProgId, &id);
+  HRESULT code = CLSIDFromProgID(entry_.prog_id.c_str(), &id);
   if (FAILED(code)) return code;
   ComPointer<IUnknown> object, other;
   code = CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_IUnknown, object.OutVoid());
@@ -35,7 +40,8 @@ HRESULT AddInHost::Create() {
 HRESULT AddInHost::OnConnection(ConnectMode mode) {
   NoCustomEntries custom;
   const auto root = stage_.Root();
-  const auto entry = stage_.Publish(std::make_shared<AddInEntry>());
+  const auto entry = stage_.Publish(std::make_shared<AddInEntry>(
+      AddInEntry{.description = entry_.description, .prog_id = Ansi(entry_.prog_id), .guid = {}}));
   connected_ = true;
   return add_in_->OnConnection(root.Get(), mode, entry.Get(), custom.Out());
 }
@@ -65,6 +71,8 @@ void AddInHost::Release() {
 }
 
 HRESULT AddInHost::StartUp() {
+  const auto listed = FindListed(kName);
+  if (!listed || !listed->IsLoadedAtStartup()) return S_FALSE;
   HRESULT code = Create();
   if (SUCCEEDED(code)) code = OnConnection(kStartup);
   if (SUCCEEDED(code)) code = OnAddInsUpdate();

@@ -1,6 +1,7 @@
-// AddInHost: the environment's side of one add-in: it creates it by its name in the registry and tells it what happens.
+// AddInHost: the environment's side of one add-in: it finds it in its list, creates it and tells it what happens.
 #pragma once
 
+#include "tests/stage/add_in_list.h"
 #include "tests/stage/com_pointer.h"
 #include "tests/stage/extensibility.h"
 #include "tests/stage/stage.h"
@@ -14,7 +15,7 @@ class AddInHost {
   ~AddInHost() { Release(); }
   AddInHost(const AddInHost&) = delete;
 
-  // CoCreateInstance, then the interfaces that the environment asks for.
+  // By its entry in the list: the class that its key names, then the interfaces that the environment asks for.
   HRESULT Create();
   HRESULT OnConnection(ConnectMode mode);
   HRESULT OnStartupComplete();
@@ -23,7 +24,8 @@ class AddInHost {
   HRESULT OnDisconnection(RemoveMode mode);
   void Release();
 
-  // What the environment does: at its start, when the user loads or unloads the add-in, at its end.
+  // What the environment does: at its start (S_FALSE where the add-in is not to be loaded then), when the user loads or
+  // unloads the add-in, at its end.
   HRESULT StartUp();
   HRESULT LoadByUser();
   HRESULT UnloadByUser();
@@ -37,6 +39,7 @@ class AddInHost {
 
  private:
   Stage& stage_;
+  ListedAddIn entry_;
   ComPointer<Extensibility2> add_in_;
   bool connected_ = false;
 };

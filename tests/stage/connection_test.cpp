@@ -1,5 +1,6 @@
 // The library inside the environment: connection and disconnection, its two controls, its window, its setting.
 #include "tests/stage/story.h"
+#include "tests/support/registry_rights.h"
 
 namespace corvane::stage {
 namespace {
@@ -23,6 +24,29 @@ TEST_F(Connecting, TheLibraryIsLoadedFromTheRegistryAndStaysOnceItMadeAnAddIn) {
     EXPECT_TRUE(library.IsLoaded()) << "a message of its windows may still be running";
   }
   RegisterUsualLibrary();
+}
+
+TEST_F(Connecting, TheAddInManagerListsItByNameAndDescription) {
+  const auto listed = FindListed("Corvane - 2000");
+  ASSERT_TRUE(listed);
+  EXPECT_EQ(listed->description, "Powerfull Project Explorer with Color code analysis. ") << "with its last blank";
+  EXPECT_EQ(listed->prog_id, L"corvane.Connect");
+  EXPECT_TRUE(listed->IsLoadedAtStartup());
+  EXPECT_EQ(listed->command_line_safe, 0u) << "it shows messages";
+}
+
+TEST_F(Connecting, NotChosenForTheStartItIsLoadedByTheUserAlone) {
+  const auto listed = FindListed("Corvane - 2000");
+  ASSERT_TRUE(listed);
+  ChooseLoading(*listed, 0);
+  EXPECT_EQ(host.StartUp(), S_FALSE);
+  EXPECT_EQ(host.AddIn(), nullptr);
+  EXPECT_EQ(FindOnBar("Standard", kButton), nullptr);
+  EXPECT_EQ(host.LoadByUser(), S_OK);
+  EXPECT_NE(FindOnBar("Standard", kButton), nullptr);
+  EXPECT_EQ(host.UnloadByUser(), S_OK);
+  ChooseLoading(*listed, 1);
+  EXPECT_EQ(host.StartUp(), S_OK);
 }
 
 TEST_F(Connecting, AtStartupTheControlsComeAndTheWindowDoesNot) {
@@ -105,6 +129,21 @@ TEST_F(Connecting, EnterOnAProcedureGoesToItsCode) {
   ASSERT_NE(environment->ActiveCodePane(), nullptr);
   EXPECT_EQ(environment->ActiveCodePane()->CodeModule()->Name(), "BinMap");
   EXPECT_GT(environment->ActiveCodePane()->GetSelection().start_line, 1);
+}
+
+// Whatever the window asked for while it was used: of the project nothing is kept.
+TEST_F(Connecting, WithTheWindowInUseOnlyWhatIsAllowedIsHeld) {
+  ASSERT_EQ(host.StartUp(), S_OK);
+  const std::string allowed = "CommandBarControl 2, CommandBarEvents 2, VBBuildEvents 1, VBE 1";
+  EXPECT_EQ(stage.ledger.Left(), allowed);
+  Click("Standard", kButton);
+  Press(Components(), {VK_DOWN, VK_DOWN, VK_DOWN});
+  Press(Procedures(), {VK_HOME, VK_DOWN, VK_DOWN, VK_RETURN});
+  ASSERT_NE(environment->ActiveCodePane(), nullptr);
+  EXPECT_EQ(stage.ledger.Left(), allowed);
+  environment->EnterRunMode();
+  window.Settle();
+  EXPECT_EQ(stage.ledger.Left(), allowed);
 }
 
 TEST_F(Connecting, ButtonThenButtonOffersNoMenu) {
@@ -271,6 +310,19 @@ TEST_F(Connecting, ASettingThatCannotBeReadLeavesTheWindowAway) {
   EXPECT_THAT(boxes.Boxes(), IsEmpty());
 }
 
+TEST_F(Connecting, ASettingThatMayNotBeReadLeavesTheWindowAway) {
+  SetSetting("1");
+  constexpr wchar_t kSection[] = L"Software\\VB and VBA Program Settings\\Corvane\\Settings";
+  tests::Allow(HKEY_CURRENT_USER, kSection, tests::kNoValuesRead);
+  EXPECT_EQ(host.LoadByUser(), S_OK);
+  window.Settle();
+  EXPECT_EQ(Explorer(), nullptr);
+  EXPECT_THAT(boxes.Boxes(), IsEmpty());
+  EXPECT_EQ(host.UnloadByUser(), S_OK);
+  tests::Allow(HKEY_CURRENT_USER, kSection, tests::kEverything);
+  EXPECT_EQ(Setting(), "0") << "writing was not refused";
+}
+
 TEST_F(Connecting, ItIsLoadedAndUnloadedManyTimesInOneSession) {
   for (int i = 0; i < 5; ++i) {
     ASSERT_EQ(host.LoadByUser(), S_OK) << i;
@@ -304,16 +356,6 @@ TEST_F(Connecting, ADisconnectionWhileTheUserMovesTheWindowWaitsForTheMove) {
   EXPECT_FALSE(was_shown);
   EXPECT_TRUE(was_there) << "its message was still running";
   EXPECT_TRUE(window.PumpUntil([&] { return !IsWindow(explorer); }));
-}
-
-TEST_F(Connecting, TheEnvironmentsKeysAreItsOwnWhileItHasTheFocus) {
-  ASSERT_EQ(host.StartUp(), S_OK);
-  Click("Standard", kButton);
-  SetForegroundWindow(window.Handle());
-  SetFocus(window.CodeArea());
-  PostKey(window.CodeArea(), VK_F5);
-  window.Settle();
-  EXPECT_THAT(window.commands, ElementsAre(1));
 }
 
 }  // namespace

@@ -48,6 +48,38 @@ TEST_F(Faults, DisconnectionWhileTheAboutWindowIsOpen) {
   EXPECT_EQ(Explorer(), nullptr);
 }
 
+// However it is closed, the window below has the focus again and the environment is alive.
+TEST_F(Faults, TheAboutWindowGivesBackTheFocus) {
+  ASSERT_EQ(host.StartUp(), S_OK);
+  Click("Standard", kButton);
+  ASSERT_NE(Explorer(), nullptr);
+  for (const WORD key : {VK_RETURN, VK_ESCAPE, 0}) {
+    SetFocus(Components());
+    bool was_open = false;
+    window.Later(400, [&] {
+      const HWND about = FindShown("About Corvane");
+      was_open = about != nullptr;
+      EXPECT_FALSE(IsWindowEnabled(window.Handle()));
+      EXPECT_FALSE(IsWindowEnabled(Explorer()));
+      EXPECT_EQ(GetActiveWindow(), about);
+      key != 0 ? PostKey(GetFocus(), key) : void(PostMessageW(about, WM_CLOSE, 0, 0));
+    });
+    OpenAbout();
+    EXPECT_TRUE(window.PumpUntil([&] { return was_open && FindShown("About Corvane") == nullptr; })) << key;
+    window.Settle();
+    EXPECT_TRUE(IsWindowEnabled(window.Handle())) << key;
+    EXPECT_TRUE(IsWindowEnabled(Explorer())) << key;
+    EXPECT_EQ(GetActiveWindow(), Explorer()) << key;
+    EXPECT_TRUE(IsChild(Explorer(), GetFocus())) << key;
+  }
+  EXPECT_THAT(window.commands, IsEmpty());
+  stage.ledger.ClearCalls();
+  Press(Procedures(), {VK_ESCAPE});
+  EXPECT_EQ(stage.ledger.Calls("Window.SetFocus"), 1);
+  EXPECT_EQ(GetActiveWindow(), window.Handle());
+  EXPECT_EQ(GetFocus(), window.CodeArea());
+}
+
 TEST_F(Faults, DisconnectionWhileAMessageBoxIsOpen) {
   environment->Bars().RemoveBar("Standard");
   bool was_open = false;

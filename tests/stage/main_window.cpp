@@ -10,7 +10,9 @@ constexpr wchar_t kClass[] = L"StageMainWindow";
 constexpr UINT_PTR kWakeUp = 1;
 constexpr DWORD kSettled = 20;  // milliseconds without a message
 
-ACCEL kAccelerators[] = {{FVIRTKEY, VK_F5, 1}, {FVIRTKEY | FCONTROL, 'F', 2}, {FVIRTKEY, VK_DELETE, 3}};
+ACCEL kAccelerators[] = {
+    {FVIRTKEY, VK_F5, 1},     {FVIRTKEY | FCONTROL, 'F', 2}, {FVIRTKEY, VK_DELETE, 3},  {FVIRTKEY, VK_TAB, 4},
+    {FVIRTKEY, VK_RETURN, 5}, {FVIRTKEY, VK_ESCAPE, 6},      {FVIRTKEY | FALT, '1', 7}, {FVIRTKEY, 'A', 8}};
 
 }  // namespace
 
@@ -64,10 +66,10 @@ void MainWindow::Later(DWORD milliseconds, std::function<void()> act) {
   SetTimer(window_, last_timer_, milliseconds, nullptr);
 }
 
-// Keys for the environment's own windows alone are looked up among its accelerators.
+// Every key is looked up among its accelerators, whatever window it is for, and then among those of its dialogs.
 void MainWindow::Dispatch(MSG& message) {
-  const bool own = message.hwnd == window_ || IsChild(window_, message.hwnd);
-  if (own && TranslateAcceleratorW(window_, accelerators_, &message)) return;
+  if (TranslateAcceleratorW(window_, accelerators_, &message)) return;
+  if (IsDialogMessageW(window_, &message)) return;
   TranslateMessage(&message);
   DispatchMessageW(&message);
 }

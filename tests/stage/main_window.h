@@ -16,8 +16,8 @@ class MainWindow {
 
   HWND Handle() const { return window_; }
   HWND CodeArea() const { return code_; }
-  // Its accelerators that were taken: 1 F5, 2 Ctrl+F, 3 Delete. None should be while a window of the add-in has the
-  // focus.
+  // Its accelerators that were taken: 1 F5, 2 Ctrl+F, 3 Delete, 4 Tab, 5 Enter, 6 Esc, 7 Alt+1, 8 "A". None should be
+  // while a window of the add-in has the focus.
   std::vector<int> commands;
 
   // Runs the loop until [done]. False when that took too long.

@@ -15,9 +15,10 @@ constexpr wchar_t kSettings[] = L"Software\\VB and VBA Program Settings\\Corvane
 constexpr DWORD kLongestFarewell = 1000;  // milliseconds
 constexpr wchar_t kDisplayOnConnect[] = L"DisplayOnConnect";
 
-// The library is installed once for all stories.
+// The library is installed once for all stories. What an earlier run left in the list tells nothing of it.
 InstalledLibrary& Library() {
   static InstalledLibrary& library = *[] {
+    if (const auto listed = FindListed(kButton)) RemoveFromList(*listed);
     auto* installed = new InstalledLibrary(L"plain");
     EXPECT_EQ(installed->Register(), S_OK);
     return installed;
@@ -62,12 +63,10 @@ void Story::RegisterUsualLibrary() {
   EXPECT_EQ(Library().Register(), S_OK);
 }
 
-// The button is found by its place: the third from the end.
-void Story::OpenAbout() const {
-  const auto count = SendMessageW(Toolbar(), TB_BUTTONCOUNT, 0, 0);
+void Story::PressTool(int position) const {
   RECT place{};
   ASSERT_TRUE(
-      SendMessageW(Toolbar(), TB_GETITEMRECT, static_cast<WPARAM>(count - 3), reinterpret_cast<LPARAM>(&place)));
+      SendMessageW(Toolbar(), TB_GETITEMRECT, static_cast<WPARAM>(position - 1), reinterpret_cast<LPARAM>(&place)));
   PostClick(Toolbar(), (place.left + place.right) / 2, (place.top + place.bottom) / 2);
 }
 
@@ -115,10 +114,13 @@ std::vector<std::string> Story::Captions(const std::string& bar) const {
 
 void Story::Press(HWND control, std::initializer_list<WORD> keys) {
   SetFocus(control);
-  for (WORD key : keys) {
-    PostKey(GetFocus(), key);
-    window.Settle();
-  }
+  for (WORD key : keys) Key(key);
+}
+
+void Story::Key(WORD key, Modifiers with) {
+  const Held held(with);
+  PostKey(GetFocus(), key, with);
+  window.Settle();
 }
 
 }  // namespace corvane::stage

@@ -40,10 +40,16 @@ class Story : public testing::Test {
   HWND Toolbar() const { return ControlAt(Explorer(), 0, 0); }
   HWND Components() const { return ControlAt(Explorer(), 75, 900); }
   HWND Procedures() const { return ControlAt(Explorer(), 75, 1635); }
+  HWND ComponentFilter() const { return ControlAt(Explorer(), 7140, 900); }
+  HWND ProcedureFilter() const { return ControlAt(Explorer(), 75, 2775); }
   // The user presses keys in a control.
   void Press(HWND control, std::initializer_list<WORD> keys);
-  // Clicks on the explorer's button for its modal window. Returns at once.
-  void OpenAbout() const;
+  // The same where the focus is, with other keys held down.
+  void Key(WORD key, Modifiers with = {});
+  // Clicks on a button of the explorer's toolbar, from 1, separators included. Returns at once.
+  void PressTool(int position) const;
+  // Its modal window comes up.
+  void OpenAbout() const { PressTool(23); }
   static void RegisterUsualLibrary();
   // Ends the add-in and looks at what it left behind.
   void ExpectNothingLeft();

@@ -31,10 +31,18 @@ const ObjectTable& TableOf<VBE>() {
 
 namespace {
 
-// Only the main window is a window of this process.
+// Only the main window is a window of this process; null for another.
+HWND HandleOf(Call& call) {
+  return call.Shared<Window>() == call.stage.environment->MainWindow() ? call.stage.main_window : nullptr;
+}
+
 void WindowHandle(Call& call) {
-  const bool is_main = call.Shared<Window>() == call.stage.environment->MainWindow();
-  call.Return(is_main ? static_cast<long>(reinterpret_cast<LONG_PTR>(call.stage.main_window)) : 0L);
+  call.Return(static_cast<long>(reinterpret_cast<LONG_PTR>(HandleOf(call))));
+}
+
+void FocusWindow(Call& call) {
+  call.Target<Window>().SetFocus();
+  if (const HWND window = HandleOf(call)) ::SetFocus(window);
 }
 
 }  // namespace
@@ -46,7 +54,7 @@ const ObjectTable& TableOf<Window>() {
                                         Method("Close", 0x63, kForward<Window, &Window::Close>),
                                         Get("Caption", 0x64, kForward<Window, &Window::Caption>),
                                         GetSet("Visible", 0x6a, nullptr, kForward<Window, &Window::SetVisible>),
-                                        Method("SetFocus", 0x6f, kForward<Window, &Window::SetFocus>),
+                                        Method("SetFocus", 0x6f, &FocusWindow),
                                         Get("HWnd", 0x78, &WindowHandle),
                                     }};
   return table;
