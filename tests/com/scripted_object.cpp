@@ -43,7 +43,8 @@ std::string InWords(const std::string& member, WORD how, const DISPPARAMS& param
   const bool put = how & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF);
   const UINT first = put ? 1 : 0;
   std::string text;
-  for (UINT i = parameters.cArgs; i-- > first;) text += (text.empty() ? "" : ", ") + InWords(parameters.rgvarg[i]);
+  for (UINT i = parameters.cArgs; i-- > first;)
+    text += (i + 1 == parameters.cArgs ? "" : ", ") + InWords(parameters.rgvarg[i]);
   if (put) {
     const bool named = parameters.cNamedArgs == 1 && parameters.rgdispidNamedArgs[0] == DISPID_PROPERTYPUT;
     return std::string(how == DISPATCH_PROPERTYPUTREF ? "putref " : "put ") + member +
