@@ -18,13 +18,13 @@ struct Member {
   // [add_in] is null while it is not connected.
   Value (*get)(const Connect* add_in);
   void (*put)(Connect& add_in, const Value& value);
-  Value (*call)(Connect& add_in, const Arguments& arguments);
+  Value (*call)(Session& session, const Arguments& arguments);
 };
 
 template <class Act>
 constexpr auto Doing(Act) {
-  return [](Connect& add_in, const Arguments& arguments) {
-    Act()(add_in, arguments);
+  return [](Session& session, const Arguments& arguments) {
+    Act()(session.AddIn(), arguments);
     return Value();
   };
 }
@@ -44,18 +44,26 @@ const Member kMembers[] = {
     {L"Show", 1, nullptr, nullptr,
      Doing([](Connect& add_in, const Arguments& arguments) { add_in.Show(arguments[0].ToBool()); })},
     {L"AddToAddInCommandBar", 1, nullptr, nullptr,
-     [](Connect& add_in, const Arguments& arguments) {
-       return Argument(add_in.AddToAddInCommandBar(arguments[0].ToText()));
+     [](Session& session, const Arguments& arguments) {
+       return Argument(session.AddIn().AddToAddInCommandBar(arguments[0].ToText()));
      }},
     {L"AddToAddInMenu", 1, nullptr, nullptr,
-     [](Connect& add_in, const Arguments& arguments) {
-       return Argument(add_in.AddToAddInMenu(arguments[0].ToText()));
+     [](Session& session, const Arguments& arguments) {
+       return Argument(session.AddIn().AddToAddInMenu(arguments[0].ToText()));
      }},
     {L"MenuHandler_Click", 3, nullptr, nullptr,
      Doing([](Connect& add_in, const Arguments&) { add_in.MenuHandler_Click(); })},
     {L"MenuHand_Click", 3, nullptr, nullptr, Doing([](Connect& add_in, const Arguments&) { add_in.MenuHand_Click(); })},
     {L"mStart_EnterRunMode", 0, nullptr, nullptr,
      Doing([](Connect& add_in, const Arguments&) { add_in.mStart_EnterRunMode(); })},
+    // The text of a script; its result text.
+    {L"RunScript", 1, nullptr, nullptr,
+     [](Session& session, const Arguments& arguments) { return Value(session.Scripts().Run(arguments[0].ToText())); }},
+    {L"StopScript", 0, nullptr, nullptr,
+     [](Session& session, const Arguments&) {
+       session.Scripts().Stop();
+       return Value();
+     }},
 };
 constexpr DISPID kFirst = 0x100;  // the others have the ids of their slots
 
@@ -79,7 +87,7 @@ void Put(Session* session, const Member& member, const DISPPARAMS& parameters) {
 Value Call(Session* session, const Member& member, const DISPPARAMS& parameters) {
   const Arguments arguments = ArgumentsOf(parameters, member.arguments);
   Value answer;
-  if (session) session->Run([&](Connect& add_in) { answer = member.call(add_in, arguments); });
+  if (session) session->Run([&](Connect&) { answer = member.call(*session, arguments); });
   return answer;
 }
 

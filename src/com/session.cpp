@@ -51,7 +51,17 @@ void Session::Connect(IDispatch* application, addin::ConnectMode mode) {
   });
 }
 
+ScriptHome& Session::Scripts() {
+  if (!scripts_ && !connect_.VBInstance) throw host::Error(runtime::kObjectNotSet);
+  if (!scripts_) scripts_ = std::make_unique<ScriptHome>(connect_.VBInstance, home_->Services());
+  return *scripts_;
+}
+
 void Session::Disconnect(addin::DisconnectMode mode) {
+  if (scripts_ && scripts_->IsRunning())
+    scripts_->Stop();
+  else
+    scripts_.reset();
   Guarded([&] { connect_.AddinInstance_OnDisconnection(mode); });
   Guarded([&] { CloseAll(home_->Toolkit()); });
   connect_.VBInstance = nullptr;

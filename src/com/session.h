@@ -7,6 +7,7 @@
 #include "addin/connect.h"
 #include "com/com_api.h"
 #include "com/module_use.h"
+#include "com/script_home.h"
 
 namespace corvane::com {
 
@@ -32,18 +33,21 @@ class Session {
 
   // [application] is the environment's root.
   void Connect(IDispatch* application, addin::ConnectMode mode);
-  // Closes every window. Handlers that are running go on behind it.
+  // Closes every window, and stops the script that runs. Handlers that are running go on behind it.
   void Disconnect(addin::DisconnectMode mode);
   addin::Connect& AddIn() { return connect_; }
   // Calls the add-in from outside its windows. A disconnection in [act] lets the session live to its end. Throws what
   // [act] throws of host::Error.
   void Run(const std::function<void(addin::Connect& add_in)>& act);
+  // The script engine of this connection, made when it is asked for. Error 91 without an environment.
+  ScriptHome& Scripts();
   bool IsBusy() { return home_->IsBusy(); }
 
  private:
   const ModuleUse use_;
   std::unique_ptr<Home> home_;
   addin::Connect connect_;
+  std::unique_ptr<ScriptHome> scripts_;
 };
 
 // Destroys [session] as soon as nothing of its windows is running: at once, or from the environment's message loop.

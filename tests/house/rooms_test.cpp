@@ -25,7 +25,7 @@ const std::map<std::string, Rooms> kMayInclude = {
     {"cli", {"runtime", "host", "forms", "codelist", "script", "explorer", "environment"}},
     {"toolkit_qt", {"runtime", "forms"}},
     {"toolkit_win32", {"runtime", "host", "forms"}},
-    {"com", {"runtime", "host", "forms", "codelist", "explorer", "addin", "toolkit_win32"}},
+    {"com", {"runtime", "host", "forms", "codelist", "script", "explorer", "addin", "toolkit_win32"}},
     {"desk", {"runtime", "host", "forms", "codelist", "explorer", "addin", "environment", "cli", "toolkit_qt"}},
 };
 
