@@ -33,6 +33,17 @@ void SetName(const Ref<host::Properties>& properties, const std::string& name) {
   properties->Item("Name")->SetValue(name);
 }
 
+// A part whose name is refused is taken away again: nobody could say what it is called.
+template <class Collection, class Part>
+void NameOrRemove(Collection& collection, const Ref<Part>& made, const std::string& name) {
+  try {
+    SetName(made->Properties(), name);
+  } catch (const host::Error&) {
+    host::PassOverErrors([&] { collection.Remove(made); });
+    throw;
+  }
+}
+
 struct NewName {
   std::string own, container;  // no container: the form itself
 };
@@ -62,7 +73,8 @@ void ProjectAccess::Create(ErrorReport& errors, const std::string& class_name, c
   if (kind == nullptr) return CreateControl(errors, class_and_file, name);
   const auto project = targets_.Environment().ActiveVBProject();
   if (!project) return ReportNoProject(errors, class_name);
-  SetName(project->VBComponents()->Add(kind->type)->Properties(), SplitArguments(name)[0]);
+  const auto components = project->VBComponents();
+  NameOrRemove(*components, components->Add(kind->type), SplitArguments(name)[0]);
 }
 
 void ProjectAccess::CreateFromFile(ErrorReport& errors, const std::string& path) {
@@ -90,14 +102,15 @@ Ref<host::VBControl> ProjectAccess::NewControl(host::VBControls& controls, const
 void ProjectAccess::CreateControl(ErrorReport& errors, const Parts& class_and_file, const std::string& name) {
   const NewName names = NewNameOf(name);
   Ref<host::VBControl> made;
+  Ref<host::VBControls> controls;
   if (const Ref<host::VBForm> designer = targets_.Designer({})) {
-    const Ref<host::VBControls> controls = designer->VBControls();
+    controls = designer->VBControls();
     const bool in_form = IsDesigned(targets_.Selected(), names.container);
     const Ref<host::VBControl> container = in_form ? nullptr : FindControl(*controls, names.container);
     if (in_form || container) made = NewControl(*controls, class_and_file, container);
   }
   if (!made) return errors.ReportError(std::string("Control does not created.") + runtime::kCrLf + class_and_file[0]);
-  SetName(made->Properties(), names.own);
+  NameOrRemove(*controls, made, names.own);
 }
 
 void ProjectAccess::Remove(ErrorReport& errors, const std::string& text) {

@@ -65,6 +65,18 @@ TEST_F(ProjectParts, ANameInUseIsTheEnvironmentsErrorAndEndsThePiece) {
   }
 }
 
+TEST_F(ProjectParts, APartWhoseNameIsRefusedIsTakenAwayAgain) {
+  for (const char* call : {"CREATE(\"StdModule\",\"modCsv\")", "CREATE(\"ClassModule\",\"cls A\")",
+                           "CREATE(\"ClassModule\",\"\")", "CREATE(\"VBForm\",\"1\")"})
+    EXPECT_EQ(RunCode(std::string(call) + "\n=1"), "") << call;
+  Select("frmAbout");
+  const long before = Component("frmAbout")->Designer()->VBControls()->Count();
+  EXPECT_EQ(RunCode("CREATE(\"VB.Label\",\"lblUser\")\n=1"), "");
+  EXPECT_EQ(Component("frmAbout")->Designer()->VBControls()->Count(), before);
+  EXPECT_EQ(Errors(), Lines());
+  EXPECT_EQ(SaveAll(), Saved());
+}
+
 TEST_F(ProjectParts, ALabelInTheSelectedDesignerIsMadeAndNamed) {
   Select("frmAbout");
   RunCode("CREATE(\"VB.Label\",\"lblNew\")\nMe.lblNew.Caption=\"New\"");
