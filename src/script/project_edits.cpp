@@ -19,6 +19,14 @@ void InsertAt(host::CodeModule& module, long line, const std::string& text) {
   module.InsertLines(std::clamp(line, 1L, module.CountOfLines() + 1), text);
 }
 
+// A number of lines that a Long does not hold is the nearest one that it does.
+long LinesOf(const std::string& text) {
+  constexpr double kFewest = -2147483647.0, kMost = 2147483647.0;
+  const double number = NumberOf(text).value_or(0);
+  if (number < kFewest || number > kMost) return static_cast<long>(std::clamp(number, kFewest, kMost));
+  return LongOf(text);
+}
+
 std::string Syntax(const char* use) {
   return std::string("Syntax error. Use ") + use + " syntax";
 }
@@ -28,7 +36,7 @@ std::string Syntax(const char* use) {
 void ProjectAccess::InsertCode(ErrorReport& errors, const std::string& arguments) {
   const Parts parts = SplitArguments(arguments);
   if (parts.size() < 3 || !IsNumeric(parts[2])) return errors.ReportError(Syntax("InsertCode(Me,Str,nLin)"));
-  if (const Ref<host::CodeModule> module = Module(errors, parts[0])) InsertAt(*module, LongOf(parts[2]), parts[1]);
+  if (const Ref<host::CodeModule> module = Module(errors, parts[0])) InsertAt(*module, LinesOf(parts[2]), parts[1]);
 }
 
 Ref<host::CodePane> ProjectAccess::OpenPaneOf(host::CodeModule& module) const {
@@ -44,7 +52,7 @@ void ProjectAccess::WriteResult(ErrorReport& errors, const std::string& argument
   if (!module) return;
   long line = module->CountOfLines() + 1;
   if (parts.size() > 1 && !parts[1].empty()) {
-    line = LongOf(parts[1]);
+    line = LinesOf(parts[1]);
   } else if (const Ref<host::CodePane> pane = OpenPaneOf(*module)) {
     line = pane->GetSelection().start_line;
   }
@@ -59,7 +67,7 @@ void ProjectAccess::DeleteCode(ErrorReport& errors, const std::string& arguments
   const Ref<host::CodeModule> module = Module(errors, parts[0]);
   if (!module) return;
   const long first = LongOf(parts[1]);
-  const long count = std::min(counted ? LongOf(parts[2]) : 1, module->CountOfLines() - first + 1);
+  const long count = std::min(counted ? LinesOf(parts[2]) : 1, module->CountOfLines() - first + 1);
   if (count > 0) module->DeleteLines(first, count);
 }
 

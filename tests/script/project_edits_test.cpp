@@ -27,6 +27,18 @@ TEST_F(ProjectEdits, InsertCodeBeyondTheEndInsertsBehindTheLastLine) {
   EXPECT_EQ(SaveAll(), (Saved{{"modCsv.bas", Before("modCsv.bas") + "' end\r\n"}}));
 }
 
+TEST_F(ProjectEdits, ALineThatNoLongHoldsIsBeyondTheEndToo) {
+  EXPECT_EQ(RunCode("INSERTCODE(\"modCsv\",\"' end\",99999999999)\n=1"), "1");
+  EXPECT_EQ(SaveAll(), (Saved{{"modCsv.bas", Before("modCsv.bas") + "' end\r\n"}}));
+  EXPECT_EQ(RunCode("INSERTCODE(\"modCsv\",\"' top\",\"-99999999999\")\n=1"), "1");
+  EXPECT_EQ(Code("modCsv")->Lines(1, 1), "' top");
+}
+
+TEST_F(ProjectEdits, ACountThatNoLongHoldsIsClippedToo) {
+  EXPECT_EQ(RunCode("DELETECODE(\"modCsv\",3,99999999999)\n=1"), "1");
+  EXPECT_EQ(Code("modCsv")->CountOfLines(), 2);
+}
+
 TEST_F(ProjectEdits, InsertCodeIntoTheSelectedComponent) {
   Select("modCsv");
   RunCode("INSERTCODE(Me,\"' top\",1)");
