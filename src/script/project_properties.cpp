@@ -94,7 +94,10 @@ std::string ProjectAccess::GetProp(ErrorReport& errors, const std::string& addre
   if (!properties) return {};
   if (property.empty()) return AllProperties(*properties);
   std::string value;
-  host::PassOverErrors([&] { value = ValueText(*properties->Item(property)); });
+  if (host::PassOverErrors([&] { value = ValueText(*properties->Item(property)); })) return value;
+  const host::Variant named = NamedValue(property);  // a property may be called by its number, too
+  if (const long* number = std::get_if<long>(&named))
+    host::PassOverErrors([&] { value = ValueText(*properties->Item(*number)); });
   return value;
 }
 

@@ -150,15 +150,19 @@ constexpr NamedNumber kNamedNumbers[] = {
 static_assert(std::is_sorted(std::begin(kNamedNumbers), std::end(kNamedNumbers),
                              [](const NamedNumber& left, const NamedNumber& right) { return left.name < right.name; }));
 
-// An item behind the last one fails or is empty.
+// An item behind the last one fails or is empty. A list may have an empty item, too, so that only two of them in a row
+// are its end.
 std::string JoinedItems(host::Property& list) {
-  std::string joined;
-  for (long index = 0; index < kLongestList; ++index) {
+  std::string joined, separators;
+  int empty = 0;
+  for (long index = 0; index < kLongestList && empty < 2; ++index) {
     std::string item;
-    host::PassOverErrors([&] { item = runtime::ToText(list.IndexedValue(index)); });
-    if (item.empty()) break;
-    if (index > 0) joined += '|';
-    joined += item;
+    if (!host::PassOverErrors([&] { item = runtime::ToText(list.IndexedValue(index)); })) break;
+    empty = item.empty() ? empty + 1 : 0;
+    if (index > 0) separators += '|';
+    if (item.empty()) continue;
+    joined += separators + item;
+    separators.clear();
   }
   return joined;
 }

@@ -1,4 +1,5 @@
 // What scripts read and write of components, controls and their properties.
+#include "script/property_text.h"
 #include "tests/script/project_fixture.h"
 
 namespace corvane::script {
@@ -153,8 +154,51 @@ TEST_F(ProjectProperties, AListIsJoined) {
   EXPECT_NE(joined, "|");
 }
 
+// A list whose items behind the last one are empty, or fail.
+struct ItemsProperty : host::Property {
+  Lines items;
+  bool fails = false;
+
+  std::string Name() override { return "List"; }
+  host::Variant Value() override { return {}; }
+  void SetValue(const host::Variant&) override {}
+  long NumIndices() override { return 1; }
+  host::Variant IndexedValue(long index) override {
+    if (index < static_cast<long>(items.size())) return items[static_cast<size_t>(index)];
+    if (fails) throw host::Error(runtime::kInvalidPropertyArrayIndex);
+    return std::string();
+  }
+  void SetIndexedValue(long, const host::Variant&) override {}
+  host::Variant Object() override { return {}; }
+  void SetObject(const host::Variant&) override {}
+};
+
+TEST(ListText, AnEmptyItemIsNotTheEndOfTheList) {
+  for (const bool fails : {false, true}) {
+    ItemsProperty list;
+    list.fails = fails;
+    list.items = {"a", "", "c"};
+    EXPECT_EQ(ValueText(list), "a||c");
+    list.items = {"", "b"};
+    EXPECT_EQ(ValueText(list), "|b");
+    list.items = {"a", "b"};
+    EXPECT_EQ(ValueText(list), "a|b");
+    list.items = {};
+    EXPECT_EQ(ValueText(list), "");
+  }
+}
+
 TEST_F(ProjectProperties, APropertyThatIsNotThereIsEmptyWithoutAMessage) {
   EXPECT_EQ(Value("GETPROP(\"frmAbout.cmdOk\",\"Nothing\")"), "");
+  EXPECT_EQ(Errors(), Lines());
+}
+
+TEST_F(ProjectProperties, ANameOfAValueIsTakenForTheNumberOfAProperty) {
+  const auto properties = Component("frmAbout")->Designer()->VBControls()->Item("cmdOk")->Properties();
+  const std::string third = ValueText(*properties->Item(3L));
+  EXPECT_NE(third, "");
+  EXPECT_EQ(Value("GETPROP(\"frmAbout.cmdOk\",\"vbAlignLeft\")"), third);
+  EXPECT_EQ(Value("GETPROP(\"frmAbout.cmdOk\",\"vbFalse\")"), "");
   EXPECT_EQ(Errors(), Lines());
 }
 
