@@ -188,6 +188,35 @@ TEST(ListText, AnEmptyItemIsNotTheEndOfTheList) {
   }
 }
 
+// A property whose value cannot be read.
+struct DarkProperty : ItemsProperty {
+  std::string Name() override { return "Dark"; }
+  host::Variant Value() override { throw host::Error(runtime::kInvalidPropertyArrayIndex); }
+  long NumIndices() override { return 0; }
+};
+
+struct TwoProperties : host::Properties {
+  std::shared_ptr<ItemsProperty> list = std::make_shared<ItemsProperty>();
+  std::shared_ptr<DarkProperty> dark = std::make_shared<DarkProperty>();
+
+  long Count() override { return 2; }
+  host::Ref<host::Property> Item(const host::Index& index) override {
+    if (std::get<long>(index) == 1) return dark;
+    return list;
+  }
+};
+
+TEST(AllPropertiesText, AValueThatCannotBeReadIsWrittenError) {
+  TwoProperties properties;
+  properties.list->items = {"a", "", "c"};
+  EXPECT_EQ(AllProperties(properties), "Dark.Error|List.a||c|");
+}
+
+TEST_F(ProjectProperties, DocumentsAreListedWithTheirWord) {
+  RunCode("CREATE(\"DocObject\",\"docNew\")");
+  EXPECT_TRUE(runtime::Holds(Value("COMPONENTS(\"x\")"), "|DocObject.docNew|"));
+}
+
 TEST_F(ProjectProperties, APropertyThatIsNotThereIsEmptyWithoutAMessage) {
   EXPECT_EQ(Value("GETPROP(\"frmAbout.cmdOk\",\"Nothing\")"), "");
   EXPECT_EQ(Errors(), Lines());
