@@ -40,6 +40,8 @@ class ScrollBarPeer : public ControlPeer {
   }
 
   LRESULT OnOwnMessage(Window& window, const Message& message) override {
+    // Of a drag that is broken off the system need not tell more. The place of one that is let go comes in this turn.
+    if (message.id == WM_CAPTURECHANGED && dragging_) toolkit_.Post(LifeOfThis(), [this] { EndDrag(); });
     if (!IsWheel(message.id)) return window.Default(message);
     if (const int notches = wheel_.NotchesOf(message.id, message.w)) {
       ReportThenShow(forms::Property::Value, [&] { bar_.UserScroll(ValueAfter(bar_, notches), false); });
@@ -71,11 +73,14 @@ class ScrollBarPeer : public ControlPeer {
         dragging_ = false;
         return MoveTo(ThumbPlace());
       case SB_ENDSCROLL:  // alone when the bar lost the mouse under the thumb
-        if (std::exchange(dragging_, false)) MoveBy(0);
-        return;
+        return EndDrag();
       default:
         break;
     }
+  }
+
+  void EndDrag() {
+    if (std::exchange(dragging_, false)) MoveBy(0);
   }
 
   // 32 bits of it: the message holds 16.

@@ -189,6 +189,15 @@ class ScrollBarTest : public ButtonTest {
   void Act(int how) {
     SendMessageW(WindowOf(form), WM_HSCROLL, MAKEWPARAM(how, 0), reinterpret_cast<LPARAM>(WindowOf(bar)));
   }
+  // From the thumb at the near end to [x]; the messages wait.
+  void DragThumb(int x) {
+    const int thumb = GetSystemMetrics(SM_CXHSCROLL) + 4;
+    PostMessageW(WindowOf(bar), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(thumb, 8));
+    for (int step = thumb; step < x; step += 10) {
+      PostMessageW(WindowOf(bar), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(step, 8));
+    }
+    PostMessageW(WindowOf(bar), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(x, 8));
+  }
 };
 
 TEST_F(ScrollBarTest, ShowsRangePageAndPlace) {
@@ -244,6 +253,44 @@ TEST_F(ScrollBarTest, ArrowsScrollTheBarWithTheFocus) {
   PostKey(VK_RIGHT);
   PostKey(VK_NEXT);
   EXPECT_EQ(Taken(), (Log{"Change 32", "Change 52"}));
+}
+
+// The mouse itself: the system's own loop follows the thumb.
+TEST_F(ScrollBarTest, TheThumbIsDraggedAcrossALargeRange) {
+  bar.Move(120, 120, 4500, 255);
+  bar.SetValue(10), bar.SetMax(200010), bar.SetLargeChange(20000);
+  Show();
+  Taken();
+  DragThumb(150);
+  PostMessageW(WindowOf(bar), WM_LBUTTONUP, 0, MAKELPARAM(150, 8));
+  Pump();
+  const Log taken = Taken();
+  ASSERT_GE(taken.size(), 2u);
+  for (size_t at = 0; at + 1 < taken.size(); ++at) EXPECT_EQ(taken[at].substr(0, 7), "Scroll ") << at;
+  EXPECT_EQ(taken.back(), "Change " + std::to_string(bar.Value()));
+  EXPECT_GT(bar.Value(), 65535 + 10);
+  EXPECT_EQ(Info().nPos, bar.Value() - 10);
+}
+
+TEST_F(ScrollBarTest, ADragThatTheSystemBreaksOffIsAtItsEnd) {
+  bar.Move(120, 120, 4500, 255);
+  bar.SetValue(10), bar.SetMax(1010), bar.SetLargeChange(100);
+  Show();
+  Taken();
+  DragThumb(150);
+  const UINT_PTR clock = toolkit.StartClock(10, [] { ReleaseCapture(); });
+  // The system's loop looks whether it has the mouse when a message comes.
+  PumpFor(100);
+  toolkit.StopClock(clock);
+  ASSERT_NE(GetCapture(), WindowOf(bar));
+  ASSERT_FALSE(told.empty());
+  EXPECT_EQ(told.front().substr(0, 7), "Scroll ");
+  EXPECT_EQ(Taken().back(), "Change " + std::to_string(bar.Value()));
+  bar.SetValue(500);
+  EXPECT_EQ(Info().nPos, 490) << "the thumb follows the value again";
+  Taken();
+  Act(SB_LINEDOWN);
+  EXPECT_EQ(Taken(), Log{"Change 502"});
 }
 
 TEST_F(ScrollBarTest, ALargeRangeIsNotCutTo16Bits) {
