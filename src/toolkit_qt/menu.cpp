@@ -38,6 +38,10 @@ MenuBar::MenuBar(QtToolkit& toolkit, forms::Form& form, QWidget& window)
   bar_->setFont(MenuFont());
 }
 
+MenuBar::~MenuBar() {
+  if (popup_) popup_->close();
+}
+
 void MenuBar::Renew() {
   if (stale_ || !bar_) return;
   stale_ = true;
@@ -140,6 +144,7 @@ forms::Menu* MenuBar::ChooseFrom(forms::Menu& menu, QPoint place) {
   QMenu shown;
   const QPointer<QObject> self(&context_);
   Fill(shown, menu, [&](forms::Menu& item) { chosen = &item; });
+  popup_ = &shown;
   if (!shown.isEmpty()) shown.exec(place);
   return self && chosen && IsThere(chosen) ? chosen : nullptr;
 }

@@ -19,6 +19,9 @@ class MenuBar {
   static constexpr int kHeight = 22;  // logical pixels
 
   MenuBar(QtToolkit& toolkit, forms::Form& form, QWidget& window);
+  ~MenuBar();  // an open popup menu goes with its window
+  MenuBar(const MenuBar&) = delete;
+  MenuBar& operator=(const MenuBar&) = delete;
   // The titles again, at the next turn of the loop or the next layout.
   void Renew();
   int ShownHeight();
@@ -38,6 +41,7 @@ class MenuBar {
   QtToolkit& toolkit_;
   forms::Form& form_;
   QPointer<QMenuBar> bar_;
+  QPointer<QMenu> popup_;  // that is open
   bool stale_ = true;
   QObject context_;  // the bar's window may outlive this: with it end the connections
 };

@@ -1,5 +1,6 @@
 // Windows and what is done to them on Qt's own widgets.
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -476,6 +477,41 @@ TEST_F(Window, PopupMenuShowsItsItemsAndClicksTheChosenOne) {
   });
   form.PopupMenu(popup, 300, 300);
   EXPECT_EQ(told, Strings{"second"});
+}
+
+// A window of its own with a popup menu, and what [act] does to it while the menu is open.
+void WhilePopupIsOpen(QtToolkit& toolkit, const std::function<void(std::unique_ptr<forms::Form>&)>& act) {
+  auto window = std::make_unique<forms::Form>(toolkit, "frmOther");
+  auto popup = std::make_unique<forms::Menu>(*window, "mnuPop", "pop");
+  auto more = std::make_unique<forms::Menu>(*popup, "mnuMore", "More");
+  auto deep = std::make_unique<forms::Menu>(*more, "mnuDeep", "Deep");
+  popup->SetVisible(false);
+  deep->Click = [] { FAIL() << "of a window that is gone"; };
+  window->Show();
+  QCoreApplication::processEvents();
+  QPointer<QMenu> shown;
+  QTimer::singleShot(0, [&] {
+    shown = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_TRUE(shown);
+    QMenu* sub = shown->actions()[0]->menu();
+    act(window);
+    deep.reset(), more.reset();
+    if (shown) emit sub->aboutToShow();
+    if (shown && !sub->actions().isEmpty()) sub->actions()[0]->trigger();
+  });
+  QObject here;  // with it the clock stops
+  QTimer::singleShot(2000, &here, [&] {
+    if (shown) shown->close();
+  });
+  QElapsedTimer clock;
+  clock.start();
+  window->PopupMenu(*popup, 300, 300);
+  EXPECT_LT(clock.elapsed(), 1500) << "the menu goes with its window";
+}
+
+TEST_F(Window, AFormUnloadedWhileItsMenuIsOpenGoes) {
+  WhilePopupIsOpen(toolkit, [](auto& window) { window->Unload(); });
+  EXPECT_TRUE(faults.empty());
 }
 
 TEST_F(Window, MenuBarEntriesAreReadWhenTheyOpen) {
