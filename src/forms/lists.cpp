@@ -11,7 +11,14 @@ namespace corvane::forms {
 
 namespace {
 
-constexpr Twips kBorders = 60;  // above and below the rows
+constexpr Twips kBorders = 60;     // above and below the rows
+constexpr Twips kBoxHeight = 225;  // of a row with a check box, at least
+
+Twips RowHeightOf(const ListControl& list) {
+  const Twips text = list.FormOf().Toolkit().Metrics().TextHeight(list.Font());
+  const auto* box = dynamic_cast<const ListBox*>(&list);
+  return box && box->Style() == 1 ? std::max(kBoxHeight, text) : text;
+}
 
 constexpr PropertyEntry<ListControl> kProperties[] = {
     ReadOnly<ListControl, &ListControl::ListCount>(Property::ListCount),
@@ -96,7 +103,7 @@ void ListControl::SetTopIndex(long row) {
 }
 
 long ListControl::RowsInView() const {
-  return std::max(1L, static_cast<long>((Height() - kBorders) / FormOf().Toolkit().Metrics().TextHeight(Font())));
+  return std::max(1L, static_cast<long>((Height() - kBorders) / RowHeightOf(*this)));
 }
 
 void ListControl::SetSorted(bool value) {

@@ -32,6 +32,8 @@ class ContractDriver {
   virtual void Type(Form& form, const std::string& text) = 0;
   virtual void ChooseRow(ListControl& list, long row) = 0;
   virtual void Scroll(ScrollBar& bar, long value) = 0;
+  // Drags the thumb over [places] and lets it go at the last one.
+  virtual void DragThumb(ScrollBar& bar, const std::vector<long>& places) = 0;
   virtual void ChooseMenu(Form& form, const std::vector<std::string>& captions) = 0;
   virtual void ClickToolButton(Toolbar& bar, int position) = 0;
   virtual void ChooseToolMenu(Toolbar& bar, int position, int entry) = 0;
@@ -46,6 +48,9 @@ class ContractDriver {
   virtual std::optional<std::string> ShownText(Control&) { return std::nullopt; }
   virtual std::optional<bool> IsOnScreen(Control&) { return std::nullopt; }
   virtual std::optional<Color> PixelAt(PictureBox&, Twips, Twips) { return std::nullopt; }
+  virtual std::optional<bool> IsRowWhollyShown(ListBox&, long) { return std::nullopt; }
+  // Whether Alt and a letter opens a menu of the bar.
+  virtual bool OpensMenusByKey() { return true; }
 };
 
 using DriverFactory = std::function<std::unique_ptr<ContractDriver>()>;
@@ -403,6 +408,35 @@ TEST_P(FormsContract, ArrowsWalkThroughAList) {
   EXPECT_EQ(window->Taken(), (Log{"lst_Click"}));
 }
 
+TEST_P(FormsContract, AFormCanUnloadItselfWhileASelectionIsExtended) {
+  window->lst.SetMultiSelect(2);
+  window->lst.Click = [&] { window->Unload(); };
+  Show();
+  Focus(window->lst);
+  driver->Press(*window, vbKeyEnd, vbShiftMask);
+  driver->Settle();
+  EXPECT_FALSE(window->IsLoaded());
+  EXPECT_EQ(faults, Log{});
+}
+
+TEST_P(FormsContract, TheLastRowOfAListCanBeReached) {
+  for (int style : {0, 1}) {
+    window->lst.SetStyle(style);
+    for (int row = 0; row < 50; ++row) window->lst.AddItem("row");
+    Show();
+    const long last = window->lst.ListCount() - 1;
+    window->lst.SetListIndex(last);
+    driver->Settle();
+    EXPECT_TRUE(driver->IsRowWhollyShown(window->lst, last).value_or(true)) << style;
+    window->lst.SetTopIndex(0);
+    driver->Settle();
+    EXPECT_FALSE(driver->IsRowWhollyShown(window->lst, last).value_or(false)) << style;
+    window->lst.SetTopIndex(last);
+    driver->Settle();
+    EXPECT_TRUE(driver->IsRowWhollyShown(window->lst, last).value_or(true)) << style;
+  }
+}
+
 TEST_P(FormsContract, RowsChangedByCodeKeepTheSelection) {
   Show();
   window->lst.SetListIndex(1);
@@ -539,6 +573,23 @@ TEST_P(FormsContract, AFormMayGoInAKeyOfItsOwn) {
   EXPECT_EQ(faults, Log{});
 }
 
+TEST_P(FormsContract, ABoxThatIsMadeAgainKeepsTheKeys) {
+  Show();
+  Focus(window->txt);
+  int moved = 0;
+  window->txt.LostFocus = window->txt.GotFocus = [&] { ++moved; };
+  window->txt.SetMultiLine(true);
+  driver->Settle();
+  driver->Type(*window, "a");
+  EXPECT_EQ(window->txt.Text(), "a");
+  Focus(window->cmb);
+  window->cmb.SetStyle(1);
+  driver->Settle();
+  driver->Type(*window, "z");
+  EXPECT_EQ(window->cmb.Text(), "z");
+  EXPECT_EQ(moved, 1) << "to the other box alone";
+}
+
 TEST_P(FormsContract, EnterAndEscapePressTheirButtons) {
   window->cmdOK.SetDefault(true);
   window->cmdCancel.SetCancel(true);
@@ -593,9 +644,22 @@ TEST_P(FormsContract, AnAccessKeyOfTheMenuBarIsAKeyDownFirst) {
   window->mnuFile.Click = [&] { window->log.push_back("mnuFile_Click"); };
   Show();
   Focus(window->txt);
+  driver->OnPopup("");  // closes a menu that opened all the same
   driver->Press(*window, 'F', vbAltMask);
   driver->Settle();
   EXPECT_EQ(window->Taken(), (Log{"KeyDown 4"})) << "taken by the handler it opens no menu";
+}
+
+TEST_P(FormsContract, AnAccessKeyOfTheMenuBarThatNobodyTakesOpensTheMenu) {
+  if (!driver->OpensMenusByKey()) GTEST_SKIP() << "no menu bar to be seen";
+  window->mnuFile.Click = [&] { window->log.push_back("mnuFile_Click"); };
+  Show();
+  Focus(window->txt);
+  driver->OnPopup("");
+  driver->Press(*window, 'F', vbAltMask);
+  driver->Wait(50);
+  EXPECT_EQ(window->Taken(), (Log{"mnuFile_Click"}));
+  EXPECT_EQ(window->txt.Text(), "");
 }
 
 TEST_P(FormsContract, AScrollBarChangesOnce) {
@@ -610,6 +674,17 @@ TEST_P(FormsContract, AScrollBarChangesOnce) {
   driver->Settle();
   EXPECT_EQ(window->hs.Value(), 30);
   EXPECT_EQ(window->Taken(), (Log{"hs_Change"}));
+}
+
+TEST_P(FormsContract, ADraggedThumbScrollsAndThenChanges) {
+  Show();
+  window->hs.SetMax(100000);
+  window->hs.Scroll = [&] { window->log.push_back("Scroll " + std::to_string(window->hs.Value())); };
+  window->hs.Change = [&] { window->log.push_back("Change " + std::to_string(window->hs.Value())); };
+  driver->DragThumb(window->hs, {30000, 70000});
+  EXPECT_EQ(window->Taken(), (Log{"Scroll 30000", "Scroll 70000", "Change 70000"}));
+  window->hs.SetValue(5);
+  EXPECT_EQ(window->Taken(), (Log{"Change 5"}));
 }
 
 TEST_P(FormsContract, ACanvasShowsWhatIsDrawn) {

@@ -18,6 +18,10 @@ class HeadlessDriver : public ContractDriver {
   void Type(Form& form, const std::string& text) override { User(form).Type(text); }
   void ChooseRow(ListControl& list, long row) override { Hand(list).Choose(list, row); }
   void Scroll(ScrollBar& bar, long value) override { Hand(bar).Scroll(bar, value); }
+  void DragThumb(ScrollBar& bar, const std::vector<long>& places) override {
+    for (long place : places) toolkit_.Guard([&] { bar.UserScroll(place, true); });
+    toolkit_.Guard([&] { bar.UserScroll(places.back(), false); });
+  }
   void ChooseMenu(Form& form, const std::vector<std::string>& captions) override {
     User(form).Menu(captions.at(0), captions.at(1));
   }
@@ -31,6 +35,7 @@ class HeadlessDriver : public ContractDriver {
   }
   void OnPopup(const std::string& caption) override { toolkit_.OnPopup(caption); }
   void Wait(int milliseconds) override { toolkit_.Advance(milliseconds); }
+  bool OpensMenusByKey() override { return false; }
 
  private:
   static User Hand(Control& control) { return User(control.FormOf()); }

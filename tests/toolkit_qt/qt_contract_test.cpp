@@ -109,6 +109,12 @@ class QtDriver : public forms::ContractDriver {
   void Scroll(forms::ScrollBar& bar, long value) override {
     qobject_cast<QScrollBar*>(toolkit_.WidgetOf(bar))->setValue(static_cast<int>(value));
   }
+  void DragThumb(forms::ScrollBar& bar, const std::vector<long>& places) override {
+    auto* shown = qobject_cast<QScrollBar*>(toolkit_.WidgetOf(bar));
+    shown->setSliderDown(true);
+    for (long place : places) shown->setSliderPosition(static_cast<int>(place));
+    shown->setSliderDown(false);
+  }
   void ChooseMenu(forms::Form& form, const std::vector<std::string>& captions) override {
     QList<QAction*> actions = toolkit_.WindowOf(form)->findChild<QMenuBar*>()->actions();
     for (const std::string& caption : captions) {
@@ -167,6 +173,11 @@ class QtDriver : public forms::ContractDriver {
   std::optional<forms::Color> PixelAt(forms::PictureBox& box, forms::Twips x, forms::Twips y) override {
     const QColor pixel = InsideOf(box)->grab().toImage().pixelColor(Pixels(x), Pixels(y));
     return forms::RGB(pixel.red(), pixel.green(), pixel.blue());
+  }
+  std::optional<bool> IsRowWhollyShown(forms::ListBox& list, long row) override {
+    const auto& view = dynamic_cast<ListView&>(*toolkit_.WidgetOf(list));
+    const long top = (row - view.TopRow()) * view.RowHeight();
+    return top >= 0 && top + view.RowHeight() <= view.height() - 2;
   }
 
  private:

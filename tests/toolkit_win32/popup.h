@@ -40,14 +40,15 @@ inline HMENU OpenPopup() {
   return reinterpret_cast<HMENU>(SendMessageW(shown, kGetMenu, 0, 0));
 }
 
-// Walks to the item by arrows and takes it by Enter; "" closes the menu. False while no menu is open.
+// Walks to the item by arrows and takes it by Enter; "" closes the menu, and leaves the bar that it opened out of.
+// False while no menu is open.
 inline bool ChooseInOpenPopup(const std::wstring& caption) {
   const HMENU menu = OpenPopup();
   const HWND owner = ThreadState().hwndMenuOwner;
   if (!menu || !owner) return false;
   const int wanted = caption.empty() ? -1 : PlaceIn(menu, caption);
   if (wanted < 0) {
-    PostMessageW(owner, WM_KEYDOWN, VK_ESCAPE, 1);
+    EndMenu();
     return true;
   }
   int marked = -1;

@@ -42,19 +42,16 @@ class Win32Driver : public forms::ContractDriver {
     SendMessageW(window, LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&place));
     PostClick(window, {place.left + 30, (place.top + place.bottom) / 2});
   }
-  // The thumb is dragged there and let go.
+  // The thumb is let go there at once.
   void Scroll(forms::ScrollBar& bar, long value) override {
-    const HWND window = toolkit_.WindowOf(bar);
-    SCROLLINFO info{};
-    info.cbSize = sizeof info;
-    info.fMask = SIF_TRACKPOS | SIF_POS;
-    info.nPos = info.nTrackPos = static_cast<int>(value);
-    const bool upright = bar.Kind() == forms::ControlKind::VScrollBar;
-    SetScrollInfo(window, SB_CTL, &info, FALSE);
-    for (int what : {SB_THUMBPOSITION, SB_ENDSCROLL}) {
-      SendMessageW(GetParent(window), upright ? WM_VSCROLL : WM_HSCROLL,
-                   MAKEWPARAM(what, what == SB_THUMBPOSITION ? value : 0), reinterpret_cast<LPARAM>(window));
-    }
+    TellScroll(bar, SB_THUMBPOSITION, value);
+    TellScroll(bar, SB_ENDSCROLL, value);
+    Pump();
+  }
+  void DragThumb(forms::ScrollBar& bar, const std::vector<long>& places) override {
+    for (long place : places) TellScroll(bar, SB_THUMBTRACK, place);
+    TellScroll(bar, SB_THUMBPOSITION, places.back());
+    TellScroll(bar, SB_ENDSCROLL, places.back());
     Pump();
   }
   void ChooseMenu(forms::Form& form, const std::vector<std::string>& captions) override {
@@ -89,11 +86,7 @@ class Win32Driver : public forms::ContractDriver {
   void InModal(forms::Form& form, std::function<void()> act) override {
     Soon([this, &form, act = std::move(act)] { form.Visible() ? act() : InModal(form, act); });
   }
-  void OnPopup(const std::string& caption) override {
-    Soon([this, caption] {
-      if (!ChooseInOpenPopup(toolkit_win32::ShownText(caption))) OnPopup(caption);
-    });
-  }
+  void OnPopup(const std::string& caption) override { ChooseWhenOpen(caption, 1); }
   void Wait(int milliseconds) override { PumpFor(static_cast<unsigned>(milliseconds)); }
 
   std::optional<std::string> ShownText(forms::Control& control) override {
@@ -113,8 +106,27 @@ class Win32Driver : public forms::ContractDriver {
     ReleaseDC(window, dc);
     return color;
   }
+  std::optional<bool> IsRowWhollyShown(forms::ListBox& list, long row) override {
+    const HWND window = toolkit_.WindowOf(list);
+    RECT place{}, client{};
+    SendMessageW(window, LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&place));
+    GetClientRect(window, &client);
+    return place.top >= 0 && place.bottom <= client.bottom;
+  }
 
  private:
+  // As the system tells while [place] is that of the thumb.
+  void TellScroll(forms::ScrollBar& bar, int what, long place) {
+    const HWND window = toolkit_.WindowOf(bar);
+    SCROLLINFO info{};
+    info.cbSize = sizeof info;
+    info.fMask = SIF_TRACKPOS | SIF_POS;
+    info.nPos = info.nTrackPos = static_cast<int>(place);
+    if (what != SB_ENDSCROLL) SetScrollInfo(window, SB_CTL, &info, FALSE);
+    const bool upright = bar.Kind() == forms::ControlKind::VScrollBar;
+    SendMessageW(GetParent(window), upright ? WM_VSCROLL : WM_HSCROLL,
+                 MAKEWPARAM(what, what == SB_ENDSCROLL ? 0 : place), reinterpret_cast<LPARAM>(window));
+  }
   Spot SpotOf(forms::Control& control, forms::Twips x, forms::Twips y) {
     const HWND base = dynamic_cast<WindowPeer&>(*control.Peer()).Inside();
     return SpotAt(base, {toolkit_.Scale().Pixels(x), toolkit_.Scale().Pixels(y)});
@@ -137,16 +149,24 @@ class Win32Driver : public forms::ContractDriver {
     SendMessageW(parts.hwndList, LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&place));
     PostClick(parts.hwndList, {place.left + 10, (place.top + place.bottom) / 2});
   }
+  void ChooseWhenOpen(const std::string& caption, unsigned milliseconds) {
+    Soon(
+        [this, caption] {
+          if (!ChooseInOpenPopup(toolkit_win32::ShownText(caption))) ChooseWhenOpen(caption, kLookAgain);
+        },
+        milliseconds);
+  }
   // Inside whatever loop runs next.
-  void Soon(std::function<void()> act) {
+  void Soon(std::function<void()> act, unsigned milliseconds = 1) {
     auto number = std::make_shared<UINT_PTR>();
-    *number = toolkit_.StartClock(1, [this, number, act = std::move(act)] {
+    *number = toolkit_.StartClock(milliseconds, [this, number, act = std::move(act)] {
       const auto run = act;
       toolkit_.StopClock(*number);
       run();
     });
   }
 
+  static constexpr unsigned kLookAgain = 30;  // milliseconds: the loop must find its end in between
   Win32Toolkit toolkit_;
 };
 
