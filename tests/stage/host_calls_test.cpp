@@ -82,8 +82,12 @@ TEST_F(CallsOfAStory, ConnectingIsQuickAndAsksForItsControlsAlone) {
 
 // Where nothing is selected in the environment, all components are listed: six calls for each procedure, and those for
 // each component. A project of twice the size is asked twice as often.
+constexpr int kOfOpening = 13, kOfAProcedure = 6, kOfAComponent = 21;
+long CallsFor(long components, long procedures) {
+  return kOfOpening + components * (procedures * kOfAProcedure + kOfAComponent);
+}
+
 TEST_F(CallsOfAStory, OpeningTheExplorerAsksForEachProcedureOnce) {
-  constexpr int kOfAProcedure = 6, kOfAComponent = 21;
   long calls[2];
   for (int i = 0; i < 2; ++i) {
     std::vector<environment::SourceFile> modules;
@@ -96,7 +100,33 @@ TEST_F(CallsOfAStory, OpeningTheExplorerAsksForEachProcedureOnce) {
     ASSERT_EQ(host.ShutDown(), S_OK);
   }
   std::printf("the explorer opened with %ld calls for 20 components, %ld for 40\n", calls[0], calls[1]);
-  EXPECT_EQ(calls[1] - calls[0], 20 * (50 * kOfAProcedure + kOfAComponent));
+  EXPECT_EQ(calls[0], CallsFor(20, 50));
+  EXPECT_EQ(calls[1], CallsFor(40, 50));
+}
+
+// All in standard modules, the only ones whose procedures are listed at once.
+TEST_F(CallsOfAStory, AMillionLinesAreOpenedWithAsManyCallsAsTheyHaveProcedures) {
+  constexpr long kModules = 1000, kProcedures = 50, kLines = 20;
+  Code code = {"Option Explicit"};
+  for (long i = 1; i <= kProcedures; ++i) {
+    code.push_back("");
+    code.push_back("Private Sub Do" + std::to_string(i) + "()");
+    for (long line = 3; line < kLines; ++line) code.push_back("  x = x + " + std::to_string(line));
+    code.push_back("End Sub");
+  }
+  std::vector<environment::SourceFile> modules;
+  for (long i = 0; i < kModules; ++i) modules.push_back(Bas("mod" + std::to_string(1000 + i), code));
+  environment->OpenFromModules("Large", modules);
+  ASSERT_EQ(host.StartUp(), S_OK);
+  stage.ledger.ClearCalls();
+  const DWORD before = GetTickCount();
+  ASSERT_TRUE(environment->Bars().Click(FindOnBar("Standard", kButton)->id));
+  const DWORD took = GetTickCount() - before;
+  const long calls = stage.ledger.Calls();
+  std::printf("%ld lines: the explorer opened in %lu ms with %ld calls\n", kModules * (1 + kProcedures * kLines), took,
+              calls);
+  EXPECT_EQ(calls, CallsFor(kModules, kProcedures));
+  EXPECT_EQ(RowsOf(Procedures()).size(), 1u + kModules * kProcedures);
 }
 
 }  // namespace
