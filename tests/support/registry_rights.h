@@ -2,8 +2,9 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <sddl.h>
 #include <windows.h>
+// Behind it, as it needs it.
+#include <sddl.h>
 
 namespace corvane::tests {
 

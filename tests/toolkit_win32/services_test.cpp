@@ -5,6 +5,7 @@
 
 #include "forms/icons.h"
 #include "runtime/error.h"
+#include "tests/support/registry_rights.h"
 #include "tests/toolkit_win32/scratch_folder.h"
 #include "tests/toolkit_win32/window_fixture.h"
 #include "toolkit_win32/input_box.h"
@@ -401,6 +402,19 @@ TEST_F(SettingsTest, ANumberInThePlaceOfATextIsTheDefault) {
   const DWORD number = 7;
   RegSetKeyValueW(HKEY_CURRENT_USER, kPlace, L"n", REG_DWORD, &number, sizeof number);
   EXPECT_EQ(services.Settings.GetSetting("CorvaneTest", "S", "n", "default"), "default");
+  RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\VB and VBA Program Settings\\CorvaneTest");
+}
+
+TEST_F(SettingsTest, WhatMayNotBeReadIsTheDefaultAndWhatMayNotBeWrittenIsError5) {
+  constexpr wchar_t kPlace[] = L"Software\\VB and VBA Program Settings\\CorvaneTest\\S";
+  services.Settings.SaveSetting("CorvaneTest", "S", "n", "one");
+  tests::Allow(HKEY_CURRENT_USER, kPlace, tests::kNoValuesRead);
+  EXPECT_EQ(services.Settings.GetSetting("CorvaneTest", "S", "n", "default"), "default");
+  services.Settings.SaveSetting("CorvaneTest", "S", "n", "two");
+  tests::Allow(HKEY_CURRENT_USER, kPlace, tests::kNoValuesSet);
+  EXPECT_EQ(NumberOf([&] { services.Settings.SaveSetting("CorvaneTest", "S", "n", "three"); }), 5);
+  EXPECT_EQ(services.Settings.GetSetting("CorvaneTest", "S", "n"), "two");
+  tests::Allow(HKEY_CURRENT_USER, kPlace, tests::kEverything);
   RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\VB and VBA Program Settings\\CorvaneTest");
 }
 
