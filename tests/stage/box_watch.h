@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 #include <windows.h>
 
@@ -17,6 +18,8 @@ class BoxWatch {
 
   // The texts of the boxes that were closed.
   const std::vector<std::string>& Boxes() const { return boxes_; }
+  // The same, which are forgotten then.
+  std::vector<std::string> Take() { return std::exchange(boxes_, {}); }
   // The number of the menus.
   long Menus() const { return menus_; }
   // Done once, in place of closing the next box.

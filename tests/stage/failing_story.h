@@ -43,6 +43,7 @@ class FailingStory : public Story {
     EXPECT_EQ(ledger.sink_failures, 0) << failed;
     EXPECT_THAT(ShownWindows(window.Handle()), testing::IsEmpty()) << failed;
     EXPECT_TRUE(IsWindowEnabled(window.Handle())) << failed;
+    EXPECT_THAT(ledger.faults, testing::IsEmpty()) << failed;
     ledger.dropped_sinks = 0;
     ledger.faults.clear();
     RemoveLeftControls();

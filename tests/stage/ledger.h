@@ -51,15 +51,21 @@ class Ledger {
   void Lack(const std::string& name) { lacking_.insert(name); }
   void AnswerNothing(const std::string& name) { nothing_.insert(name); }
   void Heal();
+  // How often one was asked for that is lacking, answered with Nothing or failing for good.
+  long spoilt = 0;
   // The call that FailCall made fail; empty text while it has not come.
   const std::string& Failed() const { return failed_; }
 
   // For the published objects. Counts a call and tells how it shall fail.
   std::optional<Failure> Enter(const std::string& name);
-  bool Lacks(const std::string& name) const { return lacking_.count(name) != 0; }
-  bool AnswersNothing(const std::string& name) const { return nothing_.count(name) != 0; }
+  bool Lacks(const std::string& name) { return Spoils(lacking_.count(name) != 0); }
+  bool AnswersNothing(const std::string& name) { return Spoils(nothing_.count(name) != 0); }
 
  private:
+  bool Spoils(bool is_so) {
+    spoilt += is_so;
+    return is_so;
+  }
   DWORD thread_ = GetCurrentThreadId();
   std::map<std::string, long> calls_;
   long total_ = 0;
