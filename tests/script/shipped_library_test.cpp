@@ -125,9 +125,10 @@ TEST_F(ShippedLibrary, TheSameMessageGetsOneConstantAndAnotherOfItsNameASecond) 
   const std::string saved = SaveAll().at("modApi.bas");
   EXPECT_NE(saved.find("Option Explicit\r\n"
                        "Private Const MSG_IS_IT_OK As String = \"Is \"\"it\"\" ok?\"\r\n"
+                       "Private Const MSG_NO As String = \"no\"\r\n"
                        "Private Const MSG_IS_IT_OK_2 As String = \"Is it ok\"\r\n"),
             std::string::npos);
-  EXPECT_NE(saved.find("Sub Say()\r\n  MsgBox MSG_IS_IT_OK\r\n  MsgBox (\"no\")\r\n"
+  EXPECT_NE(saved.find("Sub Say()\r\n  MsgBox MSG_IS_IT_OK\r\n  MsgBox (MSG_NO)\r\n"
                        "  x = MsgBox(MSG_IS_IT_OK, 4)\r\n  ' MsgBox \"none\"\r\n  MsgBox MSG_IS_IT_OK_2\r\nEnd Sub"),
             std::string::npos);
 }
