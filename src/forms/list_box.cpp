@@ -94,7 +94,7 @@ void ListBox::UserToggle(long row) {
 void ListBox::UserExtend(long row) {
   if (!AcceptsInput() || row < 0 || row >= ListCount()) return;
   if (!MarksRows()) return UserSelect(row);
-  const auto [first, last] = std::minmax(row, std::max(0L, list_index_));
+  const auto [first, last] = std::minmax({row, std::max(0L, list_index_)});
   for (long each = first; each <= last; ++each) rows_.At(each).selected = true;
   list_index_ = row;
   Changed(Property::Selected);
