@@ -27,7 +27,7 @@ TEST(TranslatorSpeed, TenThousandLinesAreTranslatedAtOnce) {
 // Four times the length; with a copy of the rest at each statement it would take sixteen times as long.
 TEST(TranslatorSpeed, GrowsWithTheLengthOfThePiece) {
   const auto seconds = [](int count) { return Seconds(Repeated("FOR i=1 TO 10\nx=x+1\nNEXT\n", count)); };
-  EXPECT_LT(seconds(8000), 8 * seconds(2000) + 0.05);
+  EXPECT_LT(seconds(8000), 8 * seconds(2000) + 0.2);
 }
 
 TEST(TranslatorSpeed, APieceOfHalvesOfConstructsGrowsWithItsLength) {
@@ -35,7 +35,7 @@ TEST(TranslatorSpeed, APieceOfHalvesOfConstructsGrowsWithItsLength) {
     const auto seconds = [&](int count) {
       return Seconds(Repeated("abc=1\n", 10) + Repeated(code, count) + Repeated("abc=12345\n", count));
     };
-    EXPECT_LT(seconds(4000), 8 * seconds(1000) + 0.05) << code;
+    EXPECT_LT(seconds(4000), 8 * seconds(1000) + 0.2) << code;
   }
 }
 

