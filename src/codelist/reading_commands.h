@@ -32,6 +32,7 @@ class ReadingCommands {
   ClickPlace PlaceUnderPointer();
   void LookAtClickedPlace();
   void TakeWord(Word word);
+  void OfferOnlyWhatIsHeard();
   void PopUp(forms::Twips x, forms::Twips y);
 
   // reading_commands.cpp

@@ -79,9 +79,22 @@ void ReadingCommands::TakeWord(Word word) {
   menu[mnuGoProc].SetCaption("Goto Proc " + Quoted(cursorWord));
 }
 
+// An entry whose command tells the container does nothing where the container does not listen. Nothing here can print.
+void ReadingCommands::OfferOnlyWhatIsHeard() {
+  const auto disable = [this](std::initializer_list<ListEntry> entries) {
+    for (const ListEntry entry : entries) menu.Enable(entry, false);
+  };
+  disable({mnuPrint});
+  if (!list.Search) disable({mnuSearch, mnuSearchLocal, mnuSearchAll});
+  if (!list.GoProc) disable({mnuGoProc});
+  if (!list.UpdateString) disable({mnuEdit, mnuComnt, mnuUncomnt, mnuFormat});
+  if (!list.CodeLostFocus) disable({mnuHistory});
+}
+
 void ReadingCommands::PopUp(Twips x, Twips y) {
   if (!list.treeMode) {
     menu.Enable(mnuCollapce, !CanFold(list.store, list.currentLine) || PlaceUnderPointer().level >= kFirstBlockLevel);
+    OfferOnlyWhatIsHeard();
     list.FormOf().PopupMenu(menu.mnuPopUp, x, y);
     menu.Enable(mnuCollapce, true);
   } else if (list.ListRole == kScriptTree) {
@@ -92,6 +105,7 @@ void ReadingCommands::PopUp(Twips x, Twips y) {
     list.FormOf().PopupMenu(menu.mnuTitle, x, y);
   } else {
     for (const ListEntry entry : kOfCode) menu.Enable(entry, list.lbx.ListCount() > 0);
+    OfferOnlyWhatIsHeard();
     list.FormOf().PopupMenu(menu.mnuPopUp, x, y);
     for (const ListEntry entry : kOfCode) menu.Enable(entry, true);
   }

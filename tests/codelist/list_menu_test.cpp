@@ -150,6 +150,21 @@ TEST_F(ListMenuTest, TheDataBaseSearchIsDisabledWhereNobodyAnswersIt) {
   EXPECT_FALSE(Offers(mnuDBFind));
 }
 
+TEST_F(ListMenuTest, WhatTheContainerDoesNotHearIsDisabled) {
+  LoadCode({"count = 1", "x = 2"});
+  Menu(1, 2);
+  for (const ListEntry entry : {mnuSearch, mnuSearchAll, mnuGoProc, mnuEdit, mnuComnt, mnuFormat, mnuHistory})
+    EXPECT_TRUE(Offers(entry)) << list.Reading().menu[entry].Name();
+  EXPECT_FALSE(Offers(mnuPrint)) << "nothing prints";
+  list.Search = {};
+  list.GoProc = {};
+  list.UpdateString = {};
+  list.CodeLostFocus = {};
+  Menu(1, 2);
+  for (const ListEntry entry : {mnuSearch, mnuSearchAll, mnuGoProc, mnuEdit, mnuComnt, mnuFormat, mnuHistory})
+    EXPECT_FALSE(Offers(entry)) << list.Reading().menu[entry].Name();
+}
+
 TEST_F(ListMenuTest, FoldingIsOfferedWhereABlockIs) {
   LoadCode({"Sub A()", "If a Then", "count = 1", "End If", "End Sub", ""});
   Menu(3, 3);
