@@ -13,8 +13,7 @@ constexpr std::string_view kSeparators = " ,:+-=/\\'\"*&!@#()[];<>%^&?|.";
 constexpr size_t kLongestObject = 40;  // characters in which the object of a With is looked for
 constexpr std::string_view kEndsOfClass[] = {",", "'", ":", " _"};
 
-bool Separates(char c, bool sql) {
-  if (c == '@' && sql) return false;
+bool Separates(char c) {
   return c == kBold || kSeparators.find(c) != std::string_view::npos;
 }
 
@@ -45,14 +44,16 @@ std::string ClassNamed(std::string text) {
 
 Word WordAt(std::string_view line, size_t position, bool sql) {
   const std::string text = std::string(line) + ' ';
+  const auto signs = [&](size_t at) { return sql && text[at] == '@'; };
   size_t end = std::min(position - 1, text.size() - 1);
-  while (!Separates(text[end], sql) && end + 1 < text.size()) ++end;
+  while (signs(end)) ++end;  // the pointer is on the sign of a variable
+  while (!Separates(text[end])) ++end;
   size_t start = std::min(position - 1, end);
   for (bool dotted = false; start > 0; --start) {
     const char c = text[start - 1];
     if (c == '.' && !dotted)
       dotted = true;
-    else if (Separates(c, sql))
+    else if (Separates(c) && !signs(start - 1))
       break;
   }
   return {text.substr(start, end - start), text.substr(end, 1)};

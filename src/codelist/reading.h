@@ -14,7 +14,7 @@ struct Word {
   std::string stop;  // the separator behind it; a blank at the end of the line
 };
 
-// The word around [position] of [line]; empty where a separator stands. In SQL "@" belongs to a word.
+// The word around [position] of [line]; empty where a separator stands. In SQL "@" belongs to the word behind it.
 Word WordAt(std::string_view line, size_t position, bool sql);
 
 std::string BeforeFirstDot(std::string_view word);  // the whole word if there is no dot

@@ -10,8 +10,8 @@ namespace corvane::codelist {
 
 namespace {
 
-// Behind the word that Search tells: where it is to be looked for.
-constexpr char kInWholeProject = 2, kInSelectedModule = 3;
+// In front of the word that Search tells: where it is to be looked for.
+constexpr char kInWholeProject[] = "\x02", kInSelectedModule[] = "\x03";
 
 class Hourglass {
  public:
@@ -48,11 +48,11 @@ void ReadingCommands::SearchWord() {
 }
 
 void ReadingCommands::SearchInModule() {
-  list.Search(WithoutObject() + kInSelectedModule);
+  list.Search(kInSelectedModule + WithoutObject());
 }
 
 void ReadingCommands::SearchInProject() {
-  list.Search(WithoutObject() + kInWholeProject);
+  list.Search(kInWholeProject + WithoutObject());
 }
 
 // Raised when the menu is closed.
@@ -161,10 +161,10 @@ void ReadingCommands::RewriteLines(const std::function<std::optional<std::string
   {
     Raised guard(list.formatting);
     Hourglass pointer(list.services.Screen);
-    runtime::PassOverErrors([&] {
-      for (long line = 1; line <= list.store.Count(); ++line)
+    for (long line = 1; line <= list.store.Count(); ++line)
+      runtime::PassOverErrors([&] {
         if (const auto text = rewritten(line)) list.UpdateString(line, *text);
-    });
+      });
   }
   list.Repaint();
 }

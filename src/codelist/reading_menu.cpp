@@ -15,6 +15,8 @@ using enum ListEntry;
 constexpr ListEntry kOfCode[] = {mnuEdit, mnuBeginSub, mnuVar, mnuHistory, mnuFormat};
 constexpr ListEntry kOfItem[] = {mnuEditTempl, mnuNewItem, mnuDeleteItem, mnuEditItem, mnuRenameItem};
 constexpr ListEntry kOfWord[] = {mnuQFind, mnuSearch, mnuGoProc, mnuDeclare};
+// They tell the container something and depend on nothing else.
+constexpr ListEntry kOfContainer[] = {mnuSearchLocal, mnuSearchAll, mnuComnt, mnuUncomnt, mnuFormat, mnuHistory};
 
 // Where [control] stands on its form.
 forms::Point PlaceOnForm(const forms::Control& control) {
@@ -42,6 +44,7 @@ void ReadingCommands::OpenMenu(Twips x, Twips y) {
   if (list.loading || list.store.Count() == 0) return;
   for (const ListEntry entry : {mnuPrev, mnuGoto, mnuExpand, mnuQuick}) menu.Enable(entry, false);
   for (const ListEntry entry : kOfWord) menu.Enable(entry, true);
+  for (const ListEntry entry : kOfContainer) menu.Enable(entry, true);
   menu.Enable(mnuEdit, list.store.Has(list.currentLine));
   menu.Enable(mnuPrev, list.previousLine > 0);
   menu.Enable(mnuExpand, CanExpand(list.store, list.currentLine));

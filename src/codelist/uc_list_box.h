@@ -107,10 +107,11 @@ class ucListBox : public forms::UserControl {
   void ShowQuickList();
 
   // Click, DblClick and MouseMove are those of every control.
-  Event<long> ColorOnOff;                      // analysis is on again: the container reloads; the current line
-  Event<const std::string&> GoProc;            // what to look for
-  Event<long&> QuickReminder;                  // action
-  Event<const std::string&> Search, DBSearch;  // word
+  Event<long> ColorOnOff;              // analysis is on again: the container reloads; the current line
+  Event<const std::string&> GoProc;    // what to look for
+  Event<long&> QuickReminder;          // action
+  Event<const std::string&> Search;    // word; character 2 in front: in the whole project, 3: in the module
+  Event<const std::string&> DBSearch;  // word
   Event<> TextDone, CtrlTab, EscapeClicked, UcClick, ClipBook;
   Event<long, const std::string&> UpdateString;  // the user changed a line: the container writes it and replaces it
   Event<long> CodeLostFocus;                     // the current line; negated: remember it in the history

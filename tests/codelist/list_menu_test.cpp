@@ -131,7 +131,7 @@ TEST_F(ListMenuTest, TheThreeWordSearchesTellWhereToLook) {
   Menu(1, 4, "Search word \"Caption\"");
   Menu(1, 4, "Search in Selected Module");
   Menu(1, 4, "Search in whole Project");
-  EXPECT_THAT(events, ElementsAre("Search Caption", "Search Caption\x03", "Search Caption\x02"));
+  EXPECT_THAT(events, ElementsAre("Search Caption", "Search \03Caption", "Search \02Caption"));
   EXPECT_EQ(services.clipboard.text, "Caption");
 }
 
@@ -163,6 +163,17 @@ TEST_F(ListMenuTest, WhatTheContainerDoesNotHearIsDisabled) {
   Menu(1, 2);
   for (const ListEntry entry : {mnuSearch, mnuSearchAll, mnuGoProc, mnuEdit, mnuComnt, mnuFormat, mnuHistory})
     EXPECT_FALSE(Offers(entry)) << list.Reading().menu[entry].Name();
+}
+
+TEST_F(ListMenuTest, WhatIsHeardFromNowOnIsOfferedAgain) {
+  const auto search = list.Search;
+  list.Search = {};
+  LoadCode({"count = 1", "x = 2"});
+  Menu(1, 2);
+  EXPECT_FALSE(Offers(mnuSearchAll));
+  list.Search = search;
+  Menu(1, 2);
+  EXPECT_TRUE(Offers(mnuSearchAll));
 }
 
 TEST_F(ListMenuTest, FoldingIsOfferedWhereABlockIs) {
@@ -321,6 +332,17 @@ TEST_F(ListMenuTest, FormattingRaisesEveryLineButComments) {
   Menu(1, 1, "Format Code");
   EXPECT_THAT(events, ElementsAre("1 Sub A()", "2 If a Then", "3   x = 1", "5 End If", "6 End Sub"));
   EXPECT_THAT(Levels(), ElementsAre(33, 33, 34, 34, 34, 33));
+}
+
+TEST_F(ListMenuTest, ALineThatCannotBeWrittenDoesNotEndFormatting) {
+  list.UpdateString = [this](long line, const std::string&) {
+    if (line == 2) throw runtime::Error(9);
+    events.push_back(std::to_string(line));
+  };
+  LoadCode({"aa = 1", "bb = 2", "cc = 3"});
+  Menu(1, 1, "Format Code");
+  EXPECT_THAT(events, ElementsAre("1", "3"));
+  EXPECT_EQ(services.screen.MousePointer(), host::vbDefault);
 }
 
 TEST_F(ListMenuTest, CommentingRaisesTheSelectedLines) {

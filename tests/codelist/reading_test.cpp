@@ -48,7 +48,13 @@ TEST(WordAt, OnASeparatorIsWhatStandsInFrontOfIt) {
 TEST(WordAt, KeepsTheSignOfAVariableInSql) {
   EXPECT_EQ(TextAt("set @cou^nt = 1", true), "@count");
   EXPECT_EQ(TextAt("set ^@count = 1", true), "@count");
+  EXPECT_EQ(TextAt("set ^@@rowcount = 1", true), "@@rowcount");
   EXPECT_EQ(TextAt("set @cou^nt = 1"), "count");
+}
+
+TEST(WordAt, InSqlTheSignOfTheNextVariableEndsAWord) {
+  EXPECT_EQ(At("exec fi^ll@count", true).text, "fill");
+  EXPECT_EQ(At("exec fi^ll@count", true).stop, "@");
 }
 
 TEST(Reading, TheObjectOfAWithBlockIsItsFirstWord) {
