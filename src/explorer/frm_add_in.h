@@ -10,6 +10,7 @@
 #include "codelist/cv_button.h"
 #include "codelist/uc_list_box.h"
 #include "explorer/add_in_object.h"
+#include "explorer/form_acts.h"
 #include "explorer/procedure_scan.h"
 #include "explorer/rows.h"
 #include "forms/controls.h"
@@ -17,6 +18,8 @@
 #include "host/vbe.h"
 
 namespace corvane::explorer {
+
+struct Tool;
 
 class frmAddIn : public forms::Form {
  public:
@@ -99,13 +102,14 @@ class frmAddIn : public forms::Form {
   std::string previousPoint;  // bookmark row of the place the latest jump left; empty before the first
 
  private:
+  friend class ToolTable;
+  friend class MenuTable;
+
   // What a choice of a mode or pair remembers of each of the two list pairs.
   static constexpr int kPairs = 2;
 
   // frm_add_in_design.cpp
   void Design();
-  void DesignToolbar();
-  void DesignMenus();
   void DesignLists();
   void DesignOptions();
   void DesignButtons();
@@ -114,7 +118,38 @@ class frmAddIn : public forms::Form {
   void ResetToDesign();
   void ResetTexts();
   void ResetOptions();
+
+  // toolbar.cpp
+  void DesignToolbar();
   void AddFixedEntries();
+  bool Allows(bool does, Rule rule) const;
+  void ShowToolStates();
+  bool HasEntries(const Tool& tool) const;
+  void tlbr_ButtonClick(int position);
+  void tlbr_ButtonDropDown(int position);
+  void tlbr_ButtonMenuClick(int position, int entry);
+  void RunTool(Act act);
+  void RunTool(const std::function<void()>& act);
+  void Refresh();
+  void ShowAbout();
+  void Exit();
+
+  // menus.cpp
+  void DesignMenus();
+  void ShowMenuStates();
+  void mnuIDESearch_Click();
+
+  // procedure_menu.cpp
+  void lbxProc_MouseDown(int button, forms::Twips x, forms::Twips y);
+  void lbxProc_KeyDown(int& key, int shift);
+  void OpenProcedureMenu(forms::Twips x, forms::Twips y);
+  void mnuSearch_Click();
+  void mnuGoDesign_Click();
+
+  // windows_of_environment.cpp
+  void CloseOtherWindows();
+  void CloseDesignersBut(const std::string& selected);
+  void ClearImmediate();
 
   // window.cpp
   void BindEvents();
@@ -126,8 +161,6 @@ class frmAddIn : public forms::Form {
   void Form_Unload();
   void ForgetChoices();
   void Form_KeyDown(int& key, int shift);
-  void tlbr_ButtonClick(int position);
-  void Refresh();
   void Leave();
   void DoEvents() { services.Loop.DoEvents(); }
   void Focus(forms::Control& control);
@@ -224,6 +257,7 @@ class frmAddIn : public forms::Form {
   bool keepFilters = false;    // a filter is clicked: a listing leaves the filters as they are
   bool skipGlobals = false;    // a kind button lists
   bool filterClicked = false;  // the mouse press under way has chosen a filter
+  bool searching = false;      // the properties are searched: any click ends it
   bool textLoads = false;      // into the code view
   bool wasMinimised = false;   // at the end of the last resize
   long kindFilter = 0;         // 0 all, 1 forms, 2 user controls, 3 standard modules, 4 classes

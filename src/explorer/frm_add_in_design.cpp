@@ -9,46 +9,6 @@
 namespace corvane::explorer {
 
 using forms::Rect;
-using forms::ToolButton;
-using forms::ToolButtonStyle;
-
-namespace {
-
-// The buttons that act; the others belong to tools that are not there yet.
-struct ToolSpot {
-  const char *key, *tip, *icon;
-  bool drops, enabled;
-};
-constexpr ToolSpot kSeparator = {"", "", "", false, false};
-constexpr ToolSpot kTools[] = {
-    kSeparator,
-    {"Previous", "Previous CodePoint", "previous", false, false},
-    {"Next", "Next CodePoint", "next", false, false},
-    {"First", "First CodePoint", "first", false, false},
-    {"Last", "Last CodePoint", "last", false, false},
-    {"History", "CodePoint`s History", "history", true, false},
-    kSeparator,
-    {"Refresh", "Refresh", "refresh", false, true},
-    {"Favorites", "Add\\Remove Project Favorites", "favorite", true, false},
-    {"BookMarks", "Get BookMarks", "bookmark", true, false},
-    {"CloseWnd", "Close All Windows except current", "close-windows", false, false},
-    {"Find", "Searching in Designers", "search", false, false},
-    kSeparator,
-    {"Actions", "Additional Actions", "clone", true, false},
-    {"aCopy", "Copy Component Properties", "copy", false, false},
-    {"aPaste", "Paste Component Properties", "paste", false, false},
-    kSeparator,
-    {"Pen", "Quick Declare of Variables or Procedure", "pen", false, false},
-    {"Note", "Project Notes", "note", false, false},
-    {"Map", "Dependencies and Project Map", "map", false, false},
-    kSeparator,
-    {"Start", "Start Template", "start", true, false},
-    {"About", "About Developer", "about", false, true},
-    {"pImmed", "Clear Immediate window", "immediate", false, false},
-    {"pExit", "Exit from Corvane", "exit", false, true},
-};
-
-}  // namespace
 
 frmAddIn::frmAddIn(host::Services& services, forms::Toolkit& toolkit)
     : Form(toolkit, "frmAddIn"),
@@ -65,21 +25,21 @@ frmAddIn::frmAddIn(host::Services& services, forms::Toolkit& toolkit)
       cbSearch(Frame6, "cbSearch", services),
       cmdColor(*this, "cmdColor", services),
       mnuPLB(*this, "mnuPLB", "PLB"),
-      mnuSearch(mnuPLB, "mnuSearch", "Search Procedure"),
-      mnuSearchMod(mnuPLB, "mnuSearchMod", "Search CodeModule"),
-      mnuGoDesign(mnuPLB, "mnuGoDesign", "Goto Designer"),
-      mnuComnt(mnuPLB, "mnuComnt", "Comment Procedure"),
-      mnuCop(mnuPLB, "mnuCop", "Copy into ClipBoard"),
-      mnuCopy(mnuCop, "mnuCopy", "Copy Procedure"),
-      mnuCopyAdd(mnuCop, "mnuCopyAdd", "Add Procedure"),
-      mnuCopyPLB(mnuCop, "mnuCopyPLB", "Copy whole PLB"),
+      mnuSearch(mnuPLB, "mnuSearch", ""),
+      mnuSearchMod(mnuPLB, "mnuSearchMod", ""),
+      mnuGoDesign(mnuPLB, "mnuGoDesign", ""),
+      mnuComnt(mnuPLB, "mnuComnt", ""),
+      mnuCop(mnuPLB, "mnuCop", ""),
+      mnuCopy(mnuCop, "mnuCopy", ""),
+      mnuCopyAdd(mnuCop, "mnuCopyAdd", ""),
+      mnuCopyPLB(mnuCop, "mnuCopyPLB", ""),
       mnuIDE(*this, "mnuIDE", "IDE"),
-      mnuExec(mnuIDE, "mnuExec", "&Exec Template"),
-      mnuIDECurrent(mnuIDE, "mnuIDECurrent", "&Current Code"),
-      mnuIDEPrev(mnuIDE, "mnuIDEPrev", "&Back to previous line"),
-      mnuIDESearch(mnuIDE, "mnuIDESearch", "&Search current word"),
-      mnuIDEDeclare(mnuIDE, "mnuIDEDeclare", "&Declare variable"),
-      mnuIDETitle(mnuIDE, "mnuIDETitle", "Project &Title"),
+      mnuExec(mnuIDE, "mnuExec", ""),
+      mnuIDECurrent(mnuIDE, "mnuIDECurrent", ""),
+      mnuIDEPrev(mnuIDE, "mnuIDEPrev", ""),
+      mnuIDESearch(mnuIDE, "mnuIDESearch", ""),
+      mnuIDEDeclare(mnuIDE, "mnuIDEDeclare", ""),
+      mnuIDETitle(mnuIDE, "mnuIDETitle", ""),
       services(services) {
   Design();
   ResetToDesign();
@@ -101,41 +61,6 @@ void frmAddIn::Design() {
   lblSub.SetUseMnemonic(false);
   Label5.SetUseMnemonic(false);
   OrderTabs();
-}
-
-void frmAddIn::DesignToolbar() {
-  tlbr.SetImageList(&imgl);
-  for (const ToolSpot& spot : kTools) {
-    ToolButton button;
-    if (*spot.key == '\0') {
-      button.Style = ToolButtonStyle::Separator;
-    } else {
-      button.Key = spot.key;
-      button.ToolTipText = spot.tip;
-      button.Style = spot.drops ? ToolButtonStyle::DropDown : ToolButtonStyle::Default;
-      button.Image = imgl.Add(forms::Icon(spot.icon));
-      button.Enabled = spot.enabled;
-    }
-    tlbr.Add(button);
-  }
-}
-
-void frmAddIn::AddFixedEntries() {
-  tlbr.SetButtonMenus(tlbr.PositionOf("Favorites"), {{"", "Show Favorites"},
-                                                     {"", "Add \\ Remove current CodeLine into Favorites List"},
-                                                     {"", "Show Favorites Designers"},
-                                                     {"", "Add current Designer into Favorites List"}});
-  tlbr.SetButtonMenus(tlbr.PositionOf("BookMarks"),
-                      {{"", "Get BookMarks List"}, {"", "Put current CodeLine into BookMarks List"}});
-  tlbr.SetButtonMenus(tlbr.PositionOf("Actions"), {{"", "Clone current Component"}, {"", "Weaver WorkShop"}});
-}
-
-void frmAddIn::DesignMenus() {
-  mnuPLB.SetVisible(false);
-  mnuIDE.SetVisible(false);
-  for (forms::Menu* menu : {&mnuSearch, &mnuSearchMod, &mnuGoDesign, &mnuComnt, &mnuCopy, &mnuCopyAdd, &mnuCopyPLB,
-                            &mnuExec, &mnuIDEPrev, &mnuIDEDeclare, &mnuIDETitle})
-    menu->SetEnabled(false);
 }
 
 void frmAddIn::DesignLists() {

@@ -1,5 +1,4 @@
 // The window itself: loading, activation, unloading, keys, the toolbar.
-#include "explorer/frm_about.h"
 #include "explorer/frm_add_in.h"
 #include "explorer/project_access.h"
 #include "runtime/strings.h"
@@ -29,12 +28,6 @@ void frmAddIn::BindEvents() {
   Resize = [this] { Form_Resize(); };
   UnloadEvent = [this](bool&) { Form_Unload(); };
   KeyDown = [this](int& key, int shift) { Form_KeyDown(key, shift); };
-  tlbr.ButtonClick = [this](int position) { tlbr_ButtonClick(position); };
-  mnuIDECurrent.Click = [this] { optCurMod_Click(); };
-  mnuIDESearch.Click = [this] {
-    cmbSearch.SetText(CurrentWord(VBInstance));
-    Focus(cmbSearch);
-  };
   BindComponentEvents();
   BindProcedureEvents();
   BindCodeEvents();
@@ -64,6 +57,8 @@ void frmAddIn::BindProcedureEvents() {
     list->Click = [this] { lbxProc_Click(); };
     list->DblClick = [this] { lbxProc_DblClick(); };
     list->KeyPress = [this](int& key) { lbxProc_KeyPress(key); };
+    list->KeyDown = [this](int& key, int shift) { lbxProc_KeyDown(key, shift); };
+    list->MouseDown = [this](int button, int, forms::Twips x, forms::Twips y) { lbxProc_MouseDown(button, x, y); };
   }
   for (forms::OptionButton* option : {&optProcAll, &optProcSub, &optProcFunc, &optProcProp, &optProcEvent, &optAllProc,
                                       &optProcPubl, &optProcPriv, &optProcStat})
@@ -112,9 +107,7 @@ void frmAddIn::Form_Activate() {
   lbxComp = &lbxComp1;
   lbxComp2.Move(lbxComp1.Left(), lbxComp1.Top(), lbxComp1.Width(), lbxComp2.Height());
   lbxProc2.Move(lbxProc1.Left(), lbxProc1.Top(), lbxProc1.Width(), lbxProc1.Height());
-  tlbr.SetButtonEnabled(2, false);
-  tlbr.SetButtonEnabled(3, false);
-  AddFixedEntries();
+  ShowToolStates();
   initDone = false;
   FillComponentList();
 }
@@ -155,30 +148,6 @@ void frmAddIn::Form_KeyDown(int& key, int shift) {
       key = 0;
       return entry.act(*this);
     }
-}
-
-void frmAddIn::tlbr_ButtonClick(int position) {
-  const std::string key = tlbr.Button(position).Key;
-  if (key == "Refresh") Refresh();
-  if (key == "About") {
-    frmAbout about(services, Toolkit());
-    about.ShowModal();
-  }
-  if (key == "pExit") {
-    Unload();
-    activated = false;
-    return;
-  }
-  services.Screen.SetMousePointer(host::vbDefault);
-}
-
-// Lists the project anew: choosing the mode does it, or, where it is chosen already, its handler is run.
-void frmAddIn::Refresh() {
-  busy = false;
-  if (optProj.Value())
-    optProj_Click();
-  else
-    optProj.SetValue(true);
 }
 
 void frmAddIn::Leave() {

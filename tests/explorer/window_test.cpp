@@ -381,12 +381,6 @@ TEST_F(Window, ExitUnloadsIt) {
   EXPECT_FALSE(form.IsLoaded());
 }
 
-TEST_F(Window, ButtonsOfToolsThatAreNotThereAreDisabled) {
-  for (const char* key : {"Previous", "Next", "First", "Last", "History", "Favorites", "BookMarks", "CloseWnd", "Find",
-                          "Actions", "aCopy", "aPaste", "Pen", "Note", "Map", "Start", "pImmed"})
-    EXPECT_FALSE(form.tlbr.Button(form.tlbr.PositionOf(key)).Enabled) << key;
-}
-
 TEST_F(Window, AboutShowsTheReadme) {
   OpenWindow(kShop);
   services.files.Put("C:\\Corvane\\readme.txt", "Read this.");

@@ -14,6 +14,7 @@ namespace {
 const std::map<std::string, const char*> kMayBeLong = {
     {"src/environment/control_class_tables.cpp", "the design-time properties of every control, one row each"},
     {"src/codelist/uc_list_box.h", "the list that shows all code: one control, its whole interface in one place"},
+    {"src/explorer/frm_add_in.h", "the explorer: one window with many duties, its members by the file that has them"},
 };
 
 // The headers that define macros all the same, and why.

@@ -1,0 +1,160 @@
+#include "explorer/toolbar.h"
+
+#include "explorer/frm_about.h"
+#include "explorer/frm_add_in.h"
+#include "forms/icons.h"
+
+namespace corvane::explorer {
+
+using forms::ToolButton;
+using forms::ToolButtonStyle;
+
+// A friend of the window: what the keys do is nobody else's.
+class ToolTable {
+ public:
+  using F = frmAddIn;
+  static constexpr Tool kTools[] = {
+      {},
+      {"Previous", "Previous CodePoint", "previous", nullptr},
+      {"Next", "Next CodePoint", "next", nullptr},
+      {"First", "First CodePoint", "first", nullptr},
+      {"Last", "Last CodePoint", "last", nullptr},
+      {"History", "CodePoint`s History", "history", nullptr, nullptr, true},
+      {},
+      {"Refresh", "Refresh", "refresh", &F::Refresh},
+      {"Favorites", "Add\\Remove Project Favorites", "favorite", nullptr, nullptr, true},
+      {"BookMarks", "Get BookMarks", "bookmark", nullptr, nullptr, true},
+      {"CloseWnd", "Close All Windows except current", "close-windows", &F::CloseOtherWindows},
+      {"Find", "Searching in Designers", "search", nullptr},
+      {},
+      {"Actions", "Additional Actions", "clone", nullptr, nullptr, true},
+      {"aCopy", "Copy Component Properties", "copy", nullptr},
+      {"aPaste", "Paste Component Properties", "paste", nullptr},
+      {},
+      {"Pen", "Quick Declare of Variables or Procedure", "pen", nullptr},
+      {"Note", "Project Notes", "note", nullptr},
+      {"Map", "Dependencies and Project Map", "map", nullptr},
+      {},
+      {"Start", "Start Template", "start", nullptr, nullptr, true},
+      {"About", "About Developer", "about", &F::ShowAbout},
+      {"pImmed", "Clear Immediate window", "immediate", &F::ClearImmediate},
+      {"pExit", "Exit from Corvane", "exit", &F::Exit},
+  };
+  static constexpr ToolEntry kEntries[] = {
+      {"Favorites", "Show Favorites", nullptr},
+      {"Favorites", "Add \\ Remove current CodeLine into Favorites List", nullptr},
+      {"Favorites", "Show Favorites Designers", nullptr},
+      {"Favorites", "Add current Designer into Favorites List", nullptr},
+      {"BookMarks", "Get BookMarks List", nullptr},
+      {"BookMarks", "Put current CodeLine into BookMarks List", nullptr},
+      {"Actions", "Clone current Component", nullptr},
+      {"Actions", "Weaver WorkShop", nullptr},
+  };
+};
+
+std::span<const Tool> Tools() {
+  return ToolTable::kTools;
+}
+
+std::span<const ToolEntry> ToolEntries() {
+  return ToolTable::kEntries;
+}
+
+void frmAddIn::DesignToolbar() {
+  tlbr.SetImageList(&imgl);
+  for (const Tool& tool : Tools()) {
+    ToolButton button;
+    button.Style = tool.drops ? ToolButtonStyle::DropDown : ToolButtonStyle::Default;
+    if (tool.IsSeparator()) {
+      button.Style = ToolButtonStyle::Separator;
+    } else {
+      button.Key = tool.key;
+      button.ToolTipText = tool.tip;
+      button.Image = imgl.Add(forms::Icon(tool.icon));
+    }
+    tlbr.Add(button);
+  }
+  tlbr.ButtonClick = [this](int position) { tlbr_ButtonClick(position); };
+  tlbr.ButtonDropDown = [this](int position) { tlbr_ButtonDropDown(position); };
+  tlbr.ButtonMenuClick = [this](int position, int entry) { tlbr_ButtonMenuClick(position, entry); };
+  ShowToolStates();
+}
+
+void frmAddIn::AddFixedEntries() {
+  for (const Tool& tool : Tools()) {
+    std::vector<forms::ButtonMenu> menus;
+    for (const ToolEntry& entry : ToolEntries())
+      if (std::string_view(entry.key) == tool.key) menus.push_back({"", entry.text, Allows(entry.act, entry.enabled)});
+    if (!menus.empty()) tlbr.SetButtonMenus(tlbr.PositionOf(tool.key), std::move(menus));
+  }
+}
+
+bool frmAddIn::Allows(bool does, Rule rule) const {
+  return does && (!rule || (this->*rule)());
+}
+
+// Which keys can be pressed follows from the state of the window: to be asked for whenever that has changed.
+void frmAddIn::ShowToolStates() {
+  for (const Tool& tool : Tools())
+    if (!tool.IsSeparator())
+      tlbr.SetButtonEnabled(tlbr.PositionOf(tool.key),
+                            Allows(tool.click || tool.choose || HasEntries(tool), tool.enabled));
+  if (activated) AddFixedEntries();
+}
+
+bool frmAddIn::HasEntries(const Tool& tool) const {
+  for (const ToolEntry& entry : ToolEntries())
+    if (std::string_view(entry.key) == tool.key && Allows(entry.act, entry.enabled)) return true;
+  return false;
+}
+
+void frmAddIn::tlbr_ButtonClick(int position) {
+  RunTool(Tools()[static_cast<size_t>(position) - 1].click);
+}
+
+void frmAddIn::tlbr_ButtonDropDown(int position) {
+  RunTool(Tools()[static_cast<size_t>(position) - 1].opening);
+}
+
+void frmAddIn::tlbr_ButtonMenuClick(int position, int entry) {
+  const Tool& tool = Tools()[static_cast<size_t>(position) - 1];
+  if (tool.choose) return RunTool([&] { (this->*tool.choose)(entry); });
+  for (const ToolEntry& row : ToolEntries())
+    if (std::string_view(row.key) == tool.key && --entry == 0) return RunTool(row.act);
+}
+
+void frmAddIn::RunTool(Act act) {
+  RunTool([&] {
+    if (act) (this->*act)();
+  });
+}
+
+// An error ends what the key does and nothing else.
+void frmAddIn::RunTool(const std::function<void()>& act) {
+  searching = false;
+  runtime::PassOverErrors(act);
+  services.Screen.SetMousePointer(host::vbDefault);
+  ShowToolStates();
+}
+
+// Lists the project anew: choosing the mode does it, or, where it is chosen already, its handler is run.
+void frmAddIn::Refresh() {
+  busy = false;
+  if (optProj.Value())
+    optProj_Click();
+  else
+    optProj.SetValue(true);
+}
+
+void frmAddIn::ShowAbout() {
+  frmAbout about(services, Toolkit());
+  about.ShowModal();
+  about.Unload();
+}
+
+void frmAddIn::Exit() {
+  Unload();
+  activated = false;
+}
+
+}  // namespace corvane::explorer
