@@ -26,6 +26,7 @@ bool IsCommentOrBlank(const std::string& row) {
 void frmAddIn::lbxProc_Click() {
   if (busy) return;
   savedPosition = 0;
+  navigating ? RestoreHistoryPoint() : ResetHistoryButtons();
   long index = ComponentOfRow();
   if (index < 1) return;
   std::string row = lbxProc->List(lbxProc->ListIndex());
@@ -91,6 +92,7 @@ bool frmAddIn::ShowProcedure(host::CodeModule& module, long line) {
   if (body > line) return false;
   if (!Holds(UCase(module.Lines(body, 1)), UCase(name)) && Len(module.Lines(body + 1, 1)) < 2) ++body;
   textOffset = line - body + 1;
+  if (navigating) savedPosition = points.At(points.Index()).row;
   if (textOffset == 0) {
     --body;
     textOffset = 1;

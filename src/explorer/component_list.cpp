@@ -53,7 +53,7 @@ void frmAddIn::ListProject() {
 // Empties the lists but for their first rows, and takes the name filter out of its box.
 std::string frmAddIn::BeginListing() {
   BeginFill();
-  RememberComponentRow();
+  TakeSnapshotOfView();
   HideProcedures();
   if (!keepFilters) {
     optProcAll.SetValue(true);
@@ -90,12 +90,20 @@ void frmAddIn::ShowProcedures() {
   if (std::exchange(proceduresHadFocus, false)) Focus(*lbxProc);
 }
 
-void frmAddIn::RememberComponentRow() {
+// Notes the row that the lists belong to; false, and nothing is noted, where that is the project or a short name.
+bool frmAddIn::RememberComponentRow() {
+  ForgetComponentRow();
   long row = lbxComp->ListIndex();
   std::string text = lbxComp->List(row);
-  if (row < 0 || text == kProjectGlobals || Len(text) < kShortestRow) return;
+  if (row < 0 || text == kProjectGlobals || Len(text) < kShortestRow) return false;
   currentText = text;
   currentItemData = lbxComp->ItemData(row);
+  return true;
+}
+
+void frmAddIn::ForgetComponentRow() {
+  currentText.clear();
+  currentItemData = 0;
 }
 
 void frmAddIn::ListComponents(const std::string& nameFilter) {
@@ -147,6 +155,7 @@ void frmAddIn::ChooseListedRow() {
   long row = rows == 2 || (skipGlobals && rows >= 3) ? 1 : 0;
   lbxComp->SetListIndex(row);
   lbxProc->SetListIndex(0);
+  ForgetComponentRow();
   ShowProcedures();
   busy = false;
   if (row == 1) lbxComp_Click();
@@ -164,6 +173,7 @@ void frmAddIn::lbxComp_Click() {
   if (busy) return;
   skipGlobals = false;
   OfferInSearch(lbxComp->List(lbxComp->ListIndex()));
+  ResetHistoryButtons();
   if (optCurMod.Value()) return ListActiveModule();
   long index = 0;
   if (TakePendingComponent(index)) return ShowComponent(index);
@@ -213,6 +223,7 @@ void frmAddIn::ListActiveModule() {
 void frmAddIn::ShowComponent(long index) {
   SetWhile filling(busy);
   const long fill = BeginFill();
+  TakeSnapshot();
   Ref<host::CodeModule> module;
   PassOverErrors([&] { module = Object(ActiveComponents(VBInstance)->Item(index)).CodeModule(); });
   txtCode.Clear();
@@ -222,6 +233,7 @@ void frmAddIn::ShowComponent(long index) {
   AddRow(kDeclarations, 0);
   currentComponent = index;
   if (module) FillProcedureList(*module);
+  RememberComponentRow();
   ShowProcedures();
   busy = false;
   Focus(*lbxProc);

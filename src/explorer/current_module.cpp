@@ -27,6 +27,7 @@ bool frmAddIn::CurrentModule() {
     return false;
   }
   long caretLine = Object(module->CodePane()).GetSelection().start_line;
+  ResetHistoryButtons();
   const long fill = BeginFill();
   {
     SetWhile filling(busy);
@@ -55,7 +56,7 @@ void frmAddIn::LeaveCurrentMode() {
 }
 
 void frmAddIn::ListModuleAt(host::CodeModule& module, long caretLine) {
-  RememberComponentRow();
+  TakeSnapshotOfView();
   lbxComp->Clear();
   lbxProc->Clear();
   txtCode.Clear();
@@ -74,6 +75,7 @@ void frmAddIn::ListModuleAt(host::CodeModule& module, long caretLine) {
   txtCode.Clear();
   lbxComp->SetListIndex(0);
   lbxProc->SetListIndex(0);
+  RememberComponentRow();
   if (caretLine > module.CountOfDeclarationLines()) SelectRowNear(caretLine);
 }
 
@@ -98,6 +100,7 @@ void frmAddIn::optProj_Click() {
     noOptionEvent = false;
     return;
   }
+  SavePendingPoint();
   optFndAll.SetValue(true);
   Focus(*lbxProc);
   FillComponentList();

@@ -10,7 +10,9 @@
 #include "codelist/cv_button.h"
 #include "codelist/uc_list_box.h"
 #include "explorer/add_in_object.h"
+#include "explorer/code_points.h"
 #include "explorer/form_acts.h"
+#include "explorer/list_snapshots.h"
 #include "explorer/procedure_scan.h"
 #include "explorer/rows.h"
 #include "forms/controls.h"
@@ -19,6 +21,7 @@
 
 namespace corvane::explorer {
 
+struct SoughtWord;
 struct Tool;
 
 class frmAddIn : public forms::Form {
@@ -101,6 +104,22 @@ class frmAddIn : public forms::Form {
   long currentItemData = 0;
   std::string previousPoint;  // bookmark row of the place the latest jump left; empty before the first
 
+  // history.cpp
+  // To be called before another view comes. The view as it stands becomes the newest point; false where it is no place
+  // in code.
+  bool SavePendingPoint();
+  void ResetHistoryButtons();  // what is pending is pushed, and the place is past the newest point
+  CodePoints points;
+  CodePoint nextPoint;  // recorded, and pushed at the next navigation
+
+  // snapshots.cpp
+  // To be called before the lists are emptied: notes the component row and copies what is listed for it. False where
+  // that is the project itself, or nothing.
+  bool TakeSnapshotOfView();
+  ListSnapshots snapshots{lstSave};
+  bool hasResults = false;  // a search listed its hits since the latest snapshot
+  long searchScope = 0;     // while the code view asks for a search: 2 whole project, 3 active module
+
  private:
   friend class ToolTable;
   friend class MenuTable;
@@ -180,7 +199,8 @@ class frmAddIn : public forms::Form {
   void HideProcedures();
   void ShowProcedures();
   std::string BeginListing();
-  void RememberComponentRow();
+  bool RememberComponentRow();
+  void ForgetComponentRow();
   void ListComponents(const std::string& nameFilter);
   void AddGlobals(host::CodeModule& module, long index, std::string& text);
   bool PassesKindFilter(host::ComponentType type) const;
@@ -202,6 +222,50 @@ class frmAddIn : public forms::Form {
   void optProj_Click();
   void optCurMod_Click();
   void optSelMod_Click();
+
+  // history.cpp
+  void RecordCurrentPoint();
+  long ComponentInView();
+  bool PushHistoryPoint();
+  void ForgetHistory();
+  void ShowHistoryStates();
+  bool CanStepBack() const { return points.HasLower(); }
+  bool CanStepOn() const { return points.HasHigher(); }
+  bool HasHistory() const { return points.Count() > 0; }
+  void LeaveNewestPlace();
+  void StepToPrevious();
+  void StepToNext();
+  void StepToFirst();
+  void StepToLast();
+  void StepToChosen(int entry);
+  void ShowPoint();
+  void RestoreHistoryPoint();
+  long ListedRow(const std::string& text, long line) const;
+  void txtCode_CodeLostFocus(long row);
+
+  // snapshots.cpp
+  bool TakeSnapshot();
+  void cmdPrev_Click();
+  void cmdNext_Click();
+  void SaveNewestList();
+  void RestoreList(long position, const SnapshotHeader& header);
+  void SelectComponentRow(const SnapshotHeader& header);
+  void LeaveCurrentCode();
+  void RestoreCode(long position);
+
+  // go_proc.cpp
+  void txtCode_GoProc(const std::string& text);
+  long ComponentOfObject(const std::string& object);
+  long RowOfWord(const SoughtWord& word, long component) const;
+  bool ListWord(const SoughtWord& word, long& component);
+  bool ListWordOf(const SoughtWord& word, host::VBComponent& component, long index);
+  void ShowWord(long row);
+
+  // code_events.cpp
+  void txtCode_DblClick();
+  void txtCode_Search(const std::string& text);
+  void ShowClipBook();
+  void mnuIDETitle_Click();
 
   // list_pairs.cpp
   void SwitchPair(int to);
@@ -258,6 +322,7 @@ class frmAddIn : public forms::Form {
   bool skipGlobals = false;    // a kind button lists
   bool filterClicked = false;  // the mouse press under way has chosen a filter
   bool searching = false;      // the properties are searched: any click ends it
+  bool navigating = false;     // a step through the history loads the view
   bool textLoads = false;      // into the code view
   bool wasMinimised = false;   // at the end of the last resize
   long kindFilter = 0;         // 0 all, 1 forms, 2 user controls, 3 standard modules, 4 classes

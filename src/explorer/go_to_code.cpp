@@ -69,6 +69,7 @@ Ref<host::CodeModule> frmAddIn::ModuleOfRow(long& index, long& line) {
 }
 
 void frmAddIn::GoTo(host::CodeModule& module, long line) {
+  RecordCurrentPoint();
   RememberPreviousPoint();
   Ref<host::CodePane> pane = module.CodePane();
   Object(pane).SetSelection({line, 1, line, 1});

@@ -23,7 +23,7 @@ class MenuTable {
       {&F::mnuIDEPrev, "&Back to previous line", nullptr},
       {&F::mnuIDESearch, "&Search current word", &F::mnuIDESearch_Click},
       {&F::mnuIDEDeclare, "&Declare variable", nullptr},
-      {&F::mnuIDETitle, "Project &Title", nullptr},
+      {&F::mnuIDETitle, "Project &Title", &F::mnuIDETitle_Click},
   };
 };
 

@@ -15,11 +15,11 @@ class ToolTable {
   using F = frmAddIn;
   static constexpr Tool kTools[] = {
       {},
-      {"Previous", "Previous CodePoint", "previous", nullptr},
-      {"Next", "Next CodePoint", "next", nullptr},
-      {"First", "First CodePoint", "first", nullptr},
-      {"Last", "Last CodePoint", "last", nullptr},
-      {"History", "CodePoint`s History", "history", nullptr, nullptr, true},
+      {"Previous", "Previous CodePoint", "previous", &F::StepToPrevious, &F::CanStepBack},
+      {"Next", "Next CodePoint", "next", &F::StepToNext, &F::CanStepOn},
+      {"First", "First CodePoint", "first", &F::StepToFirst, &F::CanStepBack},
+      {"Last", "Last CodePoint", "last", &F::StepToLast, &F::CanStepOn},
+      {"History", "CodePoint`s History", "history", nullptr, &F::HasHistory, true, nullptr, &F::StepToChosen},
       {},
       {"Refresh", "Refresh", "refresh", &F::Refresh},
       {"Favorites", "Add\\Remove Project Favorites", "favorite", nullptr, nullptr, true},

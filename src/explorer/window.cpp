@@ -63,17 +63,19 @@ void frmAddIn::BindProcedureEvents() {
   for (forms::OptionButton* option : {&optProcAll, &optProcSub, &optProcFunc, &optProcProp, &optProcEvent, &optAllProc,
                                       &optProcPubl, &optProcPriv, &optProcStat})
     BindFilter(*option);
+  cmdPrev.Click = [this] { cmdPrev_Click(); };
+  cmdNext.Click = [this] { cmdNext_Click(); };
   txtFproc.KeyPress = [this](int& key) { txtFproc_KeyPress(key); };
 }
 
 void frmAddIn::BindCodeEvents() {
   txtCode.TextDone = [this] { txtCode_TextDone(); };
-  txtCode.DblClick = [this] {
-    goMode = true;
-    GoToCode();
-  };
+  txtCode.DblClick = [this] { txtCode_DblClick(); };
+  txtCode.GoProc = [this](const std::string& text) { txtCode_GoProc(text); };
+  txtCode.Search = [this](const std::string& text) { txtCode_Search(text); };
   txtCode.ColorOnOff = [this](long row) { ReloadCode(row); };
-  txtCode.ClipBook = [this] { txtClip.SetText(services.Clipboard.GetText()); };
+  txtCode.ClipBook = [this] { ShowClipBook(); };
+  txtCode.CodeLostFocus = [this](long row) { txtCode_CodeLostFocus(row); };
   txtCode.EscapeClicked = [this] { txtCode_EscapeClicked(); };
   cmGo.Click = [this] { cmGo_Click(); };
   cmdMore.Click = [this] { cmdMore_Click(); };
@@ -100,7 +102,9 @@ void frmAddIn::Form_Load() {
 void frmAddIn::Form_Activate() {
   if (activated) return;
   activated = true;
-  lstSave.Clear();
+  ForgetHistory();
+  snapshots.Clear();
+  hasResults = false;
   cmdPrev.SetEnabled(false);
   cmdNext.SetEnabled(false);
   lbxProc = &lbxProc1;
@@ -121,8 +125,7 @@ void frmAddIn::Form_Unload() {
 void frmAddIn::ForgetChoices() {
   ++fills;
   pendingComponent.clear();
-  currentText.clear();
-  currentItemData = 0;
+  ForgetComponentRow();
 }
 
 // The buttons of the surface take no focus: these keys stand for them.
@@ -137,6 +140,18 @@ void frmAddIn::Form_KeyDown(int& key, int shift) {
       {vbKey0 + 3, vbAltMask, [](frmAddIn& form) { form.ListKind(2); }},
       {vbKey0 + 4, vbAltMask, [](frmAddIn& form) { form.ListKind(4); }},
       {vbKey0 + 5, vbAltMask, [](frmAddIn& form) { form.ListKind(3); }},
+      {vbKeyLeft, vbAltMask, [](frmAddIn& form) { form.StepToPrevious(); }},
+      {vbKeyRight, vbAltMask, [](frmAddIn& form) { form.StepToNext(); }},
+      {vbKeyHome, vbAltMask, [](frmAddIn& form) { form.StepToFirst(); }},
+      {vbKeyEnd, vbAltMask, [](frmAddIn& form) { form.StepToLast(); }},
+      {vbKeyPageUp, vbAltMask,
+       [](frmAddIn& form) {
+         if (form.cmdPrev.Enabled()) form.cmdPrev_Click();
+       }},
+      {vbKeyPageDown, vbAltMask,
+       [](frmAddIn& form) {
+         if (form.cmdNext.Enabled()) form.cmdNext_Click();
+       }},
       {vbKeyF5, 0, [](frmAddIn& form) { form.Refresh(); }},
       {vbKeyF1 + 6, 0, [](frmAddIn& form) { form.txtCode.DblClick(); }},
       {vbKeyF1 + 6, vbShiftMask, [](frmAddIn& form) { form.cmGo_Click(); }},

