@@ -9,6 +9,7 @@
 
 #include "runtime/code_page.h"
 #include "runtime/error.h"
+#include "runtime/find_text.h"
 
 namespace corvane::runtime {
 
@@ -33,7 +34,7 @@ size_t EndWithoutBlanks(std::string_view text) {
 long InStr(long start, std::string_view text, std::string_view find) {
   Require(start >= 1);
   if (start > Len(text)) return 0;
-  size_t at = text.find(find, static_cast<size_t>(start - 1));
+  size_t at = FindFirst(text, find, static_cast<size_t>(start - 1));
   return at == std::string_view::npos ? 0 : static_cast<long>(at) + 1;
 }
 
@@ -43,7 +44,7 @@ long InStrRev(std::string_view text, std::string_view find, long start) {
   if (start == -1) start = Len(text);
   if (find.empty()) return start;
   if (Len(find) > start) return 0;
-  size_t at = text.rfind(find, static_cast<size_t>(start) - find.size());
+  size_t at = FindLast(text.substr(0, static_cast<size_t>(start)), find);
   return at == std::string_view::npos ? 0 : static_cast<long>(at) + 1;
 }
 
@@ -112,7 +113,7 @@ std::string Replace(std::string_view text, std::string_view find, std::string_vi
   std::string result;
   result.reserve(text.size());
   size_t from = 0;
-  for (size_t at; (at = text.find(find, from)) != std::string_view::npos; from = at + find.size()) {
+  for (size_t at; (at = FindFirst(text, find, from)) != std::string_view::npos; from = at + find.size()) {
     result.append(text, from, at - from);
     result.append(replacement);
   }

@@ -1,5 +1,6 @@
 #include "script/dialog_values.h"
 
+#include "runtime/find_text.h"
 #include "runtime/strings.h"
 #include "script/marks.h"
 
@@ -34,7 +35,7 @@ ControlValue Parted(std::string_view kind, std::string_view value) {
 std::optional<ControlValue> ReadControl(std::string_view values, std::string_view name) {
   if (values.empty()) return {};
   const std::string upper = runtime::UCase(values), key = "." + std::string(name) + "=";
-  for (size_t at = 0; (at = upper.find(key, at)) != std::string::npos; ++at) {
+  for (size_t at = 0; (at = runtime::FindFirst(upper, key, at)) != std::string::npos; ++at) {
     const std::string_view kind = at < 4 ? std::string_view() : std::string_view(upper).substr(at - 4, 4);
     if (!IsKind(kind)) continue;
     const std::string_view value = values.substr(at + key.size());

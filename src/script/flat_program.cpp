@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "runtime/find_text.h"
 #include "runtime/strings.h"
 #include "script/marks.h"
 
@@ -54,7 +55,8 @@ size_t FlatProgram::Find(const std::string& sought, size_t from) {
   if (IsLabel(sought)) return FindLabel(sought, from, {});
   if (runtime::BeginsWith(sought, kEndIf) && IsLabel(std::string_view(sought).substr(kEndIf.size())))
     return FindLabel(std::string_view(sought).substr(kEndIf.size()), from, kEndIf);
-  if (last_.sought != sought || from < last_.from || from > last_.at) last_ = {sought, from, text_.find(sought, from)};
+  if (last_.sought != sought || from < last_.from || from > last_.at)
+    last_ = {sought, from, runtime::FindFirst(text_, sought, from)};
   return last_.at;
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "runtime/find_text.h"
 #include "runtime/strings.h"
 #include "script/marks.h"
 #include "script/numbers.h"
@@ -10,15 +11,13 @@ namespace corvane::script {
 
 namespace {
 
-bool IsBreak(char c) {
-  return c == ' ' || c == ',';
-}
-
 // Where the text behind [key] (upper case) starts, from 0; npos without it.
-size_t BehindKey(const std::string& upper, std::string_view key) {
-  for (size_t at = 0; (at = upper.find(key, at)) != std::string::npos; ++at)
-    if (at == 0 || IsBreak(upper[at - 1])) return at + key.size();
-  return std::string::npos;
+size_t BehindKey(std::string_view upper, std::string_view key) {
+  if (runtime::BeginsWith(upper, key)) return key.size();
+  size_t place = std::string::npos;
+  for (const char separator : {' ', ','})
+    place = std::min(place, runtime::FindFirst(upper, std::string(1, separator).append(key)));
+  return place == std::string::npos ? place : place + 1 + key.size();
 }
 
 std::string SortValue(const std::string& line, std::string_view key) {

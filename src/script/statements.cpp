@@ -1,6 +1,7 @@
 // The table of statements, and what the plain ones do.
 #include <algorithm>
 
+#include "runtime/find_text.h"
 #include "runtime/strings.h"
 #include "script/arguments.h"
 #include "script/commands.h"
@@ -97,7 +98,8 @@ void CodeRun::TestCase(ProgramItem& statement) {
   if (end == std::string::npos) return;
   state_.condFlag = false;
   const std::string wanted = TextOf(PushSlot(state_, value.substr(0, end)));
-  state_.condFlag = runtime::Holds(value.substr(end) + listSep, listSep + wanted + listSep);
+  const std::string values = value.substr(end) + listSep;
+  state_.condFlag = runtime::FindFirst(values, listSep + wanted + listSep) != std::string::npos;
 }
 
 void CodeRun::Output(ProgramItem& statement) {

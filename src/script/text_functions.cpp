@@ -1,6 +1,7 @@
 // The functions of texts.
 #include "runtime/collate.h"
 #include "runtime/error.h"
+#include "runtime/find_text.h"
 #include "runtime/format_value.h"
 #include "runtime/strings.h"
 #include "script/function_table.h"
@@ -16,6 +17,7 @@ namespace {
 
 using Argument = const std::string&;
 using runtime::CStr;
+using runtime::FindFirst;
 
 std::string Position(long position) {
   return std::to_string(position);
@@ -35,7 +37,7 @@ std::string Spaces(FunctionUse&, Argument count) {
 std::string ReplaceAll(FunctionUse&, Argument text, Argument from, Argument to) {
   if (!from.empty() && to.size() > from.size()) {
     size_t length = text.size();
-    for (size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + from.size()))
+    for (size_t at = FindFirst(text, from); at != std::string::npos; at = FindFirst(text, from, at + from.size()))
       CheckLength(length += to.size() - from.size());
   }
   return runtime::Replace(text, from, to);

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "runtime/find_text.h"
 #include "script/marks.h"
 
 namespace corvane::script {
@@ -32,7 +33,7 @@ bool EndsWith(std::string_view text, size_t end, std::string_view tail) {
 }
 
 long PlaceBehind(std::string_view text, const std::string& key) {
-  const size_t at = text.find(key);
+  const size_t at = runtime::FindFirst(text, key);
   return at == std::string_view::npos ? 0 : static_cast<long>(at + key.size()) + 1;
 }
 

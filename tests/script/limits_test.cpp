@@ -109,6 +109,15 @@ TEST_F(Limits, BehindALongTextTheClockIsReadAtOnce) {
   EXPECT_EQ(world.services.loop.yields, 5);
 }
 
+// What compares the sought text at each place takes minutes, in which no Stop comes in.
+TEST_F(Limits, ASearchOfALongTextComesToItsEnd) {
+  const std::string texts = "dim aa,bb\naa=space(1000000)\nbb=space(500000)&\"x\"\n";
+  for (const char* search :
+       {"=instr(aa,bb)", "=instrrev(\"x\"&aa,\"x\"&trim(bb)&aa)", "=len(replace(aa,bb,\"\"))",
+        "=len(replace(aa,bb,bb&bb))", "=len(sort(aa,bb))", "select case aa\ncase 1,bb\n=1\nend select"})
+    EXPECT_LT(tests::SecondsOf([&] { RunCode(texts + search); }), 2) << search;
+}
+
 TEST_F(Limits, ExecuteLeavesARunAlone) {
   world.services.files.Put("C:\\Corvane\\LibCode.txt", "{ONE}\r\nCODE{\r\nfirst\r\n}\r\n");
   world.services.loop.on_do_events = [&] { EXPECT_EQ(lib.Execute("{ONE}", "entry"), ""); };

@@ -21,6 +21,7 @@ TEST(SortLines, SortsByLineKeyAndOrder) {
       {"B\r\na\r\nc", "", "", "a\r\nB\r\nc\r\n"},
       {"n=10 x\r\nn=9,y\r\n", "N=", "", "n=9,y\r\nn=10 x\r\n"},
       {"xn=1\r\na n=0\r\n", "n=", "", "a n=0\r\nxn=1\r\n"},
+      {"xn=1,n=3\r\nn=2 n=9\r\n", "n=", "", "n=2 n=9\r\nxn=1,n=3\r\n"},
       {"a\r\n\r\nb", "", "", "\r\na\r\nb\r\n"},
       {"", "", "", ""},
   };
