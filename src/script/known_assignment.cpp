@@ -38,7 +38,8 @@ bool Appends(const KnownAssignment& known) {
 }  // namespace
 
 std::string WithOwnOperator(const std::string& statement, long& eq) {
-  const char before = eq >= 2 ? statement[static_cast<size_t>(eq) - 2] : ' ';
+  const auto place = static_cast<size_t>(eq) - 2;  // the header of a broken statement may point beyond its end
+  const char before = eq >= 2 && place < statement.size() ? statement[place] : ' ';
   if (std::string_view("+-*/&").find(before) == std::string_view::npos) return statement;
   const std::string name = Left(statement, eq - 2);
   const std::string operation = Mid(statement, eq - 1, 1) + Mid(statement, eq + 1);

@@ -164,7 +164,7 @@ bool HasSignBehindOperator(const SourceStatement& source, const Surroundings&) {
   for (size_t at = 0; at + 2 < text.size(); ++at) {
     if (at == assignment || !IsIn("+-*/\\&<>=,", text[at])) continue;
     const size_t sign = at + (at + 1 == assignment ? 2 : 1);
-    if (IsIn("+-", text[sign]) && IsOddSign(text[at], text.substr(sign), other_ranks)) return true;
+    if (sign < text.size() && IsIn("+-", text[sign]) && IsOddSign(text[at], text.substr(sign), other_ranks)) return true;
   }
   return false;
 }
