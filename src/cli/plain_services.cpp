@@ -85,6 +85,21 @@ class FilePictures : public host::Pictures {
   host::Files& files_;
 };
 
+constexpr long kPrinterError = 482;
+
+// There is none.
+class NoPrinter : public host::Printer {
+ public:
+  float FontSize() const override { return font_size_; }
+  void SetFontSize(float points) override { font_size_ = points; }
+  void SetCurrentX(float) override {}
+  void Print(const std::string&) override { throw runtime::Error(kPrinterError, "Printer error"); }
+  void EndDoc() override {}
+
+ private:
+  float font_size_ = 12;
+};
+
 }  // namespace
 
 struct PlainServices::State {
@@ -96,6 +111,7 @@ struct PlainServices::State {
   PlainLoop loop;
   std::unique_ptr<host::Files> files = environment::NewDiskFiles();
   std::unique_ptr<host::Pictures> pictures = NewPictures(*files);
+  NoPrinter printer;
 };
 
 PlainServices::PlainServices() : state_(std::make_unique<State>()) {}
@@ -104,7 +120,7 @@ PlainServices::~PlainServices() = default;
 
 PlainServices::operator host::Services() const {
   State& s = *state_;
-  return {s.clipboard, s.prompts, s.settings, s.app, s.screen, s.loop, *s.files, *s.pictures};
+  return {s.clipboard, s.prompts, s.settings, s.app, s.screen, s.loop, *s.files, *s.pictures, s.printer};
 }
 
 host::Files& PlainServices::Files() const {

@@ -1,5 +1,6 @@
 // PlainServices: the runtime's services without a display, for the command line. Clipboard and
-// settings are the process's own; a message goes to standard error and is answered by its default button.
+// settings are the process's own; a message goes to standard error and is answered by its default button; printing is
+// Error 482.
 #pragma once
 
 #include <memory>

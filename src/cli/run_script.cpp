@@ -85,7 +85,8 @@ struct HeadlessRun {
   HeadlessRun(const host::Services& given, const ScriptProject& project, const ScriptOptions& options,
               std::ostream& errors)
       : boxes(errors, options.json, {options.answers.begin(), options.answers.end()}, given.App.Title),
-        services{given.Clipboard, boxes, given.Settings, given.App, given.Screen, loop, given.Files, given.Pictures},
+        services{given.Clipboard, boxes,          given.Settings, given.App, given.Screen, loop,
+                 given.Files,     given.Pictures, given.Printer},
         access(project.Environment(), services) {
     lib.Errors().SetBox([this](const auto& message, const auto& flat) { return boxes.ErrorBox(message, flat); });
     lib.ShowPlan(options.plan);

@@ -41,7 +41,7 @@ class ListMenuTable {
       {mnuSelectAll, "mnuSelectAll", "Select All", mnuQv, [](R& r) { r.list.SelectAll(); }},
       {mnuCopy, "mnuCopy", "Copy Selection", mnuQv, [](R& r) { r.list.CopySelection(); }},
       {mnuAdd, "mnuAdd", "Add Selection", mnuQv, [](R& r) { r.list.AddSelection(); }},
-      {mnuPrint, "mnuPrint", "Print Code", mnuQv, nullptr},
+      {mnuPrint, "mnuPrint", "Print Code", mnuQv, [](R& r) { r.PrintCode(); }},
       {mnuFormat, "mnuFormat", "Format Code", mnuQv, [](R& r) { r.FormatCode(); }},
       {mnuHistory, "mnuHistory", "Save into History", kNone, [](R& r) { r.SaveIntoHistory(); }},
       {mnuTEdit, "mnuTEdit", "Edit Weaver menu", kNone, nullptr, 0},

@@ -2,6 +2,7 @@
 
 #include "codelist/collapse.h"
 #include "codelist/formatter.h"
+#include "codelist/hourglass.h"
 #include "codelist/raised.h"
 #include "codelist/uc_list_box.h"
 #include "runtime/strings.h"
@@ -12,20 +13,6 @@ namespace {
 
 // In front of the word that Search tells: where it is to be looked for.
 constexpr char kInWholeProject[] = "\x02", kInSelectedModule[] = "\x03";
-
-class Hourglass {
- public:
-  explicit Hourglass(host::Screen& screen) : screen_(screen), before_(screen.MousePointer()) {
-    screen.SetMousePointer(host::vbHourglass);
-  }
-  ~Hourglass() { screen_.SetMousePointer(before_); }
-  Hourglass(const Hourglass&) = delete;
-  Hourglass& operator=(const Hourglass&) = delete;
-
- private:
-  host::Screen& screen_;
-  int before_;
-};
 
 }  // namespace
 

@@ -62,6 +62,11 @@ class ReadingCommands {
   void CommentSelected();
   void UncommentSelected();
 
+  // print_code.cpp
+  bool IsAnySelected() const;
+  void PrintLines();
+  void PrintCode();
+
   // quick_search.cpp
   bool IsQuicklyListed(long line) const;
   bool ListQuickly(const std::function<bool(const std::string&)>& wanted);

@@ -82,12 +82,11 @@ void ReadingCommands::TakeWord(Word word) {
   menu[mnuGoProc].SetCaption("Goto Proc " + Quoted(cursorWord));
 }
 
-// An entry whose command tells the container does nothing where the container does not listen. Nothing here can print.
+// An entry whose command tells the container does nothing where the container does not listen.
 void ReadingCommands::OfferOnlyWhatIsHeard() {
   const auto disable = [this](std::initializer_list<ListEntry> entries) {
     for (const ListEntry entry : entries) menu.Enable(entry, false);
   };
-  disable({mnuPrint});
   if (!list.Search) disable({mnuSearch, mnuSearchLocal, mnuSearchAll});
   if (!list.GoProc) disable({mnuGoProc});
   if (!list.UpdateString) disable({mnuEdit, mnuComnt, mnuUncomnt, mnuFormat});

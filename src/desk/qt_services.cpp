@@ -4,6 +4,7 @@
 #include <QBuffer>
 #include <QClipboard>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
 
@@ -113,6 +114,16 @@ QMessageBox::Icon IconOfStyle(long style) {
   }
 }
 
+// Its text is not selected when it is shown: the caret stands behind it.
+class TypedInput : public QInputDialog {
+ public:
+  using QInputDialog::QInputDialog;
+  void setVisible(bool visible) override {
+    QInputDialog::setVisible(visible);
+    if (auto* edit = findChild<QLineEdit*>(); visible && edit) edit->end(false);
+  }
+};
+
 class MessageBoxes : public host::Prompts {
  public:
   explicit MessageBoxes(const host::App& app) : app_(app) {}
@@ -132,6 +143,14 @@ class MessageBoxes : public host::Prompts {
   std::string InputBox(const std::string& prompt, const std::string& title, const std::string& text) override {
     return FromLabel(QInputDialog::getText(QApplication::activeWindow(), TitleOr(title), ToLabel(prompt),
                                            QLineEdit::Normal, ToLabel(text)));
+  }
+
+  std::string InputBoxTyped(const std::string& prompt, const std::string& typed) override {
+    TypedInput box(QApplication::activeWindow());
+    box.setWindowTitle(TitleOr({}));
+    box.setLabelText(ToLabel(prompt));
+    box.setTextValue(ToLabel(typed));
+    return box.exec() == QDialog::Accepted ? FromLabel(box.textValue()) : std::string();
   }
 
  private:
@@ -171,6 +190,7 @@ struct QtServices::State {
   QtLoop loop;
   std::unique_ptr<host::Files> files = environment::NewDiskFiles();
   std::unique_ptr<host::Pictures> pictures = cli::NewPictures(*files);
+  QtPrinter printer;
 };
 
 QtServices::QtServices() : state_(std::make_unique<State>()) {}
@@ -179,7 +199,7 @@ QtServices::~QtServices() = default;
 
 QtServices::operator host::Services() const {
   State& s = *state_;
-  return {s.clipboard, s.prompts, s.settings, s.app, s.screen, s.loop, *s.files, *s.pictures};
+  return {s.clipboard, s.prompts, s.settings, s.app, s.screen, s.loop, *s.files, *s.pictures, s.printer};
 }
 
 host::Clipboard& QtServices::Clipboard() const {
@@ -190,6 +210,9 @@ host::Files& QtServices::Files() const {
 }
 host::Prompts& QtServices::Prompts() const {
   return state_->prompts;
+}
+QtPrinter& QtServices::Printer() const {
+  return state_->printer;
 }
 
 }  // namespace corvane::desk

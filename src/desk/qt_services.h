@@ -1,9 +1,11 @@
-// QtServices: the runtime's services on the desk: the system's clipboard, message boxes, pointer and event loop.
+// QtServices: the runtime's services on the desk: the system's clipboard, message boxes, printer, pointer and
+// event loop.
 #pragma once
 
 #include <QWidget>
 #include <memory>
 
+#include "desk/qt_printer.h"
 #include "host/services.h"
 
 namespace corvane::desk {
@@ -16,6 +18,7 @@ class QtServices {
   host::Clipboard& Clipboard() const;
   host::Files& Files() const;
   host::Prompts& Prompts() const;
+  QtPrinter& Printer() const;
 
  private:
   struct State;

@@ -1,6 +1,7 @@
 #include "desk/run_desk.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QTimer>
 #include <iostream>
 
@@ -31,7 +32,7 @@ int DrawPictures(const cli::DeskOptions& options, std::ostream& out) {
   TourPrompts prompts(static_cast<host::Services>(plain).Prompts, services.Prompts());
   const host::Services shared = services;
   Desk desk({shared.Clipboard, prompts, shared.Settings, shared.App, shared.Screen, shared.Loop, shared.Files,
-             shared.Pictures},
+             shared.Pictures, shared.Printer},
             {options.code_page, static_cast<int>(addin::ConnectMode::Startup), true});
   if (!options.project.empty() && !desk.Open(QString::fromStdString(options.project))) return 1;
   if (!options.tour.empty())
@@ -44,6 +45,10 @@ int DrawPictures(const cli::DeskOptions& options, std::ostream& out) {
 int ShowWindows(const cli::DeskOptions& options) {
   QtServices services;
   Desk desk(services, {options.code_page, options.connect_mode, true});
+  services.Printer().printed = [&desk](const PrintTarget& target) {
+    const QString where = target.file.isEmpty() ? target.printer : QDir::toNativeSeparators(target.file);
+    desk.Told(QObject::tr("Printed to %1.").arg(where));
+  };
   if (!options.project.empty()) desk.Open(QString::fromStdString(options.project));
   if (options.explorer) desk.ClickButton();
   return QApplication::exec();

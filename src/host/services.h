@@ -115,6 +115,19 @@ class Pictures {
   virtual runtime::PictureRef LoadPicture(const std::string& path) = 0;
 };
 
+// A document on the system's default printer. It begins with its first text and goes out with EndDoc. Error 482 where
+// nothing can be printed.
+class Printer {
+ public:
+  virtual ~Printer() = default;
+  virtual float FontSize() const = 0;  // points
+  virtual void SetFontSize(float points) = 0;
+  virtual void SetCurrentX(float twips) = 0;  // from the left edge of what can be printed on
+  // One line at the place reached. The next one begins at the left edge below it, on a new page where this one is full.
+  virtual void Print(const std::string& text) = 0;
+  virtual void EndDoc() = 0;
+};
+
 struct Services {
   host::Clipboard& Clipboard;
   host::Prompts& Prompts;
@@ -124,6 +137,7 @@ struct Services {
   host::EventLoop& Loop;
   host::Files& Files;
   host::Pictures& Pictures;
+  host::Printer& Printer;
 };
 
 }  // namespace corvane::host

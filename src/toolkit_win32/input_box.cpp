@@ -51,6 +51,7 @@ class Template {
 struct Box {
   const std::wstring& prompt;
   const std::wstring& text;
+  AtStart at_start;
   std::wstring answer;
   std::exception_ptr fault;  // for the caller of the dialog
 };
@@ -109,7 +110,11 @@ INT_PTR CALLBACK HandleMessage(HWND dialog, UINT message, WPARAM w, LPARAM l) no
     SetDlgItemTextW(dialog, kInputPrompt, box.prompt.c_str());
     SetDlgItemTextW(dialog, kInputText, box.text.c_str());
     Arrange(dialog);
-    return TRUE;  // the focus goes to the text, all of which is selected then
+    if (box.at_start == AtStart::Selected) return TRUE;  // the focus goes to the text, all of which is selected then
+    const HWND edit = GetDlgItem(dialog, kInputText);
+    SetFocus(edit);
+    SendMessageW(edit, EM_SETSEL, box.text.size(), static_cast<LPARAM>(box.text.size()));
+    return FALSE;
   }
   if (message != WM_COMMAND) return FALSE;
   const WORD button = LOWORD(w);
@@ -127,13 +132,14 @@ INT_PTR CALLBACK HandleMessage(HWND dialog, UINT message, WPARAM w, LPARAM l) no
 }  // namespace
 
 // The text comes first: it has the focus.
-std::wstring ShowInputBox(HWND owner, const std::wstring& prompt, const std::wstring& title, const std::wstring& text) {
+std::wstring ShowInputBox(HWND owner, const std::wstring& prompt, const std::wstring& title, const std::wstring& text,
+                          AtStart at_start) {
   Template dialog(kWindow, title, 4);
   dialog.Add(kEditClass, kInputText, WS_BORDER | WS_TABSTOP | ES_AUTOHSCROLL, kText, L"");
   dialog.Add(kButtonClass, IDOK, WS_TABSTOP | BS_DEFPUSHBUTTON, kOK, L"OK");
   dialog.Add(kButtonClass, IDCANCEL, WS_TABSTOP | BS_PUSHBUTTON, kCancel, L"Cancel");
   dialog.Add(kStaticClass, kInputPrompt, SS_LEFT | SS_NOPREFIX, kPrompt, L"");
-  Box box{prompt, text, {}, {}};
+  Box box{prompt, text, at_start, {}, {}};
   DialogBoxIndirectParamW(GetModuleHandleW(nullptr), dialog.Get(), owner, HandleMessage,
                           reinterpret_cast<LPARAM>(&box));
   if (box.fault) std::rethrow_exception(box.fault);

@@ -31,13 +31,20 @@ class SystemPrompts : public host::Prompts {
   }
 
   std::string InputBox(const std::string& prompt, const std::string& title, const std::string& text) override {
-    const HWND owner = toolkit_.FrontWindow();
-    const OtherWindowsDisabled others(owner);
-    const VisualStyles::Use styled(toolkit_.Styles());
-    return BytesOf(ShowInputBox(owner, ShownText(prompt), TitleOr(title), ShownText(text)));
+    return Ask(prompt, title, text, AtStart::Selected);
+  }
+
+  std::string InputBoxTyped(const std::string& prompt, const std::string& typed) override {
+    return Ask(prompt, {}, typed, AtStart::CaretBehind);
   }
 
  private:
+  std::string Ask(const std::string& prompt, const std::string& title, const std::string& text, AtStart at_start) {
+    const HWND owner = toolkit_.FrontWindow();
+    const OtherWindowsDisabled others(owner);
+    const VisualStyles::Use styled(toolkit_.Styles());
+    return BytesOf(ShowInputBox(owner, ShownText(prompt), TitleOr(title), ShownText(text), at_start));
+  }
   std::wstring TitleOr(const std::string& title) const { return ShownText(title.empty() ? app_.Title : title); }
 
   const host::App& app_;

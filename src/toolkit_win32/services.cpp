@@ -3,6 +3,7 @@
 #include "toolkit_win32/clipboard.h"
 #include "toolkit_win32/file_names.h"
 #include "toolkit_win32/files.h"
+#include "toolkit_win32/printer.h"
 #include "toolkit_win32/prompts.h"
 #include "toolkit_win32/send_keys.h"
 #include "toolkit_win32/settings.h"
@@ -76,6 +77,7 @@ struct Win32Services::State {
   ToolkitLoop loop;
   std::unique_ptr<host::Files> files = NewFiles();
   FilePictures pictures{*files};
+  std::unique_ptr<host::Printer> printer = NewPrinter();
 };
 
 Win32Services::Win32Services(Win32Toolkit& toolkit) : state_(std::make_unique<State>(toolkit)) {}
@@ -84,7 +86,7 @@ Win32Services::~Win32Services() = default;
 
 Win32Services::operator host::Services() const {
   State& s = *state_;
-  return {*s.clipboard, *s.prompts, *s.settings, s.app, s.screen, s.loop, *s.files, s.pictures};
+  return {*s.clipboard, *s.prompts, *s.settings, s.app, s.screen, s.loop, *s.files, s.pictures, *s.printer};
 }
 
 }  // namespace corvane::toolkit_win32

@@ -1,5 +1,5 @@
 // Win32Services: the runtime's services on Windows: the system's clipboard, registry and disk, message and input boxes,
-// the pointer and the message loop of the toolkit.
+// the printer, the pointer and the message loop of the toolkit.
 #pragma once
 
 #include <memory>

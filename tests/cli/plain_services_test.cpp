@@ -21,6 +21,18 @@ TEST(PlainSettings, AreRememberedUntilTheProgramEnds) {
   EXPECT_EQ(host::Services(PlainServices()).Settings.GetSetting("Corvane", "Settings", "A", "0"), "0");
 }
 
+TEST(NoPrinter, PrintingIsError482AndAnEndIsNone) {
+  PlainServices plain;
+  const host::Services services = plain;
+  services.Printer.EndDoc();
+  try {
+    services.Printer.Print("text");
+    ADD_FAILURE();
+  } catch (const runtime::Error& error) {
+    EXPECT_EQ(error.Number(), 482);
+  }
+}
+
 TEST(Pictures, WhatIsNoPictureIsError481) {
   PlainServices plain;
   const host::Services services = plain;

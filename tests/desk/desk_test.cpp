@@ -22,7 +22,7 @@ class DeskOfSample : public testing::Test {
  protected:
   host::Services Services() {
     const host::Services real = services_;
-    return {real.Clipboard, prompts_, settings_, real.App, real.Screen, real.Loop, real.Files, real.Pictures};
+    return {real.Clipboard, prompts_, settings_, real.App, real.Screen, real.Loop, real.Files, real.Pictures, printer_};
   }
   void Start(int connect_mode = -1) {
     desk_ = std::make_unique<Desk>(Services(), DeskOptions{0, connect_mode, true});
@@ -50,6 +50,7 @@ class DeskOfSample : public testing::Test {
   QtServices services_;
   UserSettings settings_{folder_.filePath("corvane.ini")};
   tests::FakePrompts prompts_;
+  tests::FakePrinter printer_;
   std::unique_ptr<Desk> desk_;
 };
 

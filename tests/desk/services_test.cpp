@@ -106,6 +106,27 @@ TEST(InputBox, ReturnsTheTextAndEmptyTextOnCancel) {
   EXPECT_EQ(services.Prompts().InputBox("Name", "Title", "old"), "");
 }
 
+TEST(InputBox, BehindWhatWasTypedTheCaretStands) {
+  QtServices services;
+  bool selected = true;
+  QTimer::singleShot(0, [&] {
+    auto* dialog = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+    ASSERT_TRUE(dialog);
+    EXPECT_EQ(dialog->windowTitle(), "Corvane");
+    EXPECT_EQ(dialog->labelText(), "Type");
+    auto* edit = dialog->findChild<QLineEdit*>();
+    selected = edit->hasSelectedText();
+    edit->insert("b");
+    dialog->accept();
+  });
+  EXPECT_EQ(services.Prompts().InputBoxTyped("Type", "\xE4"),
+            "\xE4"
+            "b");
+  EXPECT_FALSE(selected);
+  QTimer::singleShot(0, [] { qobject_cast<QInputDialog*>(QApplication::activeModalWidget())->reject(); });
+  EXPECT_EQ(services.Prompts().InputBoxTyped("Type", "a"), "");
+}
+
 TEST(UserSettings, KeepsAValueAndGivesTheDefaultForAMissingOne) {
   QTemporaryDir folder;
   const QString file = folder.filePath("deep/er/corvane.ini");

@@ -6,6 +6,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "environment/memory_files.h"
@@ -179,6 +180,46 @@ class FakePictures : public host::Pictures {
   host::Files& files_;
 };
 
+// Keeps the lines of the documents that were printed.
+class FakePrinter : public host::Printer {
+ public:
+  struct Line {
+    std::string text;
+    float x = 0, font_size = 0;
+  };
+  std::vector<std::vector<Line>> documents;  // that were ended
+  std::vector<Line> lines;                   // of the one that was not
+  float font_size = 12;
+  long fail_with = 0;  // Error number of every text and end while it is not 0, as without a printer
+  std::function<void()> on_print;
+
+  float FontSize() const override { return font_size; }
+  void SetFontSize(float points) override { font_size = points; }
+  void SetCurrentX(float twips) override { x_ = twips; }
+  void Print(const std::string& text) override {
+    if (on_print) on_print();
+    Guard();
+    lines.push_back({text, std::exchange(x_, 0.0f), font_size});
+  }
+  void EndDoc() override {
+    Guard();
+    if (!lines.empty()) documents.push_back(std::exchange(lines, {}));
+  }
+  // Of the documents that were ended, one after the other.
+  std::vector<std::string> Texts() const {
+    std::vector<std::string> texts;
+    for (const auto& document : documents)
+      for (const Line& line : document) texts.push_back(line.text);
+    return texts;
+  }
+
+ private:
+  void Guard() const {
+    if (fail_with != 0) throw runtime::Error(fail_with);
+  }
+  float x_ = 0;
+};
+
 // One of each, and the host::Services that the logic takes. Files stand in `files`; App.Path is "C:\Corvane".
 struct FakeServices {
   FakeClipboard clipboard;
@@ -189,7 +230,8 @@ struct FakeServices {
   FakeEventLoop loop;
   environment::MemoryFiles files;
   FakePictures pictures{files};
-  host::Services services{clipboard, prompts, settings, app, screen, loop, files, pictures};
+  FakePrinter printer;
+  host::Services services{clipboard, prompts, settings, app, screen, loop, files, pictures, printer};
 
   operator host::Services&() { return services; }
 };

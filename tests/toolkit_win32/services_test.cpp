@@ -343,6 +343,23 @@ TEST_F(PromptsTest, AnInputBoxShowsItsTextsAndReturnsWhatIsTyped) {
   EXPECT_EQ(to, 3u);
 }
 
+TEST_F(PromptsTest, BehindWhatWasTypedTheCaretStandsInTheBox) {
+  DWORD from = 9, to = 9;
+  InDialog([&](HWND dialog) {
+    const HWND edit = GetDlgItem(dialog, kInputText);
+    SendMessageW(edit, EM_GETSEL, reinterpret_cast<WPARAM>(&from), reinterpret_cast<LPARAM>(&to));
+    EXPECT_EQ(GetFocus(), edit);
+    EXPECT_EQ(TextOf(dialog), L"Corvane");
+    PostMessageW(edit, WM_CHAR, 'b', 1);
+    PostMessageW(edit, WM_KEYDOWN, VK_RETURN, 1);
+  });
+  EXPECT_EQ(services.Prompts.InputBoxTyped("Search", "\xE4"),
+            "\xE4"
+            "b");
+  EXPECT_EQ(from, 1u);
+  EXPECT_EQ(to, 1u);
+}
+
 TEST_F(PromptsTest, CancelEscAndTheCloseBoxOfAnInputBoxGiveEmptyText) {
   InDialog([](HWND dialog) { PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0); });
   EXPECT_EQ(services.Prompts.InputBox("Name", "", "old"), "");
