@@ -5,6 +5,7 @@
 #include <ostream>
 
 #include "cli/check_command.h"
+#include "cli/format_command.h"
 #include "cli/inspect_command.h"
 #include "cli/list_command.h"
 #include "cli/plain_services.h"
@@ -102,6 +103,7 @@ class CommandLine {
     DefineList();
     DefineView();
     DefineCheck();
+    DefineFormat();
     DefineInspect();
     DefineScript();
     try {
@@ -170,11 +172,13 @@ class CommandLine {
   void DefineView() {
     CLI::App* view = Define("view", "a file coloured by block level, for the terminal", [this] {
       return WithFile(command_, path_, [this](const std::string& bytes) {
-        return ViewFile(bytes, path_, html_, command_.code_page, command_.out);
+        return ViewFile(bytes, {path_, html_, fold_ == "logical", command_.code_page}, command_.out);
       });
     });
     view->add_option("FILE", path_, "a module, or any text")->required();
     view->add_flag("--html", html_, "as an HTML page");
+    view->add_option("--fold", fold_, "logical: only the lines that hold a keyword, and the outermost ones")
+        ->check(CLI::IsMember({"logical"}));
     AddCodePage(view, "1252");
   }
 
@@ -184,6 +188,20 @@ class CommandLine {
       return static_cast<int>(
           RunCheckCommand(path_, command_.code_page, services.Files(), command_.out, command_.errors));
     });
+  }
+
+  void DefineFormat() {
+    CLI::App* format = Define("format", "indent the code of a module or project by its blocks", [this] {
+      PlainServices services;
+      format_.code_page = command_.code_page;
+      return RunFormatCommand(path_, format_, services.Files(), command_.out, command_.errors);
+    });
+    format->add_option("FILE", path_, "a module, whose text is put out; or a project or group (.vbp, .vbg)")
+        ->required();
+    auto* check = format->add_flag("--check", format_.check, "list the files that would change; 1 if there is any");
+    format->add_flag("--write", format_.write, "change the files, in the blanks at the starts of their lines alone")
+        ->excludes(check);
+    AddCodePage(format, "guessed of a project, 1252 of a module");
   }
 
   void DefineInspect() {
@@ -233,8 +251,8 @@ class CommandLine {
     script->add_option("--component", script_.component, "the component that is selected, as Me")->needs(project);
     script->add_flag("--save", script_.save, "save what it changed; without it nothing is saved")->needs(project);
     script->add_flag("--quiet", script_.quiet, "do not show what it changed");
-    script->add_option("--library", script_.library,
-                       "folder of LibCode.txt and WorkShop; the installed one if left out")
+    script
+        ->add_option("--library", script_.library, "folder of LibCode.txt and WorkShop; the installed one if left out")
         ->check(CLI::ExistingDirectory);
     script->add_flag("--plan", script_.plan, "put out the statements in place of running them");
     script->add_option("--messages", messages_, "how boxes are told: text or json")
@@ -246,8 +264,9 @@ class CommandLine {
   CLI::App app_{"Corvane, a project explorer for Visual Basic 6"};
   DeskOptions desk_;
   ListOptions list_;
+  FormatOptions format_;
   ScriptOptions script_;
-  std::string path_, filter_, mode_, messages_;
+  std::string path_, filter_, mode_, messages_, fold_;
   bool html_ = false, check_ = false;
   int role_ = 0;
   std::function<int()> run_;

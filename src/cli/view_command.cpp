@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "cli/headless_list.h"
+#include "codelist/reading_commands.h"
 #include "runtime/code_page.h"
 #include "runtime/strings.h"
 
@@ -149,23 +150,24 @@ bool IsSql(const std::string& file_name) {
 
 }  // namespace
 
-int ViewFile(const std::string& file_bytes, const std::string& file_name, bool html, int code_page, std::ostream& out) {
-  if (code_page != 0) runtime::SetAnsiCodePage(code_page);
+int ViewFile(const std::string& file_bytes, const ViewOptions& options, std::ostream& out) {
+  if (options.code_page != 0) runtime::SetAnsiCodePage(options.code_page);
   const std::string text = WithCrLf(file_bytes);
   const size_t code = StartOfCode(text);
   Terminal terminal(out);
   Page page(out);
-  Style& style = html ? static_cast<Style&>(page) : terminal;
-  style.Begin(file_name);
+  Style& style = options.html ? static_cast<Style&>(page) : terminal;
+  style.Begin(options.file_name);
   HeadlessList list;
   list->ListRole = codelist::kSourcePane;  // past the ends of procedures
-  const codelist::ListMode mode = IsSql(file_name) ? codelist::kSqlList : codelist::kVbList;
+  const codelist::ListMode mode = IsSql(options.file_name) ? codelist::kSqlList : codelist::kVbList;
   const auto show = [&](std::string part, const char* grid, codelist::ListMode part_mode) {
     list->sGrid(grid);
     list->SetText(std::move(part));
+    if (options.fold && part_mode != codelist::kTextList) list->Reading().menu[codelist::ListEntry::mnuLogCol].Click();
     Viewer viewer(part_mode, style);
     for (long line = 1; line <= list->ListCount(); ++line)
-      viewer.ShowLine(list->StoredText(line), list->LineLevel(line));
+      if (list->IsLineVisible(line)) viewer.ShowLine(list->StoredText(line), list->LineLevel(line));
   };
   show(text.substr(0, code), "TEXT", codelist::kTextList);
   show(text.substr(code), mode == codelist::kSqlList ? "SQL" : "VB", mode);

@@ -6,9 +6,15 @@
 
 namespace corvane::cli {
 
-// Analyses the file as Visual Basic, as Transact-SQL when [file_name] ends in ".sql", and writes it with a colour for
-// each block level, comments grey, keywords bold; what stands in front of a module's code is left plain. [code_page]
-// decides case and the way to UTF-8; 0 leaves the one in force. Returns 0.
-int ViewFile(const std::string& file_bytes, const std::string& file_name, bool html, int code_page, std::ostream& out);
+struct ViewOptions {
+  std::string file_name;
+  bool html = false;
+  bool fold = false;  // of the code, only lines that hold a keyword, and the outermost ones
+  int code_page = 0;  // decides case and the way to UTF-8; 0 leaves the one in force
+};
+
+// Analyses the file as Visual Basic, as Transact-SQL when its name ends in ".sql", and writes it with a colour for each
+// block level, comments grey, keywords bold; what stands in front of a module's code is left plain. Returns 0.
+int ViewFile(const std::string& file_bytes, const ViewOptions& options, std::ostream& out);
 
 }  // namespace corvane::cli

@@ -17,8 +17,8 @@ std::string_view WithoutLeadingBlanks(std::string_view text) {
   return text.substr(std::min(text.find_first_not_of(' '), text.size()));
 }
 
-std::string Indented(std::string_view stored, long level, size_t blanks) {
-  return std::string(static_cast<size_t>(IndentOf(stored, level)) * blanks, ' ') + runtime::LTrim(CleanText(stored));
+std::string Indented(std::string_view stored, size_t blanks) {
+  return std::string(blanks, ' ') + runtime::LTrim(CleanText(stored));
 }
 
 // Code begins with a letter of the language, with a member of With, or goes on from the line above.
@@ -44,9 +44,14 @@ bool IsCommentLine(std::string_view stored) {
   return !text.empty() && text[0] == kComment;
 }
 
-std::optional<std::string> Formatted(std::string_view stored, long level) {
+std::optional<size_t> FormattedIndent(std::string_view stored, long level) {
   if (IsCommentLine(stored)) return std::nullopt;
-  return Indented(stored, level, kFormattedStep);
+  return static_cast<size_t>(IndentOf(stored, level)) * kFormattedStep;
+}
+
+std::optional<std::string> Formatted(std::string_view stored, long level) {
+  const auto blanks = FormattedIndent(stored, level);
+  return blanks ? std::optional(Indented(stored, *blanks)) : std::nullopt;
 }
 
 std::string Commented(std::string_view clean) {
@@ -61,7 +66,8 @@ std::optional<std::string> Uncommented(std::string_view clean) {
 }
 
 std::string Printed(std::string_view stored, long level) {
-  return IsCommentLine(stored) ? runtime::Trim(stored) : Indented(stored, level, kPrintedStep);
+  if (IsCommentLine(stored)) return runtime::Trim(stored);
+  return Indented(stored, static_cast<size_t>(IndentOf(stored, level)) * kPrintedStep);
 }
 
 }  // namespace corvane::codelist

@@ -13,7 +13,9 @@ long IndentOf(std::string_view stored, long level);
 
 bool IsCommentLine(std::string_view stored);
 
-// Two blanks a step; none for a comment line, which keeps its place.
+// Blanks, two a step; none for a comment line, which keeps its place.
+std::optional<size_t> FormattedIndent(std::string_view stored, long level);
+// The line with that indent.
 std::optional<std::string> Formatted(std::string_view stored, long level);
 
 std::string Commented(std::string_view clean);

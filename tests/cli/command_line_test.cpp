@@ -61,6 +61,27 @@ TEST(CommandLine, ScriptPutsItsResultOutAndItsBoxesOnStandardError) {
   EXPECT_EQ(result.status, 0);
 }
 
+TEST(CommandLine, FormatTakesItsOptions) {
+  const TemporaryFolder folder;
+  const std::string file = folder.Path() + "/a.bas";
+  WriteFile(file, "Do\n   x\nLoop\n");
+  EXPECT_EQ(RunCorvane({"format", file}).out, "Do\n  x\nLoop\n");
+  EXPECT_EQ(RunCorvane({"format", file, "--check"}).status, 1);
+  EXPECT_EQ(RunCorvane({"format", file, "--check", "--write"}).status, 2);
+  EXPECT_EQ(RunCorvane({"format", file, "--write"}).out, file + ": 1 line indented\n");
+  EXPECT_EQ(RunCorvane({"format", file, "--check"}).status, 0);
+  EXPECT_EQ(RunCorvane({"format", kProject, "--check"}).status, 1);
+}
+
+TEST(CommandLine, ViewFoldsLogicallyAndNoOtherWay) {
+  const TemporaryFolder folder;
+  const std::string file = folder.Path() + "/a.bas";
+  WriteFile(file, "Do\nx\nLoop\n");
+  EXPECT_THAT(RunCorvane({"view", file}).OutLines(), SizeIs(3));
+  EXPECT_THAT(RunCorvane({"view", file, "--fold", "logical"}).OutLines(), SizeIs(2));
+  EXPECT_EQ(RunCorvane({"view", file, "--fold", "all"}).status, 2);
+}
+
 TEST(CommandLine, ScriptWithAnErrorBoxEndsWithOne) {
   const TemporaryFolder folder;
   const std::string script = folder.Path() + "/a.script";

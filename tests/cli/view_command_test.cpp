@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <regex>
 #include <sstream>
 
 #include "runtime/code_page.h"
@@ -11,10 +12,14 @@ namespace {
 
 using testing::HasSubstr;
 
-std::string View(const std::string& bytes, bool html = false, const std::string& name = "a.bas") {
+std::string View(const std::string& bytes, bool html = false, const std::string& name = "a.bas", bool fold = false) {
   std::ostringstream out;
-  EXPECT_EQ(ViewFile(bytes, name, html, 1252, out), 0);
+  EXPECT_EQ(ViewFile(bytes, {name, html, fold, 1252}, out), 0);
   return out.str();
+}
+
+std::string PlainText(const std::string& shown) {
+  return std::regex_replace(shown, std::regex("\x1b\\[[0-9;]*m"), "");
 }
 
 TEST(ViewFile, ColoursTheTerminalByLevel) {
@@ -46,6 +51,18 @@ TEST(ViewFile, LeavesTheHeadOfAModulePlain) {
 
 TEST(ViewFile, TakesSqlForSql) {
   EXPECT_THAT(View("select 1 -- x\n", false, "A.SQL"), HasSubstr("\x1b[1;39mSelect\x1b[0m 1 \x1b[90m-- x\x1b[0m\n"));
+}
+
+TEST(ViewFile, FoldedShowsTheSkeletonOfTheCode) {
+  const std::string code = "Sub a()\nIf b Then\nc = 1\nFor i = 1 To 2\nd = 2\nNext i\nEnd If\ne = 3\nEnd Sub\n";
+  EXPECT_EQ(PlainText(View(code, false, "a.bas", true)),
+            "Sub a()\nIf b Then\nFor i = 1 To 2\nNext i\nEnd If\ne = 3\nEnd Sub\n");
+  EXPECT_EQ(PlainText(View(code)), code);
+}
+
+TEST(ViewFile, FoldingLeavesTheHeadOfAModuleWhole) {
+  const std::string head = "VERSION 5.00\nBegin VB.Form F\n   Caption = 1\nEnd\nAttribute VB_Name = \"F\"\n";
+  EXPECT_EQ(PlainText(View(head + "With a\nx\nEnd With\n", false, "F.frm", true)), head + "With a\nEnd With\n");
 }
 
 TEST(ViewFile, KeepsTheTextAsItIs) {
