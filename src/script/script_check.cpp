@@ -173,6 +173,7 @@ bool HasNameOfOneLetter(const SourceStatement& source, const Surroundings&) {
   const string_view text = source.upper;
   if (BeginsWith(text, "SUB ")) return false;
   const size_t first = BeginsWith(text, "CALL ") ? text.find('(') : 0;  // the name that is called may have one letter
+  if (first == string_view::npos) return false;
   for (size_t at = first; ++at + 1 < text.size();) {
     const bool begins = IsOperator(text[at - 1]) || text[at - 1] == '(';
     if (begins && text[at + 1] == '(' && !IsOperator(text[at]) && !IsIn("()\"|", text[at])) return true;
