@@ -106,7 +106,8 @@ DesignerBlockRef AddControl(DesignerState& state, const ControlClass& known, Des
   const ControlClass* holder = ClassOf(state, container);
   const bool fits =
       is_menu ? in_form || IsMenu(container) : !IsMenu(container) && (in_form || !holder || holder->is_container);
-  if (!fits) throw host::Error(runtime::kInvalidProcedureCall);
+  const bool is_too_deep = container.depth + 1 >= kDeepestLevel - 1;  // it may hold a font
+  if (!fits || is_too_deep) throw host::Error(runtime::kInvalidProcedureCall);
 
   DesignerBlockRef control =
       state.Part().NewBlock(container, false, known.prog_id, FirstFreeName(state, known.base_name));

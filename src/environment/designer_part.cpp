@@ -1,6 +1,6 @@
 #include "environment/designer_part.h"
 
-#include <algorithm>
+#include <utility>
 
 #include "environment/designer_lines.h"
 #include "environment/lookup.h"
@@ -74,6 +74,7 @@ class DesignerPart::Reader {
   }
 
   void ReadInBlock(std::string_view raw, const DesignerLine& line) {
+    if (too_deep_ > 0) return KeepTooDeep(raw, line);
     switch (line.kind) {
       case DesignerLine::Begin:
         if (block_->is_property) Problem("Begin inside BeginProperty");
@@ -88,15 +89,28 @@ class DesignerPart::Reader {
         block_->items.push_back({DesignerItem::Property, raw, line.name, nullptr});
         return;
       case DesignerLine::Blank:
-        block_->items.push_back({DesignerItem::Other, raw, {}, nullptr});
-        return;
+        return KeepLine(raw);
       case DesignerLine::Unknown:
         Problem("neither a property nor Begin or End: " + Shown(TrimBlanks(raw)));
-        block_->items.push_back({DesignerItem::Other, raw, {}, nullptr});
+        KeepLine(raw);
     }
   }
 
+  void KeepLine(std::string_view raw) { block_->items.push_back({DesignerItem::Other, raw, {}, nullptr}); }
+
+  // The blocks below the deepest level are lines of the block that holds them.
+  void KeepTooDeep(std::string_view raw, const DesignerLine& line) {
+    KeepLine(raw);
+    if (line.kind == DesignerLine::Begin || line.kind == DesignerLine::BeginProperty) ++too_deep_;
+    if (line.kind == DesignerLine::End || line.kind == DesignerLine::EndProperty) --too_deep_;
+  }
+
   void Open(std::string_view raw, const DesignerLine& line) {
+    if (block_ && block_->depth + 1 == kDeepestLevel) {
+      if (!std::exchange(has_too_deep_, true))
+        Problem("nested too deeply: more than " + std::to_string(kDeepestLevel) + " levels");
+      return KeepTooDeep(raw, line);
+    }
     auto block = std::make_shared<DesignerBlock>();
     block->is_property = line.kind == DesignerLine::BeginProperty;
     block->begin = raw;
@@ -116,8 +130,7 @@ class DesignerPart::Reader {
   void Close(std::string_view raw, bool is_property) {
     if (block_->is_property != is_property) {
       Problem(is_property ? "EndProperty where End is due" : "End where EndProperty is due");
-      block_->items.push_back({DesignerItem::Other, raw, {}, nullptr});
-      return;
+      return KeepLine(raw);
     }
     block_->end = raw;
     block_ = block_->parent;
@@ -126,7 +139,9 @@ class DesignerPart::Reader {
   DesignerPart& part_;
   DesignerBlock* block_ = nullptr;
   long line_ = 0;
-  bool has_tail_ = false;  // a line with text behind the End: reported once
+  long too_deep_ = 0;          // open blocks below the deepest level
+  bool has_too_deep_ = false;  // and
+  bool has_tail_ = false;      // a line with text behind the End: each reported once
 };
 
 DesignerPart::DesignerPart(std::string text) : text_(std::move(text)) {

@@ -17,6 +17,9 @@ struct DesignerProblem {
   std::string reason;
 };
 
+// Blocks in blocks, the root the first level. What is nested deeper is not understood: it is kept as lines.
+inline constexpr int kDeepestLevel = 200;
+
 struct DesignerBlock;
 using DesignerBlockRef = std::shared_ptr<DesignerBlock>;
 

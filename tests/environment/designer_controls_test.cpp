@@ -148,6 +148,17 @@ TEST(VBControls, ANewControlGoesIntoItsContainer) {
   EXPECT_EQ(ErrorOf([&] { open.Controls()->Add("Menu", open.Control("fraKind")); }), 5);
 }
 
+// A deeper one could not be read again.
+TEST(VBControls, AControlIsNotAddedBelowTheDeepestLevel) {
+  OpenDesigner open(kEmptyForm);
+  host::Ref<host::VBControl> container;
+  long added = 0;
+  while (added < 1000 && ErrorOf([&] { container = open.Controls()->Add("VB.Frame", container); }) == 0) ++added;
+  EXPECT_EQ(added, kDeepestLevel - 2);  // the form is the first, a font in the last frame would be the last
+  EXPECT_EQ(ErrorOf([&] { open.Controls()->Add("VB.Label", container); }), 5);
+  EXPECT_TRUE(DesignerPart(open.designer.Write()).IsUnderstood());
+}
+
 TEST(VBControls, AControlOfAnotherLibraryIsAddedWhereThereIsOneAlready) {
   OpenDesigner open(kStockForm);
   EXPECT_EQ(ErrorOf([&] { open.Controls()->Add("MSComctlLib.ListView", nullptr); }), 429);

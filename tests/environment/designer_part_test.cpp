@@ -123,6 +123,40 @@ const Extent kExtents[] = {
 INSTANTIATE_TEST_SUITE_P(Cases, DesignerPartExtent, testing::ValuesIn(kExtents),
                          [](const auto& info) { return std::string(info.param.name); });
 
+// [levels] blocks, one in the other, behind a VERSION line.
+std::string Nest(long levels, const std::string& open, const std::string& close) {
+  std::string text = "VERSION 5.00\n";
+  for (long i = 0; i < levels; ++i) text += i == 0 ? "Begin VB.Form F\n" : open;
+  for (long i = levels; i-- > 0;) text += i == 0 ? "End\n" : close;
+  return text;
+}
+
+TEST(DesignerPart, TwoHundredLevelsAreUnderstood) {
+  EXPECT_TRUE(DesignerPart(Nest(kDeepestLevel, "Begin VB.Frame A\n", "End\n")).IsUnderstood());
+  EXPECT_TRUE(DesignerPart(Nest(kDeepestLevel, "BeginProperty A\n", "EndProperty\n")).IsUnderstood());
+}
+
+TEST(DesignerPart, WhatIsNestedDeeperIsKeptAndReportedOnce) {
+  for (const long levels : {201L, 200000L})
+    for (const auto& [open, close] :
+         {std::pair("Begin VB.Frame A\n", "End\n"), std::pair("BeginProperty A\n", "EndProperty\n")}) {
+      const std::string text = Nest(levels, open, close);
+      const DesignerPart part(text);
+      EXPECT_EQ(Reasons(part), std::vector<std::string>{"202: nested too deeply: more than 200 levels"});
+      EXPECT_EQ(part.Write(), text);
+      EXPECT_EQ(DesignerPartLength(text + "Option Explicit\n"), text.size());
+    }
+}
+
+TEST(DesignerPart, WhatIsNestedTooDeeplyAndBreaksOffIsKept) {
+  std::string text = Nest(200000, "Begin VB.Frame A\n", "");
+  text.resize(text.size() - std::string("End\n").size());
+  const DesignerPart part(text);
+  EXPECT_EQ(Reasons(part), (std::vector<std::string>{"202: nested too deeply: more than 200 levels",
+                                                     "200001: the designer part breaks off before its End"}));
+  EXPECT_EQ(part.Write(), text);
+}
+
 // Lines of every kind in every disorder: whatever comes in goes out.
 TEST(DesignerPart, AnySequenceOfLinesIsWrittenBack) {
   const std::vector<std::string> lines = {"VERSION 5.00",
