@@ -18,10 +18,17 @@ namespace {
 constexpr double kGrid = 120;  // twips between the points of the designer's grid
 constexpr size_t kLongestName = 40;
 
-bool IsTaken(DesignerState& state, std::string_view name, const DesignerBlock* but = nullptr) {
+// Whether the two may share a name: elements of one control array.
+bool AreElements(const DesignerBlock& left, const DesignerBlock& right) {
+  const long index = LongValue(left, "Index", kNoElement), other = LongValue(right, "Index", kNoElement);
+  return SameName(left.type, right.type) && index != kNoElement && other != kNoElement && index != other;
+}
+
+bool IsTaken(DesignerState& state, std::string_view name, const DesignerBlock* by = nullptr) {
   const auto& controls = state.Controls();
-  return std::any_of(controls.begin(), controls.end(),
-                     [&](const DesignerBlockRef& other) { return other.get() != but && SameName(other->name, name); });
+  return std::any_of(controls.begin(), controls.end(), [&](const DesignerBlockRef& other) {
+    return other.get() != by && SameName(other->name, name) && !(by && AreElements(*by, *other));
+  });
 }
 
 std::string FirstFreeName(DesignerState& state, std::string_view base) {

@@ -218,6 +218,20 @@ TEST(VBControls, AnIndexMakesAnArrayAndIsTakenOnce) {
   EXPECT_EQ(ErrorOf([&] { open.Of(3L, "Index")->SetValue(40000L); }), 380);
 }
 
+TEST(VBControls, ElementsOfAnArrayShareItsName) {
+  OpenDesigner open(kStockForm);
+  const auto name = [&](const std::string& prog_id, const Variant& index) {
+    const auto added = open.Controls()->Add(prog_id, nullptr);
+    added->Properties()->Item("Index")->SetValue(index);
+    return ErrorOf([&] { added->Properties()->Item("Name")->SetValue(std::string("optKind")); });
+  };
+  EXPECT_EQ(name("VB.OptionButton", 2L), 0);
+  EXPECT_EQ(name("VB.OptionButton", 2L), 32813) << "taken";
+  EXPECT_EQ(name("VB.OptionButton", Variant()), 32813) << "in no array";
+  EXPECT_EQ(name("VB.CheckBox", 4L), 32813) << "another class";
+  EXPECT_EQ(open.Controls()->Item("optKind", 2)->ClassName(), "OptionButton");
+}
+
 TEST(VBControls, ThePagesOfATabbedDialogFollow) {
   const std::string text = R"form(VERSION 5.00
 Begin VB.Form F 
