@@ -80,7 +80,11 @@ class WrappedControl : public host::VBControl, public Wrapped {
 
 class WrappedControls : public WrappedCollection<host::VBControls, host::VBControl> {
  public:
+  using WrappedCollection::Item;
   using WrappedCollection::WrappedCollection;
+  host::Ref<host::VBControl> Item(const std::string& name, long index) override {
+    return WrapExisting<host::VBControl>(object_.Get(L"Item", name, index));
+  }
   host::Ref<host::VBControl> Add(const std::string& prog_id, const host::Ref<host::VBControl>& container) override {
     return WrapExisting<host::VBControl>(object_.Get(L"Add", prog_id, Argument(container)));
   }

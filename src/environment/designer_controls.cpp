@@ -75,7 +75,13 @@ class Controls : public host::VBControls {
 
   // The name of a control array is its first element in the file.
   host::Ref<host::VBControl> Item(const host::Index& index) override {
-    return std::make_shared<Control>(state_, ItemOf(All(), index, NameOf));
+    const auto* name = std::get_if<std::string>(&index);
+    return name ? Found(*name) : std::make_shared<Control>(state_, ItemOf(All(), index, NameOf));
+  }
+
+  host::Ref<host::VBControl> Item(const std::string& name, long index) override {
+    if (index < 0) throw host::Error(runtime::kSubscriptOutOfRange);
+    return Found(name, index);
   }
 
   host::Ref<host::VBControl> Add(const std::string& prog_id, const host::Ref<host::VBControl>& container) override {
@@ -96,6 +102,13 @@ class Controls : public host::VBControls {
   const std::vector<DesignerBlockRef>& All() {
     state_->Owner();
     return state_->Controls();
+  }
+
+  host::Ref<host::VBControl> Found(const std::string& name, long index = kNoElement) {
+    state_->Owner();
+    DesignerBlockRef control = state_->ControlOf(name, index);
+    if (!control) throw host::Error(runtime::kSubscriptOutOfRange);
+    return std::make_shared<Control>(state_, std::move(control));
   }
 
   DesignerBlock& BlockOf(const host::Ref<host::VBControl>& control) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "environment/designer_tree.h"
 #include "environment/lookup.h"
 
 namespace corvane::environment {
@@ -50,6 +51,20 @@ const std::vector<DesignerBlockRef>& DesignerState::Controls() {
     controls_valid_ = true;
   }
   return controls_;
+}
+
+DesignerBlockRef DesignerState::ControlOf(const std::string& name, long index) {
+  if (!names_valid_) {
+    controls_by_name_.clear();
+    for (const DesignerBlockRef& control : Controls()) {
+      const std::string key = runtime::UCase(control->name);
+      controls_by_name_.emplace(std::pair(key, kNoElement), control);
+      controls_by_name_.emplace(std::pair(key, LongValue(*control, "Index", kNoElement)), control);
+    }
+    names_valid_ = true;
+  }
+  const auto found = controls_by_name_.find({runtime::UCase(name), index});
+  return found == controls_by_name_.end() ? nullptr : found->second;
 }
 
 bool DesignerState::Holds(const DesignerBlock& block) {

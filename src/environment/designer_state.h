@@ -5,6 +5,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "environment/control_classes.h"
@@ -13,6 +14,9 @@
 #include "environment/designer_part.h"
 
 namespace corvane::environment {
+
+// In place of the index where a control is meant by its name alone.
+inline constexpr long kNoElement = -1;
 
 class DesignerState : public std::enable_shared_from_this<DesignerState> {
  public:
@@ -30,6 +34,8 @@ class DesignerState : public std::enable_shared_from_this<DesignerState> {
 
   // All controls, nested ones too, in file order.
   const std::vector<DesignerBlockRef>& Controls();
+  // By its name, or the element [index] of a control array; the first in file order, null if there is none.
+  DesignerBlockRef ControlOf(const std::string& name, long index);
   // Whether [block] still stands in the tree.
   bool Holds(const DesignerBlock& block);
 
@@ -37,8 +43,8 @@ class DesignerState : public std::enable_shared_from_this<DesignerState> {
   void RequireEditable();
   // After an edit of lines; tells the owner.
   void Edited();
-  // After an edit of which controls there are.
-  void ControlsChanged() { controls_valid_ = false; }
+  // After an edit of which controls there are, or of what they are called.
+  void ControlsChanged() { controls_valid_ = names_valid_ = false; }
   bool IsDirty() const { return dirty_; }
   void SetClean();
 
@@ -71,7 +77,8 @@ class DesignerState : public std::enable_shared_from_this<DesignerState> {
   DesignerOwner* owner_;
   std::unique_ptr<DesignerPart> part_;
   std::vector<DesignerBlockRef> controls_;
-  bool controls_valid_ = false, dirty_ = false, edited_ = false, checked_ = false;
+  std::map<std::pair<std::string, long>, DesignerBlockRef> controls_by_name_;  // upper-cased, kNoElement or the index
+  bool controls_valid_ = false, names_valid_ = false, dirty_ = false, edited_ = false, checked_ = false;
   std::vector<DesignerProblem> problems_;
   std::map<std::string, Sibling> siblings_;  // by upper-cased name
 };

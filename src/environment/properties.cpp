@@ -265,6 +265,7 @@ void ListedProperty::SetIndex(const Variant& value) {
       index < 0 ? RemoveLine(block, "Index") : SetLine(place_.Part(), block, "Index", runtime::CStr(index));
   if (!changed) return;
   FollowOnTabPage(place_.Part(), block, on_page);
+  place_.state->ControlsChanged();
   place_.state->Edited();
 }
 

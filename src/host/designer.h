@@ -56,6 +56,9 @@ class VBControl : public runtime::Object {
 // All controls of a designer, nested ones and menus too, in the order of its file.
 class VBControls : public Collection<VBControl> {
  public:
+  using Collection<VBControl>::Item;
+  // The element [index] of the control array [name]. Error 9 where there is none.
+  virtual Ref<VBControl> Item(const std::string& name, long index) = 0;
   // [prog_id] is "VB.Label" or "Label"; [container] may be Nothing. A new control gets the first free name of its kind.
   virtual Ref<VBControl> Add(const std::string& prog_id, const Ref<VBControl>& container) = 0;
   virtual void Remove(const Ref<VBControl>& control) = 0;

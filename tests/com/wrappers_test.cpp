@@ -75,6 +75,8 @@ TEST_F(Wrappers, CollectionsAreReadByCountAndItem) {
   ExpectObject<host::CodePane>("get item(1)", "Item", [&] { return As<host::CodePanes>()->Item(1L); });
   ExpectObject<host::Window>("get item(\"Immediate\")", "Item", [&] { return As<host::Windows>()->Item("Immediate"); });
   ExpectObject<host::VBControl>("get item(1)", "Item", [&] { return As<host::VBControls>()->Item(1L); });
+  ExpectObject<host::VBControl>("get item(\"optKind\", 0)", "Item",
+                                [&] { return As<host::VBControls>()->Item("optKind", 0); });
   ExpectObject<host::VBControl>("get item(1)", "Item", [&] { return As<host::SelectedVBControls>()->Item(1L); });
   ExpectObject<host::Property>("get item(\"Caption\")", "Item",
                                [&] { return As<host::Properties>()->Item("Caption"); });

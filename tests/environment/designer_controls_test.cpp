@@ -36,6 +36,35 @@ TEST(VBControls, AControlIsFoundByPositionOrName) {
     EXPECT_EQ(ErrorOf([&] { open.Control(missing); }), 9);
 }
 
+TEST(VBControls, AnElementOfAControlArrayIsFoundByNameAndIndex) {
+  OpenDesigner open(kStockForm);
+  const auto caption = [&](const std::string& name, long index) {
+    return ToText(open.Controls()->Item(name, index)->Properties()->Item("Caption")->Value());
+  };
+  EXPECT_EQ(caption("optKind", 0), "A");
+  EXPECT_EQ(caption("OPTKIND", 1), "B");
+  EXPECT_EQ(ToText(open.Of("optKind", "Caption")->Value()), "B") << "the first in the file";
+  for (const auto& [name, index] : {std::pair("optKind", 2L), {"optKind", -1L}, {"txtNote", 0L}, {"txtNote", -1L}})
+    EXPECT_EQ(ErrorOf([&] { open.Controls()->Item(name, index); }), 9) << name << " " << index;
+  EXPECT_EQ(ErrorOf([&] { open.Control("optKind(1)"); }), 9);
+}
+
+TEST(VBControls, AnElementIsFoundByTheNameAndIndexThatItHasNow) {
+  OpenDesigner open(kStockForm);
+  const auto controls = open.Controls();
+  const auto element = controls->Item("optKind", 1);
+  element->Properties()->Item("Index")->SetValue(7L);
+  EXPECT_EQ(ErrorOf([&] { controls->Item("optKind", 1); }), 9);
+  element->Properties()->Item("Name")->SetValue(std::string("optOther"));
+  EXPECT_EQ(ErrorOf([&] { controls->Item("optKind", 7); }), 9);
+  EXPECT_EQ(ToText(controls->Item("optOther", 7)->Properties()->Item("Caption")->Value()), "B");
+  element->Properties()->Item("Index")->SetValue(Variant());
+  EXPECT_EQ(ErrorOf([&] { controls->Item("optOther", 7); }), 9);
+  EXPECT_TRUE(controls->Item("optOther"));
+  controls->Remove(element);
+  EXPECT_EQ(ErrorOf([&] { controls->Item("optOther"); }), 9);
+}
+
 TEST(VBControls, AContainerIsNothingOnTheFormItself) {
   OpenDesigner open(kStockForm);
   EXPECT_FALSE(open.Control("fraKind")->ControlObject()->Container());

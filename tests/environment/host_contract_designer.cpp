@@ -88,6 +88,21 @@ TEST_P(HostDesignerContract, ControlsStandInContainersAndInOneFlatList) {
   EXPECT_EQ(controls->Count(), 0);
 }
 
+TEST_P(HostDesignerContract, AnElementOfAControlArrayIsFoundByNameAndIndex) {
+  const auto controls = NewForm()->Designer()->VBControls();
+  for (const long index : {3L, 0L}) {
+    const auto label = controls->Add("VB.Label", nullptr);
+    Of(label, "Caption")->SetValue(std::to_string(index));
+    Of(label, "Index")->SetValue(index);
+    Of(label, "Name")->SetValue(std::string("lblKind"));
+  }
+  controls->Add("VB.Label", nullptr);
+  for (const long index : {3L, 0L})
+    EXPECT_EQ(runtime::ToText(Of(controls->Item("lblKind", index), "Caption")->Value()), std::to_string(index));
+  EXPECT_EQ(ErrorOf([&] { controls->Item("lblKind", 1); }), 9);
+  EXPECT_EQ(ErrorOf([&] { controls->Item("Label1", 0); }), 9);
+}
+
 TEST_P(HostDesignerContract, MenusAndTheirSubmenusAreControlsToo) {
   const auto controls = NewForm()->Designer()->VBControls();
   const auto file = controls->Add("VB.Menu", nullptr);

@@ -112,12 +112,18 @@ inline Member Method(const char* name, DISPID id, Handler method, int required =
   return {name, id, required, allowed < 0 ? required : allowed, nullptr, method, nullptr};
 }
 
+// How a collection's Item is called: with a place, and further arguments where it takes any.
+struct ItemCall {
+  Handler item;
+  long allowed = 1;
+};
+
 // What every collection has.
 template <class Collection>
-std::vector<Member> CollectionMembers(DISPID count, std::vector<Member> more = {}) {
+std::vector<Member> CollectionMembers(DISPID count, std::vector<Member> more = {},
+                                      ItemCall call = {kForward<Collection, &Collection::Item>}) {
   std::vector<Member> members = {
-      {"Item", DISPID_VALUE, 1, 1, kForward<Collection, &Collection::Item>, kForward<Collection, &Collection::Item>,
-       nullptr},
+      {"Item", DISPID_VALUE, 1, call.allowed, call.item, call.item, nullptr},
       Get("Count", count, kForward<Collection, &Collection::Count>),
       {"_NewEnum", DISPID_NEWENUM, 0, 0, &Enumerate<Collection>, &Enumerate<Collection>, nullptr},
   };

@@ -24,6 +24,16 @@ const ObjectTable& TableOf<VBForm>() {
   return table;
 }
 
+namespace {
+
+// Item(VarIndex, [ControlIndex])
+void ControlItem(Call& call) {
+  auto& controls = call.Target<VBControls>();
+  call.Return(call.Has(1) ? controls.Item(call.Text(0), call.Number(1)) : controls.Item(call.Place(0)));
+}
+
+}  // namespace
+
 template <>
 const ObjectTable& TableOf<VBControls>() {
   static const ObjectTable table = {
@@ -33,7 +43,8 @@ const ObjectTable& TableOf<VBControls>() {
                                         // Add(ProgId, [RelativeVBControl], [Before])
                                         Method("Add", 0x2a, kForward<VBControls, &VBControls::Add>, 1, 3),
                                         Method("Remove", 0x2b, kForward<VBControls, &VBControls::Remove>, 1),
-                                    }),
+                                    },
+                                    {&ControlItem, 2}),
       true};
   return table;
 }
