@@ -51,14 +51,27 @@ class WrappedControlObject : public host::ControlObject, public Wrapped {
   }
 
  private:
-  // A control that is running in its designer: the one of its name among the designer's own. A form is none of them.
+  // A control that is running in its designer: the one of its name, and of its index in an array, among the designer's
+  // own. A form is none of them.
   host::Ref<host::VBControl> OfName(Dispatch running) {
     host::Ref<host::VBControl> found;
     host::PassOverErrors([&] {
       Dispatch all(control_.Get(L"Collection").ToObject());
-      if (all.Object()) found = Wrap<host::VBControl>(all.Get(L"Item", running.Get(L"Name")));
+      if (!all.Object()) return;
+      const com::Value name = running.Get(L"Name");
+      const long index = IndexOf(running);
+      found = Wrap<host::VBControl>(index < 0 ? all.Get(L"Item", name) : all.Get(L"Item", name, index));
     });
     return found;
+  }
+  // Below nought for a control of no array, which fails to tell any.
+  static long IndexOf(Dispatch& running) {
+    long index = -1;
+    host::PassOverErrors([&] {
+      const com::Value told = running.Get(L"Index");
+      if (told.Get().vt != VT_EMPTY) index = told.ToLong();
+    });
+    return index;
   }
   Dispatch control_;
 };

@@ -235,6 +235,42 @@ TEST_F(Wrappers, AContainerIsTheControlThatHoldsIt) {
   EXPECT_FALSE(As<host::VBControl>()->ControlObject()->Container());
 }
 
+TEST_F(Wrappers, ARunningContainerInAControlArrayIsFoundByItsIndexToo) {
+  auto live = New("live"), frame = New("running frame"), all = New("controls"), found = New("Frame1");
+  object_->Answer("ControlObject", live);
+  object_->Answer("Collection", all);
+  live->Answer("Container", frame);
+  frame->Answer("Name", std::string("Frame1"));
+  frame->Answer("Index", 1L);
+  found->Answer("ClassName", std::string("Frame"));
+  all->Answer("Item", found);
+  EXPECT_EQ(As<host::VBControl>()->ControlObject()->Container()->ClassName(), "Frame");
+  EXPECT_EQ(TakeCalls(),
+            "get controlobject(); get container(); get collection(); get name(); get index(); "
+            "get item(\"Frame1\", 1); get classname()");
+}
+
+// A control of no array has no Index to tell, or one below nought.
+TEST_F(Wrappers, ARunningContainerOfNoArrayIsFoundByItsNameAlone) {
+  auto live = New("live"), frame = New("running frame"), all = New("controls"), found = New("Frame1");
+  object_->Answer("ControlObject", live);
+  object_->Answer("Collection", all);
+  live->Answer("Container", frame);
+  frame->Answer("Name", std::string("Frame1"));
+  found->Answer("ClassName", std::string("Frame"));
+  all->Answer("Item", found);
+  const std::string calls =
+      "get controlobject(); get container(); get collection(); get name(); get index(); "
+      "get item(\"Frame1\"); get classname()";
+  for (const auto& without_index :
+       std::vector<std::function<void()>>{[&] { frame->Fail("Index", 343); }, [&] { frame->Answer("Index", -1L); },
+                                          [&] { frame->Answer("Index", Value()); }}) {
+    without_index();
+    EXPECT_EQ(As<host::VBControl>()->ControlObject()->Container()->ClassName(), "Frame");
+    EXPECT_EQ(TakeCalls(), calls);
+  }
+}
+
 // A running control has a name alone; the form is no control of its own designer.
 TEST_F(Wrappers, ARunningContainerIsFoundByItsName) {
   auto live = New("live"), frame = New("running frame"), all = New("controls"), found = New("Frame1");
