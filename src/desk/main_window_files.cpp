@@ -87,7 +87,8 @@ bool MainWindow::AskForFile(Module& module) {
       QString::fromStdString(environment::NativePath(folder)) + ToLabel(module.Name()) + ExtensionOf(module.Type());
   const QString chosen = QFileDialog::getSaveFileName(this, tr("Save %1 As").arg(ToLabel(module.Name())), proposal);
   if (chosen.isEmpty()) return false;
-  module.SaveAs(environment::WindowsPath(chosen.toStdString()));
+  // The dialog has asked whether a file that is there may be replaced.
+  project->SaveAs(module, environment::WindowsPath(chosen.toStdString()), environment::FileInTheWay::Replace);
   return true;
 }
 

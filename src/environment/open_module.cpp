@@ -121,7 +121,7 @@ std::string OpenModule::FileNames(long index) {
 void OpenModule::SaveAs(const std::string& path) {
   auto project = project_.lock();
   if (!project) throw host::Error(runtime::kObjectNotSet);
-  project->SaveAs(*this, path);
+  project->SaveAs(*this, path, FileInTheWay::Refuse);
 }
 
 host::Ref<host::VBE> OpenModule::VBE() {

@@ -35,6 +35,7 @@ class OpenProject : public Project, public std::enable_shared_from_this<OpenProj
   std::string WriteToText() const override { return file_.Write(); }
   void Save(Module& module, OnDiskChange rule) override;
   bool ChangedOnDisk() const override;
+  void SaveAs(Module& module, const std::string& path, FileInTheWay rule) override;
   void SaveProjectFile(OnDiskChange rule) override;
 
   const std::string& PathAsRead() const { return path_; }  // names of this machine in UTF-8
@@ -50,7 +51,6 @@ class OpenProject : public Project, public std::enable_shared_from_this<OpenProj
   OpenModule::Source ReadFileAgain(OpenModule& module) const;
   void RequireFreeName(const std::string& name, const OpenModule* but) const;  // Error 32813
   void WasRenamed(OpenModule& module, const std::string& old_name);
-  void SaveAs(OpenModule& module, const std::string& path);
   // Whether [path] is that of the project or of a file of its modules, [but] left out; of modules that were not read
   // too.
   bool UsesFile(const std::string& path, const OpenModule* but) const;

@@ -19,6 +19,11 @@ void RequireUnchanged(bool changed) {
   if (changed) throw host::Error(runtime::kPermissionDenied, "changed on disk since it was read");
 }
 
+void RequireNoFile(host::Files& files, const std::string& path) {
+  if (files.Attributes(path) != host::kNoSuchFile)
+    throw host::Error(runtime::kFileAlreadyExists, runtime::DescriptionOf(runtime::kFileAlreadyExists) + ": " + path);
+}
+
 }  // namespace
 
 // The binary files first: they only grow, so that the old text stays right whatever happens in between.
@@ -76,9 +81,11 @@ void OpenProject::RequireFreeFiles(const OpenModule& module, const std::string& 
   RequireUnchanged(keeps_path && module.ChangedOnDisk());
 }
 
-void OpenProject::SaveAs(OpenModule& module, const std::string& path) {
+void OpenProject::SaveAs(Module& of, const std::string& path, FileInTheWay rule) {
+  auto& module = dynamic_cast<OpenModule&>(of);
   std::string whole = WholePath(path);
   RequireFreeFiles(module, whole);
+  if (rule == FileInTheWay::Refuse && !SamePath(whole, module.Path())) RequireNoFile(Environment().FilesInUse(), whole);
   if (!HasCode(module.Type())) throw host::Error(runtime::kNoSuchMember);
   module.RequireOwnSibling(whole);
   std::string old_sibling = module.MoveSibling(whole);

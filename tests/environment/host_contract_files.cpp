@@ -87,6 +87,15 @@ TEST_P(HostContract, WhatSaveAsWroteCanBeAdded) {
   EXPECT_EQ(All(*added->CodeModule()), "Sub A()|  x = 1|End Sub");
 }
 
+TEST_P(HostContract, SaveAsTakesTheComponentsOwnPathAndNoFileOfAnother) {
+  const auto main = Open({{"Main", false, "one"}})->ActiveVBProject()->VBComponents()->Item("Main");
+  const std::string theirs = fixture_->PutFile("theirs.bas", "theirs\r\n"), own = fixture_->PathOf("Copy.bas");
+  EXPECT_EQ(ErrorOf([&] { main->SaveAs(theirs); }), 58);
+  main->SaveAs(own);
+  main->SaveAs(own);
+  EXPECT_EQ(main->FileNames(1), own);
+}
+
 TEST_P(HostContract, AnAddedFileIsOfTheKindOfItsExtension) {
   const auto components = Open({{"Main", false, ""}})->ActiveVBProject()->VBComponents();
   const std::string path = fixture_->PutFile("tools.bas", "Attribute VB_Name = \"Tools\"\r\nSub T()\r\nEnd Sub\r\n");

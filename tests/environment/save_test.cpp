@@ -112,6 +112,41 @@ TEST_F(Saving, SaveAsMakesThePathTheFileOfTheComponent) {
   EXPECT_EQ(ErrorOf([&] { Components()->Item("Thing")->SaveAs("C:\\P\\Main.bas"); }), 58);
 }
 
+TEST_F(Saving, SaveAsLeavesAFileOfSomebodyElseAlone) {
+  opened_.Put("Theirs.bas", "theirs|");
+  for (const char* path : {"theirs.BAS", "C:\\P\\Theirs.bas"})
+    EXPECT_EQ(ReasonOfFailure([&] { opened_.At(0)->SaveAs(path); }),
+              std::string("File already exists: C:\\P\\") + (path[0] == 't' ? path : "Theirs.bas"));
+  EXPECT_EQ(ErrorOf([&] { opened_.At(0)->SaveAs("theirs.bas"); }), 58);
+  EXPECT_EQ(opened_.Disk("Theirs.bas"), Text("theirs|"));
+  EXPECT_EQ(opened_.At(0)->Path(), "C:\\P\\Main.bas");
+  EXPECT_EQ(opened_.files.writes, 0);
+  auto added = Components()->Add(host::ComponentType::StdModule);
+  EXPECT_EQ(ErrorOf([&] { added->SaveAs("Theirs.bas"); }), 58) << "never saved";
+  EXPECT_EQ(added->FileNames(1), "");
+}
+
+// What an action that clones a component does: its own path is its own, and still is once it was brought back.
+TEST_F(Saving, AClonedComponentTakesItsOwnPathAndThenANewOne) {
+  const auto thing = Components()->Item("Thing");
+  const std::string file = thing->FileNames(1);
+  thing->SaveAs(file);
+  thing->Properties()->Item("Name")->SetValue(std::string("Other"));
+  thing->SaveAs("C:\\P\\Other.cls");
+  const auto again = Components()->AddFile(file);
+  again->SaveAs(file);
+  EXPECT_EQ(again->Name() + " " + again->FileNames(1), "Thing C:\\P\\Thing.cls");
+  EXPECT_EQ(thing->Name() + " " + thing->FileNames(1), "Other C:\\P\\Other.cls");
+}
+
+TEST_F(Saving, AFileInTheWayIsReplacedWhereTheUserSaidSo) {
+  opened_.Put("Theirs.bas", "theirs|");
+  opened_.Project()->SaveAs(*opened_.At(0), "C:\\P\\Theirs.bas", FileInTheWay::Replace);
+  EXPECT_EQ(opened_.Disk("Theirs.bas"), opened_.Disk("Main.bas"));
+  for (const char* open : {"Thing.cls", "P.vbp"})
+    EXPECT_EQ(ErrorOf([&] { opened_.Project()->SaveAs(*opened_.At(0), open, FileInTheWay::Replace); }), 58) << open;
+}
+
 TEST_F(Saving, AProjectFileIsNoPlaceForAComponent) {
   EXPECT_EQ(ErrorOf([&] { Components()->Item("Thing")->SaveAs("p.VBP"); }), 58);
 }
