@@ -46,6 +46,10 @@ void MemoryFiles::FailWrites(const std::string& path, long error) {
   write_errors_[KeyOf(path)] = error;
 }
 
+void MemoryFiles::SetReadOnly(const std::string& path, bool value) {
+  if (File* file = Find(path)) file->read_only = value;
+}
+
 MemoryFiles::File* MemoryFiles::Find(const std::string& path) {
   auto found = files_.find(KeyOf(path));
   return found == files_.end() ? nullptr : &found->second;
@@ -64,6 +68,7 @@ void MemoryFiles::Write(const std::string& path, std::string_view bytes) {
     throw runtime::Error(fault->second);
   File* file = Find(path);
   if (file != nullptr && file->folder) throw runtime::Error(runtime::kPathFileAccessError);
+  if (file != nullptr && file->read_only) throw runtime::Error(runtime::kPermissionDenied);
   std::string kept_spelling = file == nullptr ? path : file->path;
   Put(kept_spelling, std::string(bytes));
   ++writes;
@@ -72,7 +77,7 @@ void MemoryFiles::Write(const std::string& path, std::string_view bytes) {
 uint32_t MemoryFiles::Attributes(const std::string& path) {
   File* file = Find(WithoutEndingSlash(path));
   if (file == nullptr) return host::kNoSuchFile;
-  return file->folder ? uint32_t{host::kDirectory} : 0;
+  return (file->folder ? uint32_t{host::kDirectory} : 0) | (file->read_only ? uint32_t{host::kReadOnly} : 0);
 }
 
 host::FileStamp MemoryFiles::Stamp(const std::string& path) {

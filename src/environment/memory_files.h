@@ -16,9 +16,10 @@ class MemoryFiles : public host::Files {
   void Put(const std::string& path, std::string bytes);
   void Remove(const std::string& path);
   void MakeFolder(const std::string& path);
-  void FailReads(const std::string& path, long error);   // 0 heals it
-  void FailWrites(const std::string& path, long error);  // as a full disk (61) or a read-only folder (70) would
-  long writes = 0;                                       // files written since the start
+  void FailReads(const std::string& path, long error);    // 0 heals it
+  void FailWrites(const std::string& path, long error);   // as a full disk (61) or a read-only folder (70) would
+  void SetReadOnly(const std::string& path, bool value);  // of a file that is there; writing it is Error 70
+  long writes = 0;                                        // files written since the start
 
   std::string Read(const std::string& path) override;
   void Write(const std::string& path, std::string_view bytes) override;
@@ -30,7 +31,7 @@ class MemoryFiles : public host::Files {
   struct File {
     std::string path, bytes;
     int64_t modified = 0;
-    bool folder = false;
+    bool folder = false, read_only = false;
     long read_error = 0;
   };
   File* Find(const std::string& path);
