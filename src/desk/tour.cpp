@@ -15,6 +15,7 @@
 #include "explorer/frm_about.h"
 #include "explorer/frm_add_in.h"
 #include "explorer/rows.h"
+#include "workshop/frm_result.h"
 
 namespace corvane::desk {
 
@@ -84,6 +85,19 @@ bool KeepAbout(Desk& desk, const QString& folder, const QString& suffix, std::os
   about.cmdSysInfo.UserClick();
   kept &= Keep(desk.Toolkit().WindowOf(about), folder, "about-read-me" + suffix, out);
   about.Unload();
+  return kept;
+}
+
+// The window in which the comment of a procedure is edited, as the explorer opens it.
+bool KeepComment(Desk& desk, const QString& folder, const QString& suffix, std::ostream& out) {
+  workshop::frmResult result(desk.Toolkit());
+  bool kept = false;
+  QTimer::singleShot(0, [&] {
+    kept = Keep(desk.Toolkit().WindowOf(result), folder, "comment" + suffix, out);
+    result.CancelButton.UserClick();
+  });
+  result.DisplayRes(" Reads what people write: \"a3/11\", \"A 3 11\", \"a-3-11\".\r\n False if it is no bin.\r\n",
+                    "Type comments for a Procedure", "Comments for a Procedure");
   return kept;
 }
 
@@ -168,6 +182,7 @@ bool TakeScreenshots(Desk& desk, const QString& folder, const QString& suffix, s
       if (form->lbxComp->List(row) == explorer::kProjectGlobals) form->lbxComp->UserSelect(row);
     keep(desk.ExplorerWindow(), "explorer-globals");
     all &= KeepAbout(desk, folder, suffix, out);
+    all &= KeepComment(desk, folder, suffix, out);
   } else {
     all = false;
   }

@@ -19,17 +19,19 @@ const std::map<std::string, Rooms> kMayInclude = {
     {"forms", {"runtime"}},
     {"codelist", {"runtime", "host", "forms"}},
     {"script", {"runtime", "host"}},
-    {"explorer", {"runtime", "host", "forms", "codelist"}},
-    {"addin", {"runtime", "host", "forms", "codelist", "explorer"}},
+    {"workshop", {"runtime", "host", "forms", "codelist"}},
+    {"explorer", {"runtime", "host", "forms", "codelist", "workshop"}},
+    {"addin", {"runtime", "host", "forms", "codelist", "workshop", "explorer"}},
     {"environment", {"runtime", "host"}},
-    {"cli", {"runtime", "host", "forms", "codelist", "script", "explorer", "environment"}},
+    {"cli", {"runtime", "host", "forms", "codelist", "script", "workshop", "explorer", "environment"}},
     {"toolkit_qt", {"runtime", "forms"}},
     {"toolkit_win32", {"runtime", "host", "forms"}},
-    {"com", {"runtime", "host", "forms", "codelist", "script", "explorer", "addin", "toolkit_win32"}},
-    {"desk", {"runtime", "host", "forms", "codelist", "explorer", "addin", "environment", "cli", "toolkit_qt"}},
+    {"com", {"runtime", "host", "forms", "codelist", "script", "workshop", "explorer", "addin", "toolkit_win32"}},
+    {"desk",
+     {"runtime", "host", "forms", "codelist", "workshop", "explorer", "addin", "environment", "cli", "toolkit_qt"}},
 };
 
-const Rooms kLogic = {"runtime", "host", "forms", "codelist", "script", "explorer", "addin", "environment"};
+const Rooms kLogic = {"runtime", "host", "forms", "codelist", "script", "workshop", "explorer", "addin", "environment"};
 
 TEST(Rooms, EachIsInTheTableOfWhoMayIncludeWhom) {
   for (const auto& room : Folders("src")) EXPECT_TRUE(kMayInclude.contains(room)) << "src/" << room;
