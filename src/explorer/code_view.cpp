@@ -26,6 +26,7 @@ bool IsCommentOrBlank(const std::string& row) {
 void frmAddIn::lbxProc_Click() {
   if (busy) return;
   savedPosition = 0;
+  firstLineShown = 0;
   navigating ? RestoreHistoryPoint() : ResetHistoryButtons();
   long index = ComponentOfRow();
   if (index < 1) return;
@@ -77,7 +78,7 @@ Ref<host::VBComponent> frmAddIn::ComponentAt(const std::string& row, long index)
 void frmAddIn::ShowDeclarations(host::CodeModule& module) {
   long lines = module.CountOfDeclarationLines();
   std::string text = lines > 0 ? module.Lines(1, lines) : std::string();
-  textOffset = 1;
+  textOffset = firstLineShown = 1;
   txtCode.Clear();
   lblSub.SetCaption(LTrim(kDeclarations));
   ShowRaw(text);
@@ -97,6 +98,7 @@ bool frmAddIn::ShowProcedure(host::CodeModule& module, long line) {
     --body;
     textOffset = 1;
   }
+  firstLineShown = body;
   long count = module.ProcCountLines(name, kind);
   std::string text = module.Lines(body, count >= kFewestLines ? count + kLinesBehind : kUnknownLines);
   lblSub.SetCaption(Trim(module.Lines(body, 1)));
@@ -108,6 +110,7 @@ void frmAddIn::ShowBlock(host::CodeModule& module, long line, const std::string&
   long start = line;
   if (line > 1) start = line >= kBlockFrom ? line - kBlockHead : 1;
   std::string text = module.Lines(start, kBlockLines);
+  firstLineShown = start;
   textOffset = line - start + 1;
   lblSub.SetCaption(title);
   ShowCode(text, false, true);

@@ -43,20 +43,6 @@ Bounds BoundsFor(host::CodeModule& module, long line, std::string_view text, std
   return bounds;
 }
 
-// The code in a row: behind a label and a number column of three digits, in front of the tail.
-std::string CodeOfRow(std::string_view text) {
-  std::string needle = Trim(text);
-  if (long mark = InStr(needle, kLabelEnd); mark > 0) {
-    std::string rest = Mid(needle, mark + 5);
-    if (Mid(rest, 4, 3) == "   ")
-      needle = Mid(rest, 7);
-    else if (long blank = InStr(needle, " "); blank > mark)
-      needle = rest;
-  }
-  if (long tail = InStr(needle, Space(10) + kTailMark); tail > 0) needle = Left(needle, tail - 1);
-  return Trim(needle);
-}
-
 bool EndsProcedure(const std::string& line) {
   std::string code = UCase(line.substr(0, line.find('\'')));
   return Holds(code, "END SUB") || Holds(code, "END FUNCTION") || Holds(code, "END PROPERTY");
@@ -84,6 +70,19 @@ long SearchBackward(host::CodeModule& module, long line, long count, const std::
 }
 
 }  // namespace
+
+std::string CodeOfRow(std::string_view text) {
+  std::string needle = Trim(text);
+  if (long mark = InStr(needle, kLabelEnd); mark > 0) {
+    std::string rest = Mid(needle, mark + 5);
+    if (Mid(rest, 4, 3) == "   ")
+      needle = Mid(rest, 7);
+    else if (long blank = InStr(needle, " "); blank > mark)
+      needle = rest;
+  }
+  if (long tail = InStr(needle, Space(10) + kTailMark); tail > 0) needle = Left(needle, tail - 1);
+  return Trim(needle);
+}
 
 long FindLineNear(host::CodeModule& module, long line, std::string_view text, std::string_view title) {
   Bounds bounds;

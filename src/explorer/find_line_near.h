@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "host/code_module.h"
@@ -12,5 +13,8 @@ namespace corvane::explorer {
 // each way. Otherwise a text that is no header is looked for inside the procedure of the line and within ten lines; one
 // whose header is the title inside that procedure.
 long FindLineNear(host::CodeModule& module, long line, std::string_view text, std::string_view title);
+
+// The code in a row: behind a label and a number column of three digits, in front of the tail; trimmed.
+std::string CodeOfRow(std::string_view text);
 
 }  // namespace corvane::explorer

@@ -5,6 +5,7 @@
 // Any routine that fills a list sets `busy` first and clears it last: handlers may run during DoEvents.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "codelist/cv_button.h"
@@ -15,6 +16,7 @@
 #include "explorer/list_snapshots.h"
 #include "explorer/procedure_scan.h"
 #include "explorer/rows.h"
+#include "explorer/tool_windows.h"
 #include "forms/controls.h"
 #include "host/services.h"
 #include "host/vbe.h"
@@ -23,6 +25,9 @@ namespace corvane::explorer {
 
 struct SoughtWord;
 struct Tool;
+
+// What is done with the current component.
+enum class ComponentAct { AddToFavorites = 1, Clone = 2, Copy = 3, Paste = 4, Map = 5 };
 
 class frmAddIn : public forms::Form {
  public:
@@ -97,6 +102,20 @@ class frmAddIn : public forms::Form {
   // goes there in the environment, to the start of the procedure with toProcStart.
   long GoToCode();
 
+  // tools.cpp
+  void SetTools(ToolWindows windows);
+
+  // component_action.cpp
+  void ComponentAction(ComponentAct action);
+
+  // replace_line.cpp: puts [text] into the module in place of what [row] of the code view shows.
+  void ReplaceCodeLine(long row, const std::string& text);
+
+  // run_wizard.cpp: requires a library. A [key] of less than two characters asks for the wizard.
+  void RunWizard(const std::string& key);
+
+  std::string copiedDesigner;  // what "aPaste" pastes: a copied designer, or a menu that a wizard left
+
   bool goMode = false, toProcStart = false;
   bool designerFromRow = false;  // the next click on cmGo takes the component from the procedure row
   std::string pendingComponent;  // name of a component to choose at the next choice
@@ -164,6 +183,47 @@ class frmAddIn : public forms::Form {
   void OpenProcedureMenu(forms::Twips x, forms::Twips y);
   void mnuSearch_Click();
   void mnuGoDesign_Click();
+
+  // tools.cpp
+  bool CanCopy() const;
+  bool CanPaste() const;
+  bool CanDeclare() const;
+  bool CanNote() const;
+  bool CanMap() const;
+  bool HasLibrary() const;
+  void CopyProperties();
+  void PasteProperties();
+  void ShowMap();
+  void ShowNotes();
+  long ComponentOfPane();
+
+  // component_action.cpp
+  std::optional<std::string> CurrentComponentName(ComponentAct action);
+  std::optional<std::string> NameOfResultAbove() const;
+
+  // clone_component.cpp
+  void CloneCurrent();
+  void CloneComponent(host::VBComponent& component, const std::string& name);
+  bool IsReadOnly(const std::string& file);
+  void SayNotCloned(const std::string& message);
+  void SayWhyNotCloned(const host::Error& error);
+
+  // replace_line.cpp
+  host::Ref<host::CodeModule> ModuleUnderTitle(long row, long& line);
+  host::Ref<host::CodeModule> ModuleInView(long row, long& line);
+  void SayChangedBefore();
+
+  // procedure_comment.cpp
+  void mnuComnt_Click();
+  void CommentProcedure();
+  void RunInCommentMode();
+  void CommentAt(host::CodeModule& module, long line);
+  long HeaderFor(host::CodeModule& module, long line);
+
+  // run_wizard.cpp
+  bool KeepMenu(const std::string& result);
+  void StartWizard();
+  void OpenWorkshop();
 
   // windows_of_environment.cpp
   void CloseOtherWindows();
@@ -309,6 +369,8 @@ class frmAddIn : public forms::Form {
   void cmGo_Click();
   std::string DesignerName();
   bool OpenDesigner(const std::string& name);
+  void SayNoDesigner();
+  void SayTitleChosen();
 
   host::Services& services;
 
@@ -331,15 +393,22 @@ class frmAddIn : public forms::Form {
   long fills = 0;              // listings begun: one that finds another number behind a yield ends there
   bool proceduresHadFocus = false;
 
+  ToolWindows tools;
+  bool commentMode = false;      // the comment of a procedure is read or written
+  std::string commentText;       // on the way in the present one, on the way out the new one; character 2: to be read
+  std::string collectedComment;  // the present one
+  long commentLines = 0;         // of the present one, up to the header
+
   int pair = 0;
   long pairLine[kPairs] = {};
   bool pairProj[kPairs] = {true, true}, pairCurMod[kPairs] = {};
 
-  long textOffset = 1;     // row on which the text about to be loaded must stand
-  long savedPosition = 0;  // the same, from a history step; 0: none
-  long textsDone = 0;      // texts that were loaded to their end
-  long firstCodeRow = 1;   // row of the first real line of the text shown
-  forms::Rect codePlace;   // of the code view before it was maximised
+  long textOffset = 1;      // row on which the text about to be loaded must stand
+  long savedPosition = 0;   // the same, from a history step; 0: none
+  long textsDone = 0;       // texts that were loaded to their end
+  long firstCodeRow = 1;    // row of the first real line of the text shown
+  long firstLineShown = 0;  // line of the module that the first row shows; 0: none in particular
+  forms::Rect codePlace;    // of the code view before it was maximised
 };
 
 }  // namespace corvane::explorer

@@ -25,12 +25,15 @@ long frmAddIn::GoToCode() {
   bool going = std::exchange(goMode, false);
   bool globals = IsGlobalsText();
   if (globals && IsTitleOfModule(txtCode.List(txtCode.ListIndex()))) {
-    if (going) services.Prompts.MsgBox(kTitleChosen);
+    if (going) SayTitleChosen();
     return 0;
   }
   long index = 0, line = 0;
   Ref<host::CodeModule> module = globals ? ModuleOfTitleAbove(index, line) : ModuleOfRow(index, line);
-  if (going && module) GoTo(*module, line);
+  if (module && commentMode)
+    CommentAt(*module, line);
+  else if (going && module)
+    GoTo(*module, line);
   return index;
 }
 
@@ -86,7 +89,15 @@ void frmAddIn::cmGo_Click() {
   designerFromRow = false;
   bool opened = false;
   if (!name.empty()) PassOverErrors([&] { opened = OpenDesigner(name); });
-  if (!opened) services.Prompts.MsgBox(kNoDesigner);
+  if (!opened) SayNoDesigner();
+}
+
+void frmAddIn::SayNoDesigner() {
+  services.Prompts.MsgBox(kNoDesigner);
+}
+
+void frmAddIn::SayTitleChosen() {
+  services.Prompts.MsgBox(kTitleChosen);
 }
 
 // The chosen component; in the lists of the whole project that which the procedure row names in front of its colon.

@@ -13,7 +13,7 @@ class MenuTable {
       {&F::mnuSearch, "Search Procedure", &F::mnuSearch_Click},
       {&F::mnuSearchMod, "Search CodeModule", nullptr},
       {&F::mnuGoDesign, "Goto Designer", &F::mnuGoDesign_Click},
-      {&F::mnuComnt, "Comment Procedure", nullptr},
+      {&F::mnuComnt, "Comment Procedure", &F::mnuComnt_Click},
       {&F::mnuCop, "Copy into ClipBoard", nullptr, nullptr, true},
       {&F::mnuCopy, "Copy Procedure", nullptr},
       {&F::mnuCopyAdd, "Add Procedure", nullptr},

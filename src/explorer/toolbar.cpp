@@ -27,15 +27,15 @@ class ToolTable {
       {"CloseWnd", "Close All Windows except current", "close-windows", &F::CloseOtherWindows},
       {"Find", "Searching in Designers", "search", nullptr},
       {},
-      {"Actions", "Additional Actions", "clone", nullptr, nullptr, true},
-      {"aCopy", "Copy Component Properties", "copy", nullptr},
-      {"aPaste", "Paste Component Properties", "paste", nullptr},
+      {"Actions", "Additional Actions", "clone", &F::CloneCurrent, nullptr, true},
+      {"aCopy", "Copy Component Properties", "copy", &F::CopyProperties, &F::CanCopy},
+      {"aPaste", "Paste Component Properties", "paste", &F::PasteProperties, &F::CanPaste},
       {},
       {"Pen", "Quick Declare of Variables or Procedure", "pen", nullptr},
-      {"Note", "Project Notes", "note", nullptr},
-      {"Map", "Dependencies and Project Map", "map", nullptr},
+      {"Note", "Project Notes", "note", &F::ShowNotes, &F::CanNote},
+      {"Map", "Dependencies and Project Map", "map", &F::ShowMap, &F::CanMap},
       {},
-      {"Start", "Start Template", "start", nullptr, nullptr, true},
+      {"Start", "Start Template", "start", &F::StartWizard, &F::HasLibrary, true},
       {"About", "About Developer", "about", &F::ShowAbout},
       {"pImmed", "Clear Immediate window", "immediate", &F::ClearImmediate},
       {"pExit", "Exit from Corvane", "exit", &F::Exit},
@@ -47,8 +47,8 @@ class ToolTable {
       {"Favorites", "Add current Designer into Favorites List", nullptr},
       {"BookMarks", "Get BookMarks List", nullptr},
       {"BookMarks", "Put current CodeLine into BookMarks List", nullptr},
-      {"Actions", "Clone current Component", nullptr},
-      {"Actions", "Weaver WorkShop", nullptr},
+      {"Actions", "Clone current Component", &F::CloneCurrent},
+      {"Actions", "Weaver WorkShop", &F::OpenWorkshop, &F::HasLibrary},
   };
 };
 
@@ -109,7 +109,8 @@ bool frmAddIn::HasEntries(const Tool& tool) const {
 }
 
 void frmAddIn::tlbr_ButtonClick(int position) {
-  RunTool(Tools()[static_cast<size_t>(position) - 1].click);
+  const Tool& tool = Tools()[static_cast<size_t>(position) - 1];
+  RunTool(Allows(tool.click, tool.enabled) ? tool.click : nullptr);
 }
 
 void frmAddIn::tlbr_ButtonDropDown(int position) {
@@ -120,7 +121,8 @@ void frmAddIn::tlbr_ButtonMenuClick(int position, int entry) {
   const Tool& tool = Tools()[static_cast<size_t>(position) - 1];
   if (tool.choose) return RunTool([&] { (this->*tool.choose)(entry); });
   for (const ToolEntry& row : ToolEntries())
-    if (std::string_view(row.key) == tool.key && --entry == 0) return RunTool(row.act);
+    if (std::string_view(row.key) == tool.key && --entry == 0)
+      return RunTool(Allows(row.act, row.enabled) ? row.act : nullptr);
 }
 
 void frmAddIn::RunTool(Act act) {

@@ -73,6 +73,7 @@ void frmAddIn::BindCodeEvents() {
   txtCode.DblClick = [this] { txtCode_DblClick(); };
   txtCode.GoProc = [this](const std::string& text) { txtCode_GoProc(text); };
   txtCode.Search = [this](const std::string& text) { txtCode_Search(text); };
+  txtCode.UpdateString = [this](long row, const std::string& text) { ReplaceCodeLine(row, text); };
   txtCode.ColorOnOff = [this](long row) { ReloadCode(row); };
   txtCode.ClipBook = [this] { ShowClipBook(); };
   txtCode.CodeLostFocus = [this](long row) { txtCode_CodeLostFocus(row); };

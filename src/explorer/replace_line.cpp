@@ -1,0 +1,61 @@
+// A line that was edited in the code view goes into its module.
+#include "explorer/frm_add_in.h"
+#include "explorer/project_access.h"
+#include "explorer/rows.h"
+#include "runtime/strings.h"
+
+namespace corvane::explorer {
+
+using namespace runtime;
+using host::Ref;
+
+namespace {
+
+constexpr char kCannotEdit[] = "Can't edit this line.";
+constexpr char kChangedBefore[] = "Can not Replace line because line was changed before";
+
+}  // namespace
+
+void frmAddIn::ReplaceCodeLine(long row, const std::string& text) {
+  if (IsTitleOfModule(txtCode.List(row))) return SayTitleChosen();
+  long line = 0;
+  Ref<host::CodeModule> module = IsGlobalsText() ? ModuleUnderTitle(row, line) : ModuleInView(row, line);
+  if (!module) return;
+  if (line < 1) {
+    services.Prompts.MsgBox(kCannotEdit);
+    return;
+  }
+  if (line > module->CountOfLines() || Trim(txtCode.List(row)) != Trim(module->Lines(line, 1)))
+    return SayChangedBefore();
+  module->ReplaceLine(line, text);
+  txtCode.ReplaceItem(row, module->Lines(line, 1));
+  DoEvents();
+}
+
+void frmAddIn::SayChangedBefore() {
+  services.Prompts.MsgBox(kChangedBefore);
+}
+
+// The standard module whose title stands above [row], and the line that the row shows.
+Ref<host::CodeModule> frmAddIn::ModuleUnderTitle(long row, long& line) {
+  long title = row;
+  while (title > 0 && !IsTitleOfModule(txtCode.List(title))) --title;
+  if (title == 0) return nullptr;
+  Ref<host::VBComponent> component = FindComponent(VBInstance, ModuleOfTitle(txtCode.List(title)));
+  if (!component || component->Type() != host::ComponentType::StdModule) return nullptr;
+  line = row - title;
+  return component->CodeModule();
+}
+
+// As for a jump, the row of the procedures tells the line of the first row with code. In a text that starts elsewhere,
+// as behind a search, the line is known from its first row: an equal one further down must not be taken for it.
+Ref<host::CodeModule> frmAddIn::ModuleInView(long row, long& line) {
+  long index = ComponentOfRow();
+  if (index < 1) return nullptr;
+  std::string shown = lbxProc->List(lbxProc->ListIndex());
+  line = std::max(lbxProc->ItemData(lbxProc->ListIndex()), 1L) + row - firstCodeRow;
+  if (line >= 1 && firstLineShown > 0) line = firstLineShown + row - 1;
+  return Object(ComponentAt(shown, index)).CodeModule();
+}
+
+}  // namespace corvane::explorer

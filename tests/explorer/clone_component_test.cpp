@@ -1,0 +1,163 @@
+// A clone of a component: two components, two files, nothing else changed.
+#include "tests/explorer/editing_fixture.h"
+
+namespace corvane::tests {
+namespace {
+
+constexpr char kNotAvailable[] =
+    "Can not clone current Component. Component's file is not available\r\n"
+    "May be you have not saved the Project yet.";
+
+class CloneComponent : public EditingTest {
+ protected:
+  void Clone(const std::string& component, const std::string& name) {
+    ChooseComponent(component);
+    services.prompts.inputs.push_back(name);
+    Press("Actions");
+  }
+  std::vector<std::string> Names() {
+    std::vector<std::string> names;
+    for (host::Ref<host::VBComponent> component : host::Each(environment->ActiveVBProject()->VBComponents()))
+      if (component->Type() != host::ComponentType::RelatedDocument) names.push_back(component->Name());
+    return names;
+  }
+  std::vector<long> Styles() const {
+    std::vector<long> styles;
+    for (const AskedMessage& message : services.prompts.messages) styles.push_back(message.style);
+    return styles;
+  }
+};
+
+TEST_F(CloneComponent, AModuleStandsTwiceUnderTwoNames) {
+  Clone("modCsv", "modTsv");
+  EXPECT_THAT(Messages(), IsEmpty());
+  EXPECT_EQ(services.prompts.input_boxes.at(0).prompt, "Type New name for cloning Component \" modCsv \"");
+  EXPECT_THAT(Names(), Contains("modCsv"));
+  EXPECT_THAT(Names(), Contains("modTsv"));
+  EXPECT_EQ(Component("modTsv")->FileNames(1), std::string(kFolder) + "modTsv.bas");
+  EXPECT_EQ(Component("modCsv")->FileNames(1), std::string(kFolder) + "modCsv.bas");
+  EXPECT_THAT(Components(), Contains("modTsv"));
+}
+
+TEST_F(CloneComponent, TheFilesDifferInTheNameAlone) {
+  Clone("modCsv", "modTsv");
+  EXPECT_THAT(ChangedFiles(), ElementsAre("Stockroom.vbp", "modTsv.bas"));
+}
+
+TEST_F(CloneComponent, TheNewFileIsTheOldOneUnderItsName) {
+  Clone("modCsv", "modTsv");
+  EXPECT_EQ(File("modTsv.bas"), Edited("modCsv.bas", "VB_Name = \"modCsv\"", "VB_Name = \"modTsv\""));
+  EXPECT_EQ(File("modCsv.bas"), before.at("modCsv.bas"));
+}
+
+TEST_F(CloneComponent, AFormTakesItsPicturesAlong) {
+  Clone("frmAbout", "frmCredits");
+  EXPECT_THAT(Messages(), IsEmpty());
+  EXPECT_EQ(File("frmCredits.frx"), before.at("frmAbout.frx"));
+  EXPECT_EQ(File("frmAbout.frm"), before.at("frmAbout.frm"));
+  EXPECT_EQ(File("frmAbout.frx"), before.at("frmAbout.frx"));
+  EXPECT_THAT(File("frmCredits.frm"), HasSubstr("Begin VB.Form frmCredits"));
+  EXPECT_THAT(File("frmCredits.frm"), HasSubstr("\"frmCredits.frx\""));
+}
+
+TEST_F(CloneComponent, TheEntryOfTheDropDownDoesTheSame) {
+  ChooseComponent("modCsv");
+  services.prompts.inputs.push_back("modTsv");
+  form.tlbr.UserButtonMenuClick(form.tlbr.PositionOf("Actions"), 1);
+  EXPECT_THAT(Names(), Contains("modCsv"));
+  EXPECT_THAT(Names(), Contains("modTsv"));
+}
+
+TEST_F(CloneComponent, OfAComponentThatWasNeverSavedIsNotAvailable) {
+  environment->ActiveVBProject()
+      ->VBComponents()
+      ->Add(host::ComponentType::StdModule)
+      ->CodeModule()
+      ->InsertLines(1, "Public a\r\nPublic b");
+  Press("Refresh");
+  std::vector<std::string> names = Names();
+  Clone("Module1", "Module2");
+  EXPECT_THAT(Messages(), ElementsAre(kNotAvailable));
+  EXPECT_THAT(Styles(), ElementsAre(host::vbExclamation));
+  EXPECT_EQ(Names(), names);
+}
+
+TEST_F(CloneComponent, AReplyOfOneCharacterStopsSilently) {
+  for (const char* reply : {"", "x"}) Clone("modCsv", reply);
+  EXPECT_THAT(Messages(), IsEmpty());
+  EXPECT_THAT(ChangedFiles(), IsEmpty());
+  EXPECT_EQ(services.files.writes, 0);
+}
+
+TEST_F(CloneComponent, OfAReadOnlyFileIsRefused) {
+  services.files.SetReadOnly(std::string(kFolder) + "modCsv.bas", true);
+  Clone("modCsv", "modTsv");
+  EXPECT_THAT(Messages(), ElementsAre("Can not clone current Component. Component's file is read only"));
+  EXPECT_THAT(Styles(), ElementsAre(host::vbExclamation));
+  EXPECT_EQ(services.files.writes, 0);
+}
+
+TEST_F(CloneComponent, OfAFileThatIsGoneIsRefusedAsReadOnly) {
+  services.files.Remove(std::string(kFolder) + "modCsv.bas");
+  Clone("modCsv", "modTsv");
+  EXPECT_THAT(Messages(), ElementsAre("Can not clone current Component. Component's file is read only"));
+}
+
+TEST_F(CloneComponent, InAReadOnlyProjectIsRefused) {
+  services.files.SetReadOnly(std::string(kFolder) + "Stockroom.vbp", true);
+  Clone("modCsv", "modTsv");
+  EXPECT_THAT(Messages(), ElementsAre("Can not clone current Component. Project's file is read only"));
+  EXPECT_THAT(Styles(), ElementsAre(host::vbExclamation));
+  EXPECT_EQ(File("modCsv.bas"), before.at("modCsv.bas"));
+  EXPECT_THAT(Names(), Not(Contains("modTsv")));
+}
+
+TEST_F(CloneComponent, ANameInUseIsRefusedAndNothingChanges) {
+  services.files.Put(std::string(kFolder) + "other.bas",
+                     "Attribute VB_Name = \"modOther\"\r\nPublic a\r\nPublic b\r\n");
+  environment->ActiveVBProject()->VBComponents()->AddFile(std::string(kFolder) + "other.bas");
+  std::vector<std::string> names = Names();
+  Clone("modCsv", "modOther");
+  ASSERT_EQ(Messages().size(), 1u);
+  EXPECT_THAT(Messages()[0], StartsWith("Can not clone current Component. "));
+  EXPECT_EQ(Names(), names);
+  EXPECT_EQ(File("modCsv.bas"), before.at("modCsv.bas"));
+}
+
+TEST_F(CloneComponent, ANameThatIsNoneIsRefused) {
+  std::vector<std::string> names = Names();
+  for (const char* name : {"two words", "1st", "a-b"}) Clone("modCsv", name);
+  EXPECT_EQ(Messages().size(), 3u);
+  EXPECT_EQ(Names(), names);
+  EXPECT_THAT(ChangedFiles(), IsEmpty());
+}
+
+TEST_F(CloneComponent, AnotherFileOfThatNameIsNotLost) {
+  services.files.Put(std::string(kFolder) + "modTsv.bas", "precious");
+  Clone("modCsv", "modTsv");
+  EXPECT_THAT(Messages(),
+              ElementsAre("Can not clone current Component. Z:\\samples\\stockroom\\modTsv.bas already exists."));
+  EXPECT_EQ(File("modTsv.bas"), "precious");
+  EXPECT_THAT(Names(), Not(Contains("modTsv")));
+}
+
+TEST_F(CloneComponent, AFullDiskIsTold) {
+  services.files.FailWrites(std::string(kFolder) + "modTsv.bas", 61);
+  Clone("modCsv", "modTsv");
+  ASSERT_EQ(Messages().size(), 1u);
+  EXPECT_THAT(Messages()[0], StartsWith("Can not clone current Component. "));
+  EXPECT_EQ(File("modCsv.bas"), before.at("modCsv.bas"));
+}
+
+TEST_F(CloneComponent, AComponentThatIsNotThereIsPassedOver) {
+  form.lbxProc->Clear();
+  ChooseComponent("modCsv");
+  Component("modCsv")->SetName("modGone");
+  services.prompts.inputs.push_back("modTsv");
+  Press("Actions");
+  EXPECT_THAT(Messages(), IsEmpty());
+  EXPECT_THAT(Names(), Not(Contains("modTsv")));
+}
+
+}  // namespace
+}  // namespace corvane::tests
