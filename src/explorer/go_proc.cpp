@@ -85,6 +85,7 @@ bool frmAddIn::ListWordOf(const SoughtWord& word, host::VBComponent& component, 
   if (line == 0) return false;
   currentComponent = index;
   AddProcedureRow(*module, line, module->Name(), 1);
+  hasResults = true;  // the list is another one now
   return true;
 }
 
