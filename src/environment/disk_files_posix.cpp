@@ -2,7 +2,6 @@
 #include <cerrno>
 #include <climits>
 #include <cstdlib>
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -11,6 +10,7 @@
 #include <vector>
 
 #include "environment/disk_files.h"
+#include "environment/folder_names_posix.h"
 #include "environment/paths.h"
 #include "environment/wildcard.h"
 #include "runtime/code_page.h"
@@ -60,27 +60,6 @@ bool Exists(const std::string& path) {
   return ::lstat(path.c_str(), &info) == 0;
 }
 
-std::vector<std::string> NamesIn(const std::string& folder) {
-  std::vector<std::string> names;
-  DIR* open = ::opendir(folder.empty() ? "." : folder.c_str());
-  if (open == nullptr) return names;
-  while (dirent* entry = ::readdir(open)) names.emplace_back(entry->d_name);
-  ::closedir(open);
-  std::sort(names.begin(), names.end());
-  return names;
-}
-
-// A name on disk as bytes of the code page; as it is where it holds what the page does not.
-std::string NameFromDisk(const std::string& name) {
-  std::string bytes;
-  return runtime::AnsiCodePage().FromUtf8(name, bytes) ? bytes : name;
-}
-
-bool SameWithoutCase(const std::string& a, const std::string& b) {
-  const runtime::CodePage& page = runtime::AnsiCodePage();
-  return page.ToUpper(a) == page.ToUpper(b);
-}
-
 // Finds the names of paths on disk; what was found without regard to case is remembered as long as it exists.
 class NameFinder {
  public:
@@ -108,10 +87,8 @@ class NameFinder {
     if (IsThere(exact)) return exact;
     std::string utf8 = folder + runtime::AnsiCodePage().ToUtf8(name);
     if (utf8 != exact && IsThere(utf8)) return utf8;
-    std::string& known = known_[utf8];
-    if (!known.empty() && IsThere(known)) return known;
-    for (const std::string& other : NamesIn(folder))
-      if (SameWithoutCase(other, name) || SameWithoutCase(NameFromDisk(other), name)) return known = folder + other;
+    if (const auto known = known_.find(utf8); known != known_.end() && IsThere(known->second)) return known->second;
+    if (const std::string* other = names_.Find(folder, name)) return known_[utf8] = folder + *other;
     return IsNameOfUtf8(name) ? exact : utf8;
   }
 
@@ -127,6 +104,7 @@ class NameFinder {
 
   struct stat info_ {};
   bool is_plain_ = false;
+  FolderNames names_;
   std::unordered_map<std::string, std::string> known_;
   std::string last_start_, last_folder_;
 };
