@@ -8,6 +8,7 @@
 #include "script/for_statement.h"
 #include "script/marks.h"
 #include "script/numbers.h"
+#include "script/odd_signs.h"
 #include "script/operators.h"
 #include "script/source_statements.h"
 #include "script/translator.h"
@@ -128,45 +129,8 @@ bool LostAndOr(const SourceStatement& source, const Surroundings&) {
   return false;
 }
 
-// Place of the "=" that assigns: to a variable, to an element, or to the result.
-size_t AssignmentOf(const SourceStatement& source) {
-  if (BeginsWith(source.upper, "FOR ")) return source.upper.find('=');
-  if (source.statement.eqPos > 0) return static_cast<size_t>(source.statement.eqPos) - 1;
-  const bool element = source.statement.parenPos > 0 && !BeginsWith(source.upper, "IF(");
-  const size_t bracket = element ? source.upper.find(")=") : std::string::npos;
-  return bracket == std::string::npos ? bracket : bracket + 1;
-}
-
-// Something but joining, adding and taking away.
-bool HasOtherRanks(string_view text, size_t assignment) {
-  for (size_t at = 0; at < text.size(); ++at)
-    if (IsIn("*/\\<>,", text[at]) || (text[at] == '=' && at != assignment)) return true;
-  return Holds(text, " AND ") || Holds(text, " OR ");
-}
-
-// Behind a comparison or a comma an operand with its sign is read well when nothing is reckoned with it.
-bool IsOperandAlone(string_view signed_text) {
-  const size_t end = signed_text.find_first_of("+-*/\\&<>=,() :", 1);
-  return end > 1 && (end == string_view::npos || !IsIn("+-*/\\&", signed_text[end]));
-}
-
-// [op] is the operator in front of the sign; in y*=-2 it is "*".
-bool IsOddSign(char op, string_view signed_text, bool other_ranks) {
-  if (IsIn("*/\\", op)) return true;
-  if (IsIn("<>=,", op)) return !IsOperandAlone(signed_text);
-  return other_ranks && signed_text != "+:" && signed_text != "-:";  // not y++
-}
-
 bool HasSignBehindOperator(const SourceStatement& source, const Surroundings&) {
-  const string_view text = source.upper;
-  const size_t assignment = AssignmentOf(source);
-  const bool other_ranks = HasOtherRanks(text, assignment);
-  for (size_t at = 0; at + 2 < text.size(); ++at) {
-    if (at == assignment || !IsIn("+-*/\\&<>=,", text[at])) continue;
-    const size_t sign = at + (at + 1 == assignment ? 2 : 1);
-    if (sign < text.size() && IsIn("+-", text[sign]) && IsOddSign(text[at], text.substr(sign), other_ranks)) return true;
-  }
-  return false;
+  return HasOddSign(source);
 }
 
 bool HasNameOfOneLetter(const SourceStatement& source, const Surroundings&) {

@@ -96,11 +96,46 @@ TEST(ScriptCheck, ABlankThatGoesBeforeASignOrBracket) {
 
 TEST(ScriptCheck, ASignBehindAnOperator) {
   for (const char* code :
-       {"x=12*-3", "x=12/-3", "x=yy*(12*-3)", "x*=-2", "IF x<-1+b THEN", "x=2*a+-3", "IF a THEN x=2*-3"})
+       {"x=12*-3", "x=12/-3", "x=12*(-3)", "x=yy*(12*-3)", "x*=-2", "IF x<-1+b THEN", "x=a+-3*b", "IF a THEN x=2*-3"})
     EXPECT_THAT(OddThing(code), HasSubstr("sign")) << code;
   for (const char* code : {"x=-5", "=-5", "x=a+-3", "x+=-3", "x++", "x--", "IF x>-15 THEN", "IF x=-n THEN", "AR(1)=-5",
-                           "x=MID(s,1,-15)", "FOR i=-1 TO 2", "x=\"2*-3\"", "x=[[2*-3]]"})
+                           "x=MID(s,1,-15)", "FOR i=-1 TO 2", "x=\"2*-3\"", "x=[[2*-3]]", "x=2*a+-3", "x=-5*a"})
     EXPECT_THAT(OddLines(code), IsEmpty()) << code;
+}
+
+TEST(ScriptCheck, AComparisonWithASignBesideAndOrOr) {
+  for (const char* code : {"IF xx=-5 AND yy=2 THEN", "IF xx=-5 or yy=7 THEN", "IF xx=-15 AND yy=2 THEN",
+                           "IF yy=2 AND xx=-15 THEN", "IF xx>-15 AND yy=2 THEN", "IF xx<>-1 AND yy=0 THEN",
+                           "IF xx>=-1 OR yy=7 THEN", "WHILE xx<-2 AND yy=0", "IF aa THEN\nELSEIF xx=-5 AND yy=2 THEN",
+                           "zz=xx=-5 AND yy=2", "PRINT(xx=-5 OR yy=7)", "IF (xx=-5 AND yy=2) THEN"})
+    EXPECT_EQ(OddLines(code).size(), 1u) << code;
+  for (const char* code :
+       {"IF (xx=-5) AND (yy=2) THEN", "IF xx=-5 THEN yy=aa AND bb", "IF xx=5 AND yy=2 THEN", "IF 2*aa=-5 THEN"})
+    EXPECT_THAT(OddLines(code), IsEmpty()) << code;
+}
+
+TEST(ScriptCheck, AnArgumentWithASignBeforeOneThatIsComputed) {
+  for (const char* code :
+       {"xx=sum3(3,-15,2-3)", "xx=sum3(3,-5,nn+3)", "xx=sum3(1,-5,len(\"a\")+1)", "xx=ff(1,-5,aa&bb)",
+        "CALL ss(1,-5,nn+3)", "PRINT(mid(aa,-5,nn+3))", "CASE 1,-5,nn-1", "xx=ff(aa=1,-5)"})
+    EXPECT_THAT(OddThing(code), HasSubstr("sign")) << code;
+  for (const char* code : {"xx=sum3(2-3,3,-15)", "xx=sum3(3,-15,(2-3))", "xx=sum3(3,-15,-5)", "xx=ff(3,-15,2*3)",
+                           "CALL ss(nn+3,-5)", "xx=ff(1,-5)+nn", "SELECT CASE -5"})
+    EXPECT_THAT(OddLines(code), IsEmpty()) << code;
+}
+
+TEST(ScriptCheck, ASignInAListThatTheStatementMakes) {
+  for (const char* code :
+       {"CALL ss(aa--3)", "SELECT CASE aa--3", "SELECT CASE -5+aa", "FOR ii=1 TO 5--3", "xx=ff(aa--3,1)"})
+    EXPECT_THAT(OddThing(code), HasSubstr("sign")) << code;
+}
+
+TEST(ScriptCheck, ASignIsJudgedByItsOwnBracket) {
+  for (const char* code :
+       {"bb=len(left(aa,2))+-1", "bb=mid(aa,1,1)&-1", "bb=(aa<5)&-1", "IF (aa+-1)<5 THEN", "AR(1,2)=aa+-1"})
+    EXPECT_THAT(OddLines(code), IsEmpty()) << code;
+  for (const char* code : {"bb=len(left(aa,2))*-1", "bb=mid(aa+-1,1,1)", "IF aa+-1<5 THEN"})
+    EXPECT_THAT(OddThing(code), HasSubstr("sign")) << code;
 }
 
 TEST(ScriptCheck, ANameOfOneLetterWithABracket) {
