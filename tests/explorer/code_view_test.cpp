@@ -126,6 +126,22 @@ TEST_F(CodeView, ABlockGoesPastOneEndOfAProcedure) {
   EXPECT_THAT(CodeRows(), ElementsAre("Dim a", "Sub A()", "End Sub", "Sub B()", "End Sub"));
 }
 
+TEST_F(CodeView, AProcedureInFrontOfTheFourthLineIsShownAsABlockFromTheFirst) {
+  OpenWindow({Bas("modMain", {"Dim a", "Sub Pay()", "End Sub", "Sub Other()", "End Sub"}),
+              Bas("modMore", {"Dim b", "Dim c", "Sub Pay()", "End Sub", "Sub Other()", "End Sub"})});
+  ChooseComponent("modMain");
+  ChooseProcedure("Sub Pay");
+  EXPECT_THAT(CodeRows(), ElementsAre("Dim a", "Sub Pay()", "End Sub", "Sub Other()", "End Sub"));
+  EXPECT_EQ(form.txtCode.ListIndex(), 2);
+  EXPECT_EQ(form.lblSub.Caption(), "Sub Pay()");
+  ChooseProcedure("Sub Other");
+  EXPECT_THAT(CodeRows(), ElementsAre("Sub Other()", "End Sub"));
+  ChooseComponent("modMore");
+  ChooseProcedure("Sub Pay");
+  EXPECT_THAT(CodeRows(), ElementsAre("Dim b", "Dim c", "Sub Pay()", "End Sub", "Sub Other()", "End Sub"));
+  EXPECT_EQ(form.txtCode.ListIndex(), 3);
+}
+
 TEST_F(CodeView, AProcedureWithANameOfOneLetterIsShownAsABlock) {
   OpenWindow({Bas("modMain", {"Dim x1", "Dim x2", "Dim x3", "", "Sub A()", "    x1 = 1", "End Sub"}),
               Frm("frmMain", {"Dim x", ""})});
@@ -449,6 +465,57 @@ TEST_F(CodeView, AProcedureIsAskedForWithFiveLinesMoreAShortOneWith550) {
     ChooseProcedure(c.row);
     EXPECT_THAT(counting->Module("modMain").asked, Contains(std::pair(c.line, c.count))) << c.row;
   }
+}
+
+// An environment that tells a header's line wrongly.
+class MisplacedHeader : public CodeView {
+ protected:
+  void ShowLine(long line, long shift) {
+    Open({Bas("modMain", {"Dim a1", "Sub First()", "End Sub", "", "' Settles a bill.", "", "Sub Pay()", "",
+                          "    a1 = 1", "End Sub"}),
+          Frm("frmMain", {"Dim x", ""})});
+    auto host = std::make_shared<CountingHost>(environment);
+    form.VBInstance = host;
+    form.Show();
+    ChooseComponent("modMain");
+    host->Module("modMain").body_line_shift = shift;
+    form.lbxProc->UserSelect(AddRowFor("modMain", line));
+  }
+};
+
+TEST_F(MisplacedHeader, ARightOneStaysThoughABlankLineFollowsIt) {
+  ShowLine(9, 0);
+  EXPECT_THAT(CodeRows(), ElementsAre("Sub Pay()", "", "    a1 = 1", "End Sub"));
+  EXPECT_EQ(form.txtCode.ListIndex(), 3);
+}
+
+TEST_F(MisplacedHeader, AnotherLineInFrontOfABlankOneGivesWayToThat) {
+  ShowLine(9, -2);
+  EXPECT_THAT(CodeRows(), ElementsAre("", "Sub Pay()", "", "    a1 = 1", "End Sub"));
+  EXPECT_EQ(form.txtCode.ListIndex(), 4);
+}
+
+TEST_F(MisplacedHeader, AnotherLineInFrontOfALongerOneStays) {
+  ShowLine(9, -1);
+  EXPECT_THAT(CodeRows(), ElementsAre("", "Sub Pay()", "", "    a1 = 1", "End Sub"));
+  EXPECT_EQ(form.txtCode.ListIndex(), 4);
+}
+
+TEST_F(MisplacedHeader, TheChosenLineIsNeverInFrontOfTheText) {
+  ShowLine(5, -2);
+  EXPECT_EQ(form.txtCode.List(1), "' Settles a bill.");
+  EXPECT_EQ(form.txtCode.List(3), "Sub Pay()");
+  EXPECT_EQ(form.txtCode.ListIndex(), 1);
+}
+
+TEST_F(CodeView, SwitchingColoursLoadsNothingIntoAnEmptyView) {
+  OpenWindow({Frm("frmMain", {"Sub Fill()", "End Sub"}), Frm("frmOther", {"Sub Other()", "End Sub"})});
+  ChooseComponent("frmMain");
+  ASSERT_EQ(form.txtCode.ListIndex(), 0);
+  Module("frmMain").InsertLines(1, "Dim a");
+  form.cmdColor.Click();
+  EXPECT_THAT(CodeRows(), IsEmpty());
+  EXPECT_TRUE(form.txtCode.ColorOff);
 }
 
 TEST_F(CodeView, EscGivesTheFocusToTheMainWindow) {

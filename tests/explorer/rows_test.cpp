@@ -46,6 +46,8 @@ TEST(Rows, ABookmarkKeepsItsModuleAndLine) {
   EXPECT_EQ(bookmark.module, "modMain");
   EXPECT_EQ(bookmark.line, 12);
   EXPECT_FALSE(IsBookmark("x = 1" + TailOf(3)));
+  EXPECT_FALSE(IsBookmark("abc \\+\\modMain\t12"));
+  EXPECT_TRUE(IsBookmark("abcd \\+\\modMain\t12"));
 }
 
 TEST(Rows, TheLabelStandsInFrontOfTheColon) {

@@ -18,6 +18,8 @@ class CountingModule : public host::CodeModule {
   std::map<std::string, long> calls;         // by member
   std::vector<std::pair<long, long>> asked;  // start and count of each call of Lines
   long fail_procedure_calls = 0;             // Error number of ProcOfLine and its kin while it is not 0
+  long fail_lines_from = 0;                  // the first line that Lines fails to give, while it is not 0
+  long body_line_shift = 0;                  // how far from its place ProcBodyLine tells a header
 
   long Total() const {
     long total = 0;
@@ -33,6 +35,7 @@ class CountingModule : public host::CodeModule {
   std::string Lines(long start, long count) override {
     Count("Lines");
     asked.emplace_back(start, count);
+    if (fail_lines_from != 0 && start >= fail_lines_from) throw host::Error(runtime::kSubscriptOutOfRange);
     return module_->Lines(start, count);
   }
   void InsertLines(long line, const std::string& text) override {
@@ -54,7 +57,7 @@ class CountingModule : public host::CodeModule {
     return CountProcedure("ProcStartLine"), module_->ProcStartLine(name, kind);
   }
   long ProcBodyLine(const std::string& name, host::ProcKind kind) override {
-    return CountProcedure("ProcBodyLine"), module_->ProcBodyLine(name, kind);
+    return CountProcedure("ProcBodyLine"), module_->ProcBodyLine(name, kind) + body_line_shift;
   }
   long ProcCountLines(const std::string& name, host::ProcKind kind) override {
     return CountProcedure("ProcCountLines"), module_->ProcCountLines(name, kind);
@@ -80,6 +83,8 @@ class CountingModule : public host::CodeModule {
 class CountingHost : public host::VBE {
  public:
   explicit CountingHost(host::Ref<host::VBE> vbe) : vbe_(std::move(vbe)) {}
+
+  std::vector<std::string> designers_asked;  // the component of each call of DesignerWindow
 
   // The module of a component of the active project, by name.
   CountingModule& Module(const std::string& name) { return *CountingModuleOf(*ActiveComponent(name)); }
@@ -108,7 +113,10 @@ class CountingHost : public host::VBE {
     host::Ref<host::VBForm> Designer() override { return component_->Designer(); }
     std::string DesignerID() override { return component_->DesignerID(); }
     bool HasOpenDesigner() override { return component_->HasOpenDesigner(); }
-    host::Ref<host::Window> DesignerWindow() override { return component_->DesignerWindow(); }
+    host::Ref<host::Window> DesignerWindow() override {
+      host_.designers_asked.push_back(Name());
+      return component_->DesignerWindow();
+    }
     host::Ref<host::Properties> Properties() override { return component_->Properties(); }
     long FileCount() override { return component_->FileCount(); }
     std::string FileNames(long index) override { return component_->FileNames(index); }
