@@ -1,5 +1,7 @@
 // The list of procedures in the window: its filters, its keys.
+#include "environment/observer.h"
 #include "tests/explorer/explorer_fixture.h"
+#include "tests/support/counting_host.h"
 
 namespace corvane::tests {
 namespace {
@@ -18,6 +20,23 @@ class ProcedureList : public ExplorerTest {
     rows.erase(rows.begin());
     return rows;
   }
+  CountingHost& OpenCounting(const Sources& sources) {
+    Open(sources);
+    counting = std::make_shared<CountingHost>(environment);
+    form.VBInstance = counting;
+    form.Show();
+    return *counting;
+  }
+  void ExpectAReadyWindow() {
+    EXPECT_EQ(services.screen.MousePointer(), host::vbDefault);
+    EXPECT_TRUE(form.lbxProc->Visible());
+    EXPECT_THAT(toolkit.Faults(), IsEmpty());
+    EXPECT_THAT(Messages(), IsEmpty());
+    form.lbxProc->UserSelect(1);
+    EXPECT_EQ(form.lblSub.Caption(), Procedures()[1]) << "a click is answered";
+  }
+
+  std::shared_ptr<CountingHost> counting;
 };
 
 TEST_F(ProcedureList, EachFilterOfTheGlobals) {
@@ -53,6 +72,23 @@ TEST_F(ProcedureList, EventsChooseAllVisibilities) {
   ClickOn(form.optProcEvent);
   EXPECT_TRUE(form.optAllProc.Value());
   EXPECT_THAT(Listed(), ElementsAre("Private Sub cmd_Click()"));
+}
+
+TEST_F(ProcedureList, EventsListOnceThoughTheyChooseAllVisibilities) {
+  CountingHost& host = OpenCounting(kShop);
+  auto scans = [&](forms::OptionButton& option) {
+    host.Module("modMain").calls.clear();
+    ClickOn(option);
+    return host.Module("modMain").calls["ProcOfLine"];
+  };
+  ClickOn(form.optProcSub);
+  const long once = scans(form.optProcEvent);
+  ASSERT_EQ(once, 1);
+  ClickOn(form.optProcSub);
+  ClickOn(form.optProcPubl);
+  EXPECT_EQ(scans(form.optProcEvent), once);
+  EXPECT_TRUE(form.optAllProc.Value());
+  EXPECT_TRUE(form.optProcEvent.Value());
 }
 
 TEST_F(ProcedureList, AllVisibilitiesChooseAllEntriesUnlessEventsAreShown) {
@@ -118,6 +154,26 @@ TEST_F(ProcedureList, ALabelOfOneLetterIsNotShown) {
   EXPECT_EQ(form.lbxProc->List(form.lbxProc->NewIndex()), "Public Sub Main()" + explorer::TailOf(1));
 }
 
+TEST_F(ProcedureList, AScanThatFailsLeavesTheRowsItHasFound) {
+  CountingHost& host = OpenCounting(kShop);
+  host.Module("modMain").fail_lines_from = 11;
+  ChooseComponent("modMain");
+  EXPECT_THAT(Listed(), ElementsAre("Private Sub cmd_Click()", "Private Sub Tidy()", "Public Sub Main()"));
+  host.Module("modMain").fail_lines_from = 0;
+  ExpectAReadyWindow();
+}
+
+TEST_F(ProcedureList, InTheGlobalsAScanThatFailsIsOfItsModuleAlone) {
+  CountingHost& host = OpenCounting({Bas("modA", {"Public a", "", "Sub Pay()", "End Sub", "Sub Other()", "End Sub"}),
+                                     Bas("modB", {"Public b", "", "", "Sub Work()", "End Sub"})});
+  host.Module("modA").fail_lines_from = 4;
+  form.lbxComp->UserSelect(0);
+  EXPECT_THAT(Listed(), ElementsAre("Sub Pay()", "Sub Work()"));
+  EXPECT_THAT(Components(), ElementsAre(" Project Globals", "modA", "modB"));
+  host.Module("modA").fail_lines_from = 0;
+  ExpectAReadyWindow();
+}
+
 TEST_F(ProcedureList, AModuleOfFewerThanTwoLinesGivesTheDeclarationsRowAlone) {
   OpenWindow({Frm("frmA", {"Dim a", ""}), Frm("frmB", {"Dim b", ""})});
   ChooseComponent("frmA");
@@ -176,8 +232,11 @@ TEST_F(ProcedureList, ADoubleClickOnTheDeclarationsOfTheGlobalsGoesNowhere) {
 
 TEST_F(ProcedureList, ADoubleClickOnTheDeclarationsOfAComponentGoesToItsFirstLine) {
   OpenWindow(kShop);
+  Caret("frmMain", 6, 3);
+  Caret("modMain", 3);
   ChooseComponent("frmMain");
   form.lbxProc->UserDblClick();
+  EXPECT_EQ(environment->ActiveCodePane()->CodeModule()->Name(), "frmMain");
   EXPECT_EQ(SelectionOf("frmMain"), (host::Selection{1, 1, 1, 1}));
 }
 
@@ -189,6 +248,22 @@ TEST_F(ProcedureList, EscHidesTheWindowAndKeepsItsLists) {
   EXPECT_TRUE(form.IsLoaded());
   form.Show();
   EXPECT_THAT(Listed(), ElementsAre("Private Sub Form_Load()", "Public Sub Fill()"));
+}
+
+TEST_F(ProcedureList, EscHidesTheWindowAndThenGivesTheFocusToTheMainWindow) {
+  struct : environment::Observer {
+    std::function<void()> focused;
+    void MainWindowFocused() override { focused(); }
+  } observer;
+  std::vector<bool> visible;
+  observer.focused = [&] { visible.push_back(form.Visible()); };
+  OpenWindow(kShop);
+  environment->Observe(&observer);
+  Press(*form.lbxProc, 'x');
+  EXPECT_THAT(visible, IsEmpty());
+  Press(*form.lbxProc, forms::vbKeyEscape);
+  EXPECT_THAT(visible, ElementsAre(false));
+  environment->Observe(nullptr);
 }
 
 }  // namespace
