@@ -56,6 +56,20 @@ TEST_F(CurrentCode, WithoutACodePaneItTellsSoAndChoosesTheProject) {
   EXPECT_THAT(CodeRows(), ElementsAre("Option Explicit"));
 }
 
+TEST_F(CurrentCode, WithoutACodePaneTheListsStayAsTheyAre) {
+  OpenWindow(kShop);
+  ChooseComponent("frmMain");
+  ChooseProcedure("Fill()");
+  const auto rows = Rows(*form.lbxProc);
+  Module("frmMain").InsertLines(10, "Sub Later()\r\nEnd Sub");
+  form.optCurMod.UserClick();
+  EXPECT_EQ(Messages().size(), 1u);
+  EXPECT_TRUE(form.optProj.Value());
+  EXPECT_EQ(form.lbxComp->Text(), "frmMain");
+  EXPECT_EQ(Rows(*form.lbxProc), rows);
+  EXPECT_EQ(form.lblSub.Caption(), "Sub Fill()");
+}
+
 TEST_F(CurrentCode, TheProjectOptionWorksAfterTheMessage) {
   OpenWindow(kShop);
   form.optCurMod.UserClick();
@@ -77,6 +91,64 @@ TEST_F(CurrentCode, AFilterListsTheModuleOfTheActivePaneAgain) {
   Caret("modMain", 3);
   ClickOn(form.optProcAll);
   EXPECT_THAT(Procedures(), ElementsAre("Declarations", "Public Sub Main()"));
+}
+
+TEST_F(CurrentCode, AFilterChangesNothingWhenNoPaneIsOpenAnyMore) {
+  Open(kShop);
+  Caret("frmMain", 8);
+  OpenWindow();
+  const auto rows = Rows(*form.lbxProc), code = CodeRows();
+  for (host::Ref<host::CodePane> pane : host::Each(environment->CodePanes())) pane->Window()->Close();
+  ASSERT_EQ(environment->ActiveCodePane(), nullptr);
+  ClickOn(form.optProcEvent);
+  EXPECT_EQ(Rows(*form.lbxProc), rows);
+  EXPECT_EQ(CodeRows(), code);
+  EXPECT_THAT(Messages(), IsEmpty());
+  EXPECT_THAT(toolkit.Faults(), IsEmpty());
+}
+
+TEST_F(CurrentCode, AFilterGivesTheFocusToTheProcedures) {
+  Open(kShop);
+  Caret("frmMain", 8);
+  OpenWindow();
+  form.txtFind.SetFocus();
+  ClickOn(form.optProcEvent);
+  EXPECT_TRUE(form.lbxProc->HasFocus());
+}
+
+TEST_F(CurrentCode, TheListPaintsBeforeItsCodeIsLoaded) {
+  OpenWindow(kShop);
+  Caret("frmMain", 8);
+  long paints = 0;
+  services.loop.on_do_events = [&] { paints += form.lbxProc->Visible() && form.txtCode.ListCount() == 0; };
+  form.optCurMod.UserClick();
+  EXPECT_EQ(paints, 1);
+  EXPECT_THAT(CodeRows(), ElementsAre("Sub Fill()", "    Total = 1", "End Sub"));
+  const auto before = CodeRows();
+  paints = 0;
+  services.loop.on_do_events = [&] { paints += Procedures().size() == 2 && CodeRows() == before; };
+  ClickOn(form.optProcEvent);
+  services.loop.on_do_events = nullptr;
+  EXPECT_EQ(paints, 1);
+  EXPECT_NE(CodeRows(), before);
+}
+
+TEST_F(CurrentCode, WhatWasListedIsKeptForTheKeyBack) {
+  OpenWindow(kShop);
+  ChooseComponent("frmMain");
+  Caret("modMain", 3);
+  form.optCurMod.UserClick();
+  ASSERT_THAT(Components(), ElementsAre("modMain"));
+  form.cmdPrev.Click();
+  EXPECT_EQ(form.lbxComp->Text(), "frmMain");
+  EXPECT_THAT(Procedures(), ElementsAre("Declarations", "Private Sub Form_Load()", "Sub Fill()"));
+}
+
+TEST_F(CurrentCode, TheProjectItselfIsNotKeptForTheKeyBack) {
+  OpenWindow(kShop);
+  Caret("modMain", 3);
+  form.optCurMod.UserClick();
+  EXPECT_FALSE(form.cmdPrev.Enabled());
 }
 
 TEST_F(CurrentCode, ChoosingItAgainUnsetsTheFilters) {
@@ -120,6 +192,16 @@ TEST_F(SelectedMode, TheNameGoesThroughTheFilterOfSubstrings) {
   ChooseProcedure("Form1:");
   form.optSelMod.UserClick();
   EXPECT_THAT(Components(), ElementsAre(" Project Globals", "Form1", "Form10"));
+}
+
+TEST_F(SelectedMode, ALabelWithABlankIsNoModule) {
+  Open(kShop);
+  Caret("frmMain", 8);
+  OpenWindow();
+  ChooseProcedure("A current line:");
+  form.optSelMod.UserClick();
+  EXPECT_THAT(Components(), ElementsAre(" Project Globals", "frmMain", "modMain"));
+  EXPECT_EQ(form.cmbSearch.Text(), "frmMain");
 }
 
 TEST_F(SelectedMode, WithoutALabelTheListIsFilledAgainWithAllEntries) {

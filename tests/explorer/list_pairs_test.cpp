@@ -54,6 +54,70 @@ TEST_F(ListPairs, EachKeepsItsMode) {
   EXPECT_THAT(Messages(), IsEmpty());
 }
 
+TEST_F(ListPairs, TheProjectIsNotListedWhileItsModeIsRestored) {
+  OpenWindow(kShop);
+  ChooseComponent("modMain");
+  ChooseProcedure("Main()");
+  const auto rows = Rows(*form.lbxProc);
+  form.optSecond.UserClick();
+  Caret("clsItem", 1);
+  form.optCurMod.UserClick();
+  ASSERT_THAT(Components(), ElementsAre("clsItem"));
+  ASSERT_TRUE(form.optFndSel.Value());
+  Module("modMain").InsertLines(9, "Private Sub Later()\r\nEnd Sub");
+  form.optFirst.UserClick();
+  EXPECT_TRUE(form.optProj.Value());
+  EXPECT_EQ(form.lbxComp->Text(), "modMain");
+  EXPECT_EQ(Rows(*form.lbxProc), rows);
+  EXPECT_EQ(form.lblSub.Caption(), "Public Sub Main()");
+  EXPECT_TRUE(form.optFndSel.Value()) << "the user has not chosen the project";
+}
+
+TEST_F(ListPairs, TheListsPaintBeforeTheCodeIsLoaded) {
+  OpenWindow(kShop);
+  ChooseComponent("modMain");
+  ChooseProcedure("Main()");
+  form.optSecond.UserClick();
+  long without_code = 0;
+  services.loop.on_do_events = [&] {
+    if (form.txtCode.ListCount() == 0 && form.lbxProc1.Visible() && !form.lbxProc2.Visible()) ++without_code;
+  };
+  form.optFirst.UserClick();
+  services.loop.on_do_events = nullptr;
+  EXPECT_EQ(without_code, 1);
+  EXPECT_EQ(form.txtCode.List(1), "Public Sub Main()");
+}
+
+TEST_F(ListPairs, AWindowThatIsLoadedAgainForgetsTheirModes) {
+  Open(kShop);
+  Caret("modMain", 6);
+  OpenWindow();
+  form.optSecond.UserClick();
+  form.optCurMod.UserClick();
+  ASSERT_TRUE(form.optCurMod.Value());
+  form.optFirst.UserClick();
+  form.Unload();
+  form.Show();
+  form.optSecond.UserClick();
+  EXPECT_TRUE(form.optProj.Value());
+  EXPECT_FALSE(form.optCurMod.Value());
+}
+
+TEST_F(ListPairs, AWaitingComponentIsListedThroughTheFilters) {
+  OpenWindow(kShop);
+  ChooseComponent("modMain");
+  form.optSecond.UserClick();
+  ASSERT_EQ(form.pendingComponent, "modMain");
+  ClickOn(form.optProcFunc);
+  EXPECT_EQ(form.lbxComp->List(0), "modMain");
+  EXPECT_TRUE(form.optProcFunc.Value());
+  EXPECT_THAT(Procedures(), ElementsAre("Declarations"));
+  ClickOn(form.optSecond);
+  form.pendingComponent = "modMain";
+  ClickOn(form.optProcSub);
+  EXPECT_THAT(Procedures(), ElementsAre("Declarations", "Public Sub Main()"));
+}
+
 TEST_F(ListPairs, TheSecondPairIsOfferedTheComponentInView) {
   Open(kShop);
   Caret("modMain", 6);
