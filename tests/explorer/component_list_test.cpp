@@ -85,6 +85,17 @@ TEST_F(ComponentList, TheNameFilterIsAppliedOnceAndTheBoxIsEmptied) {
   EXPECT_EQ(Components().size(), 7u);
 }
 
+TEST_F(ComponentList, WhatWasListedIsKeptForTheKeyBackIfItsNameHasThreeCharacters) {
+  OpenWindow({Bas("A1", {"Public a", "Dim b"}), Bas("A12", {"Public c", "Dim d"})});
+  form.lbxComp->UserSelect(1);
+  ASSERT_EQ(form.lbxComp->Text(), "A1");
+  form.axAllComp.Click();
+  EXPECT_FALSE(form.cmdPrev.Enabled());
+  ChooseComponent("A12");
+  form.axAllComp.Click();
+  EXPECT_TRUE(form.cmdPrev.Enabled());
+}
+
 TEST_F(ComponentList, ANameFilterThatLeavesOneComponentOpensIt) {
   OpenWindow(kShop);
   form.txtFind.SetText("ITEM");

@@ -32,6 +32,15 @@ TEST_F(FindComponents, APositionIsFoundWithoutCaseAComponentWithCase) {
   EXPECT_EQ(explorer::FindComponent(environment, "MODmain"), nullptr);
 }
 
+TEST_F(FindComponents, ARelatedDocumentIsNone) {
+  host::Ref<host::VBComponent> document = environment->ActiveVBProject()->VBComponents()->Item(2);
+  ASSERT_EQ(document->Type(), host::ComponentType::RelatedDocument);
+  const std::string name = document->Name();
+  ASSERT_NE(name, "");
+  EXPECT_EQ(explorer::FindComponent(environment, name), nullptr);
+  EXPECT_EQ(explorer::FindComponentIndex(environment, name), 0);
+}
+
 TEST_F(FindComponents, OnlyAWholeNameOfAModuleIsFound) {
   EXPECT_EQ(explorer::FindComponentIndex(environment, "modM"), 0);
   EXPECT_EQ(explorer::FindComponentIndex(environment, "Notes.txt"), 0);

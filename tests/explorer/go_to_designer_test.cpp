@@ -2,6 +2,7 @@
 #include "environment/observer.h"
 #include "environment/project.h"
 #include "tests/explorer/explorer_fixture.h"
+#include "tests/support/counting_host.h"
 
 namespace corvane::tests {
 namespace {
@@ -39,6 +40,23 @@ TEST_F(GoToDesigner, AComponentWithoutDesignerGivesTheMessage) {
   ChooseComponent("modMain");
   form.cmGo.Click();
   EXPECT_THAT(Messages(), ElementsAre(message, message));
+}
+
+TEST_F(GoToDesigner, AModuleIsNotEvenAskedForOne) {
+  Open({Cls("clsItem", {"Dim a", ""}), Bas("modMain", {"Dim b", ""}), Frm("frmMain", {"Dim c", ""})});
+  auto host = std::make_shared<CountingHost>(environment);
+  form.VBInstance = host;
+  form.Show();
+  for (const char* name : {"clsItem", "modMain"}) {
+    ChooseComponent(name);
+    form.cmGo.Click();
+    EXPECT_THAT(host->designers_asked, IsEmpty()) << name;
+  }
+  EXPECT_EQ(Messages().size(), 2u);
+  ChooseComponent("frmMain");
+  form.cmGo.Click();
+  EXPECT_THAT(host->designers_asked, Contains("frmMain"));
+  EXPECT_EQ(Messages().size(), 2u);
 }
 
 TEST_F(GoToDesigner, InTheGlobalsOfTheComponentThatTheRowNames) {

@@ -230,6 +230,15 @@ TEST_F(Window, AfterItWasUnloadedItComesUpAfresh) {
   EXPECT_EQ(form.Caption(), "Corvane V 1.0 ( C:\\Test\\Shop.vbp )");
 }
 
+TEST_F(Window, AfterItWasUnloadedAllKindsAreListed) {
+  OpenWindow(kShop);
+  form.axForms.Click();
+  ASSERT_THAT(Components(), ElementsAre(" Project Globals", "frmMain"));
+  form.Unload();
+  form.Show();
+  EXPECT_THAT(Components(), ElementsAre(" Project Globals", "frmMain", "modMain"));
+}
+
 TEST_F(Window, DisplayPopsUpItsMenuFromTheSecondTimeOn) {
   Open(kShop);
   form.VBInstance = environment;
@@ -303,6 +312,15 @@ TEST_F(Window, TheFramesKeepTheirHeightAndMove) {
     EXPECT_EQ(form.Frame4.Top(), height - frame4 - 550);
     EXPECT_EQ(form.Frame6.Top(), form.Frame4.Top());
   }
+}
+
+TEST_F(Window, ANewSizePaintsOnce) {
+  OpenWindow(kShop);
+  std::vector<forms::Twips> widths;
+  services.loop.on_do_events = [&] { widths.push_back(form.txtCode.Width()); };
+  form.UserResize(11000, 9600);
+  services.loop.on_do_events = nullptr;
+  EXPECT_THAT(widths, ElementsAre(11000 - 260));
 }
 
 TEST_F(Window, ASecondResizeWhileMinimisedBringsItBack) {
