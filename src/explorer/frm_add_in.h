@@ -87,6 +87,7 @@ class frmAddIn : public forms::Form {
 
   forms::Menu mnuPLB, mnuSearch, mnuSearchMod, mnuGoDesign, mnuComnt, mnuCop, mnuCopy, mnuCopyAdd, mnuCopyPLB;
   forms::Menu mnuIDE, mnuExec, mnuIDECurrent, mnuIDEPrev, mnuIDESearch, mnuIDEDeclare, mnuIDETitle;
+  forms::Menu mnuTools;  // the keys of the toolbar, for the keyboard
 
   // The list pair in use; all logic works through these two.
   forms::ComboBox* lbxComp = &lbxComp1;
@@ -171,6 +172,12 @@ class frmAddIn : public forms::Form {
   void Refresh();
   void ShowAbout();
   void Exit();
+
+  // tools_menu.cpp
+  void OpenToolsMenu();
+  void AddToolItems(int position, const Tool& tool);
+  forms::Menu& AddToolItem(forms::Menu& parent, const std::string& caption, bool enabled, std::function<void()> act);
+  std::vector<std::unique_ptr<forms::Menu>> toolItems;
 
   // menus.cpp
   void DesignMenus();

@@ -40,6 +40,7 @@ frmAddIn::frmAddIn(host::Services& services, forms::Toolkit& toolkit)
       mnuIDESearch(mnuIDE, "mnuIDESearch", ""),
       mnuIDEDeclare(mnuIDE, "mnuIDEDeclare", ""),
       mnuIDETitle(mnuIDE, "mnuIDETitle", ""),
+      mnuTools(*this, "mnuTools", "Tools"),
       services(services) {
   Design();
   ResetToDesign();

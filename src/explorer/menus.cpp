@@ -34,6 +34,7 @@ std::span<const MenuEntry> MenuEntries() {
 void frmAddIn::DesignMenus() {
   mnuPLB.SetVisible(false);
   mnuIDE.SetVisible(false);
+  mnuTools.SetVisible(false);
   for (const MenuEntry& entry : MenuEntries()) {
     forms::Menu& menu = this->*entry.item;
     menu.SetCaption(entry.caption);

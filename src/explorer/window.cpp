@@ -153,6 +153,7 @@ void frmAddIn::Form_KeyDown(int& key, int shift) {
        [](frmAddIn& form) {
          if (form.cmdNext.Enabled()) form.cmdNext_Click();
        }},
+      {vbKeyA + 19, vbCtrlMask, [](frmAddIn& form) { form.OpenToolsMenu(); }},  // Ctrl+T
       {vbKeyF5, 0, [](frmAddIn& form) { form.Refresh(); }},
       {vbKeyF1 + 6, 0, [](frmAddIn& form) { form.txtCode.DblClick(); }},
       {vbKeyF1 + 6, vbShiftMask, [](frmAddIn& form) { form.cmGo_Click(); }},
