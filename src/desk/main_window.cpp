@@ -133,6 +133,7 @@ void MainWindow::BuildStatus() {
 }
 
 void MainWindow::ShowProblems() {
+  problems_changed_ = false;
   problems_->clear();
   for (const environment::Problem& problem : environment_->Problems()) {
     auto* item = new QTreeWidgetItem(

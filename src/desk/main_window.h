@@ -92,6 +92,7 @@ class MainWindow : public QMainWindow, public environment::Observer {
   void MainWindowFocused() override;
   void CommandBarsChanged() override;
   void DirtyChanged() override;
+  void ProblemsChanged() override;
 
   void BuildCommands();
   void BuildDocks();
@@ -108,6 +109,7 @@ class MainWindow : public QMainWindow, public environment::Observer {
   void ShowProblems();
   void RaiseProblems();
   void ShowSelectedComponent(const std::shared_ptr<environment::Module>& module);
+  void FollowProblems();
   QMdiSubWindow* Show(QWidget& inside, const QString& title, const QString& icon);
   std::shared_ptr<environment::Module> Shared(environment::Module& module) const;
   bool AskForFile(environment::Module& module);
@@ -167,7 +169,8 @@ class MainWindow : public QMainWindow, public environment::Observer {
   std::set<std::string> told_projects_;  // project files that were told to have changed
   // The changes on disk that were told and not taken, by the module.
   QHash<const environment::Module*, std::vector<environment::ChangedFile>> told_changes_;
-  bool asking_ = false;  // a question is open: no other one
+  bool asking_ = false;            // a question is open: no other one
+  bool problems_changed_ = false;  // since they were shown
 };
 
 }  // namespace corvane::desk

@@ -261,6 +261,7 @@ void MainWindow::Start() {
   environment_->EnterRunMode();
   statusBar()->showMessage(tr("Run mode was announced to the add-in. Programs themselves do not run on this desk."));
 }
+  ShowProblems();
 
 void MainWindow::Tabs() {
   area_->setViewMode(QMdiArea::TabbedView);

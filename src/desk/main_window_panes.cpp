@@ -176,9 +176,6 @@ void MainWindow::ModuleReadAgain(Module& module) {
     canvas.Select(canvas.Selected());
   }
   if (CodePane* pane = PaneOf(module)) pane->ControlsChanged();
-  const int before = problems_->topLevelItemCount();
-  ShowProblems();
-  if (problems_->topLevelItemCount() > before) RaiseProblems();
   ShowProperties();
   UpdateCommands();
 }
@@ -210,6 +207,18 @@ void MainWindow::ImmediateChanged(bool shown) {
 void MainWindow::MainWindowFocused() {
   raise();
   activateWindow();
+}
+
+// Many may be told at one go.
+void MainWindow::ProblemsChanged() {
+  if (!std::exchange(problems_changed_, true)) ActLater(this, &MainWindow::FollowProblems);
+}
+
+void MainWindow::FollowProblems() {
+  const int before = problems_->topLevelItemCount();
+  ShowProblems();
+  if (problems_->topLevelItemCount() > before) RaiseProblems();
+  UpdateCommands();
 }
 
 void MainWindow::DirtyChanged() {

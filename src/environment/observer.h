@@ -28,6 +28,7 @@ class Observer {
   virtual void MainWindowFocused() {}
   virtual void CommandBarsChanged() {}
   virtual void DirtyChanged() {}
+  virtual void ProblemsChanged() {}  // in the midst of whatever found or mended one
 };
 
 }  // namespace corvane::environment

@@ -143,8 +143,14 @@ std::unordered_set<long> OpenEnvironment::LinesReported(const std::string& file)
   return lines;
 }
 
+void OpenEnvironment::Report(Problem problem) {
+  problems_.push_back(std::move(problem));
+  if (observer_) observer_->ProblemsChanged();
+}
+
 void OpenEnvironment::ForgetProblems(const std::string& file) {
-  std::erase_if(problems_, [&](const Problem& problem) { return SamePath(problem.file, file); });
+  auto is_of_file = [&](const Problem& problem) { return SamePath(problem.file, file); };
+  if (std::erase_if(problems_, is_of_file) > 0 && observer_) observer_->ProblemsChanged();
 }
 
 void OpenEnvironment::Forget(const OpenModule& module) {

@@ -72,7 +72,7 @@ class OpenEnvironment : public Environment {
   // The lines of [file] of which something was reported already.
   std::unordered_set<long> LinesReported(const std::string& file) const;
   void ForgetProblems(const std::string& file);
-  void Report(Problem problem) { problems_.push_back(std::move(problem)); }
+  void Report(Problem problem);
 
  private:
   void OpenFile(const std::string& path);

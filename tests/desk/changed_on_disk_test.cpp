@@ -206,10 +206,12 @@ TEST_F(ChangedOnDisk, SeveralFilesAreToldByTheirNumber) {
 TEST_F(ChangedOnDisk, WhatIsNotUnderstoodInItComesToTheListAndGoesAgain) {
   Put("modStock.bas", std::string(kModule) + "<<<<<<< mine\r\n");
   window_->CheckDisk();
+  Settle();
   ASSERT_EQ(window_->ProblemList().topLevelItemCount(), 1);
   EXPECT_TRUE(window_->ProblemList().isVisible());
   Put("modStock.bas", kModule);
   window_->CheckDisk();
+  Settle();
   EXPECT_EQ(window_->ProblemList().topLevelItemCount(), 0);
 }
 

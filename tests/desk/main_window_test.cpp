@@ -240,6 +240,39 @@ TEST_F(MainWindowTest, WhatWasNotUnderstoodIsListedAndOnlyThen) {
   EXPECT_TRUE(window_->ProblemList().topLevelItem(0)->text(2).contains("gone.bas"));
 }
 
+TEST_F(MainWindowTest, WhatADesignerFindsWrongIsListedAtOnce) {
+  auto* dock = window_->findChild<QDockWidget*>("problems");
+  files_.Put("C:\\Work\\frmOdd.frm",
+             "VERSION 5.00\r\nBegin VB.Form frmOdd \r\n   Icon            =   \"frmOdd.frx\":0100\r\nEnd\r\n"
+             "Attribute VB_Name = \"frmOdd\"\r\n");
+  files_.Put("C:\\Work\\frmOdd.frx", "abc");
+  environment_->ActiveVBProject()->VBComponents()->AddFile("C:\\Work\\frmOdd.frm");
+  Settle();
+  EXPECT_FALSE(dock->isVisible());
+  EXPECT_FALSE(window_->Command("view-problems")->isEnabled());
+  window_->OpenDesigner(Module("frmOdd"));
+  Settle();
+  ASSERT_EQ(window_->ProblemList().topLevelItemCount(), 1);
+  const QTreeWidgetItem& row = *window_->ProblemList().topLevelItem(0);
+  EXPECT_EQ(row.text(0), "C:\\Work\\frmOdd.frm");
+  EXPECT_EQ(row.text(1), "3");
+  EXPECT_TRUE(row.text(2).contains("frmOdd.frx")) << row.text(2).toStdString();
+  EXPECT_TRUE(dock->isVisible());
+  EXPECT_TRUE(window_->Command("view-problems")->isEnabled());
+}
+
+TEST_F(MainWindowTest, AListThatWasClosedStaysSoUntilSomethingNewIsFound) {
+  auto* dock = window_->findChild<QDockWidget*>("problems");
+  files_.Put("C:\\Odd\\Odd.vbp", "Type=Exe\r\nModule=gone; gone.bas\r\nName=\"Odd\"\r\n");
+  environment_->Open("C:\\Odd\\Odd.vbp");
+  Settle();
+  ASSERT_TRUE(dock->isVisible());
+  dock->hide();
+  window_->OpenDesigner(Module("frmStock"));
+  Settle();
+  EXPECT_FALSE(dock->isVisible());
+}
+
 TEST_F(MainWindowTest, AGroupOfProjectsIsShownAsOne) {
   files_.Put("C:\\Odd\\Odd.vbp", "Type=Exe\r\nName=\"Odd\"\r\n");
   environment_->Open("C:\\Odd\\Odd.vbp");
