@@ -99,6 +99,7 @@ class MainWindow : public QMainWindow, public environment::Observer {
   void BuildStatus();
   QDockWidget* AddDock(const QString& title, const char* name, QWidget* inside, Qt::DockWidgetArea area);
   void FillBars();
+  void ClearStandardBar();
   void FillStandardBar();
   void FillAddInsMenu();
   QAction* NewControlAction(const environment::BarControl& control, QObject* owner);

@@ -113,10 +113,18 @@ void MainWindow::FillBars() {
   FillAddInsMenu();
 }
 
+// A toolbar keeps the actions that are its own when it is cleared. One of them may be at work.
+void MainWindow::ClearStandardBar() {
+  const QList<QAction*> shown = standard_->actions();
+  standard_->clear();
+  for (QAction* action : shown)
+    if (action->parent() == standard_) action->deleteLater();
+}
+
 // Of the environment's own controls those that the desk has a command for; all of an add-in's. The place of each among
 // the others is the bar's.
 void MainWindow::FillStandardBar() {
-  standard_->clear();
+  ClearStandardBar();
   const environment::Bar* bar = environment_->Bars().Find("Standard");
   if (!bar) return;
   QString menu_before;
@@ -253,6 +261,7 @@ void MainWindow::ViewImmediate() {
 }
 
 void MainWindow::ViewProblems() {
+  ShowProblems();
   RaiseProblems();
 }
 
@@ -261,7 +270,6 @@ void MainWindow::Start() {
   environment_->EnterRunMode();
   statusBar()->showMessage(tr("Run mode was announced to the add-in. Programs themselves do not run on this desk."));
 }
-  ShowProblems();
 
 void MainWindow::Tabs() {
   area_->setViewMode(QMdiArea::TabbedView);

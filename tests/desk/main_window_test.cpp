@@ -273,6 +273,22 @@ TEST_F(MainWindowTest, AListThatWasClosedStaysSoUntilSomethingNewIsFound) {
   EXPECT_FALSE(dock->isVisible());
 }
 
+TEST_F(MainWindowTest, NoButtonThatWasOnTheToolbarStaysBehind) {
+  auto* bar = window_->findChild<QToolBar*>("Standard");
+  const auto button =
+      environment_->CommandBars()->Item(std::string("Standard"))->Controls()->Add(host::ControlType::Button, 1);
+  Settle();
+  const auto count = [&] { return bar->findChildren<QAction*>().size(); };
+  const auto before = count(), of_window = window_->findChildren<QAction*>().size();
+  for (int caption = 0; caption < 10; ++caption) {
+    button->SetCaption(std::to_string(caption));
+    Settle();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+  EXPECT_EQ(count(), before);
+  EXPECT_EQ(window_->findChildren<QAction*>().size(), of_window);
+}
+
 TEST_F(MainWindowTest, AGroupOfProjectsIsShownAsOne) {
   files_.Put("C:\\Odd\\Odd.vbp", "Type=Exe\r\nName=\"Odd\"\r\n");
   environment_->Open("C:\\Odd\\Odd.vbp");
