@@ -109,11 +109,11 @@ class MainWindow : public QMainWindow, public environment::Observer {
   void ShowProperties();
   void ShowProblems();
   void RaiseProblems();
-  void ShowSelectedComponent(const std::shared_ptr<environment::Module>& module);
   void FollowProblems();
+  void ShowSelectedComponent(const std::shared_ptr<environment::Module>& module);
   QMdiSubWindow* Show(QWidget& inside, const QString& title, const QString& icon);
   std::shared_ptr<environment::Module> Shared(environment::Module& module) const;
-  bool AskForFile(environment::Module& module);
+  std::string AskForFile(environment::Module& module);  // a path; empty: none was chosen
   // Asks about a file that somebody else changed.
   bool MayReplace(const std::string& file);
   bool MayTakeTheirs(const std::string& file);

@@ -4,6 +4,7 @@
 #include <QStatusBar>
 
 #include "desk/ansi_text.h"
+#include "desk/bulleted.h"
 #include "desk/main_window.h"
 #include "desk/project_tree.h"
 #include "desk/shown_path.h"
@@ -14,21 +15,13 @@
 namespace corvane::desk {
 
 using environment::ChangedFile;
+using environment::FileInTheWay;
 using environment::Module;
 using environment::OnDiskChange;
 using environment::Project;
 using runtime::kCrLf;
 
 namespace {
-
-constexpr size_t kMostNamed = 15;  // files that a question names one by one
-
-std::string Bulleted(const std::vector<std::string>& files) {
-  std::string text;
-  for (size_t at = 0; at < files.size() && at < kMostNamed; ++at) text += kCrLf + ("    " + files[at]);
-  if (files.size() > kMostNamed) text += kCrLf + ("    and " + std::to_string(files.size() - kMostNamed) + " more");
-  return text;
-}
 
 // For message boxes.
 std::string Shown(const std::string& path) {
@@ -45,6 +38,12 @@ std::vector<std::string> ForeignFilesOf(const Module& module) {
 // A related document is only named by its project.
 bool IsReadHere(Module& module) {
   return module.Type() != host::ComponentType::RelatedDocument && !module.Path().empty();
+}
+
+// The dialog asks before a file is replaced, of the very name that was chosen.
+FileInTheWay RuleFor(const std::string& chosen) {
+  const std::string native = environment::NativePath(chosen);
+  return environment::WindowsPath(native) == chosen ? FileInTheWay::Replace : FileInTheWay::Refuse;
 }
 
 const char* ExtensionOf(host::ComponentType type) {
@@ -80,16 +79,16 @@ std::vector<std::string> MainWindow::UnsavedFiles() const {
   return files;
 }
 
-bool MainWindow::AskForFile(Module& module) {
-  const auto project = module.ProjectOf();
-  const std::string folder = environment::FolderOf(project->FileName());
-  const QString proposal =
-      QString::fromStdString(environment::NativePath(folder)) + ToLabel(module.Name()) + ExtensionOf(module.Type());
-  const QString chosen = QFileDialog::getSaveFileName(this, tr("Save %1 As").arg(ToLabel(module.Name())), proposal);
-  if (chosen.isEmpty()) return false;
-  // The dialog has asked whether a file that is there may be replaced.
-  project->SaveAs(module, environment::WindowsPath(chosen.toStdString()), environment::FileInTheWay::Replace);
-  return true;
+std::string MainWindow::AskForFile(Module& module) {
+  const std::string folder = environment::FolderOf(module.ProjectOf()->FileName());
+  const QString extension = ExtensionOf(module.Type());
+  QFileDialog dialog(this, tr("Save %1 As").arg(ToLabel(module.Name())));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(extension.mid(1));
+  if (!folder.empty()) dialog.setDirectory(QString::fromStdString(environment::NativePath(folder)));
+  dialog.selectFile(ToLabel(module.Name()) + extension);
+  if (dialog.exec() != QDialog::Accepted) return {};
+  return environment::WindowsPath(dialog.selectedFiles().value(0).toStdString());
 }
 
 bool MainWindow::MayReplace(const std::string& file) {
@@ -101,16 +100,21 @@ bool MainWindow::MayReplace(const std::string& file) {
 bool MainWindow::SaveModule(const std::shared_ptr<Module>& module) {
   if (!module || asking_) return false;
   const QScopedValueRollback<bool> asking(asking_, true);
+  const bool is_new = module->Path().empty();
+  const std::string path = is_new ? AskForFile(*module) : module->Path();
+  if (path.empty()) return false;
   try {
-    if (module->Path().empty()) return AskForFile(*module);
     const std::vector<std::string> foreign = ForeignFilesOf(*module);
     for (const std::string& file : foreign)
       if (!MayReplace(file)) return false;
-    module->ProjectOf()->Save(*module, foreign.empty() ? OnDiskChange::Refuse : OnDiskChange::Overwrite);
+    if (is_new)
+      module->ProjectOf()->SaveAs(*module, path, RuleFor(path));
+    else
+      module->ProjectOf()->Save(*module, foreign.empty() ? OnDiskChange::Refuse : OnDiskChange::Overwrite);
     statusBar()->showMessage(tr("%1 is saved.").arg(ShownPath(module->Path())));
     return true;
   } catch (const std::exception& error) {
-    return NotSaved(module->Path(), error);
+    return NotSaved(path, error);
   }
 }
 
