@@ -4,6 +4,7 @@
 #include <QFileDialog>
 
 #include "desk/ansi_text.h"
+#include "desk/bulleted.h"
 #include "desk/shown_path.h"
 #include "desk/user_act.h"
 #include "environment/command_bar_model.h"
@@ -20,6 +21,17 @@ constexpr char kAddInsSection[] = "Add-Ins";
 QString AskForProject(QWidget* parent, const QString& title) {
   return QFileDialog::getOpenFileName(parent, title, {},
                                       QObject::tr("Visual Basic projects (*.vbp *.vbg *.VBP *.VBG)"));
+}
+
+// Of the problems from that one on.
+std::vector<std::string> ReasonsFrom(const environment::Environment& environment, size_t first) {
+  std::vector<std::string> reasons;
+  for (size_t at = first; at < environment.Problems().size(); ++at) {
+    const environment::Problem& problem = environment.Problems()[at];
+    const std::string line = problem.line > 0 ? "line " + std::to_string(problem.line) + ": " : std::string();
+    reasons.push_back(line + FromLabel(ShownName(problem.reason)));
+  }
+  return reasons;
 }
 
 }  // namespace
@@ -67,16 +79,19 @@ void Desk::Told(const QString& message) {
   if (window_) window_->Told(message);
 }
 
+// A group of which nothing opens is no more than a file that cannot be read.
 bool Desk::TryOpen(environment::Environment& environment, const QString& path) {
+  const size_t projects = environment.Projects().size(), problems = environment.Problems().size();
+  std::string reason;
   try {
     environment.Open(environment::WindowsPath(path.toStdString()));
-    return true;
+    if (environment.Projects().size() > projects) return true;
+    reason = "no project in it can be read" + Bulleted(ReasonsFrom(environment, problems));
   } catch (const host::Error& error) {
-    services_.Prompts.MsgBox(
-        FromLabel(path) + runtime::kCrLf + "cannot be opened: " + FromLabel(ReasonOf(path.toStdString(), error)),
-        host::vbExclamation);
-    return false;
+    reason = FromLabel(ReasonOf(path.toStdString(), error));
   }
+  services_.Prompts.MsgBox(FromLabel(path) + runtime::kCrLf + "cannot be opened: " + reason, host::vbExclamation);
+  return false;
 }
 
 // The first project comes onto the desk that is there; one that takes its place gets a desk of its own, once it was
@@ -85,7 +100,11 @@ bool Desk::Open(const QString& path) {
   const QString chosen = path.isEmpty() ? AskForProject(window_.get(), tr("Open Project")) : path;
   if (chosen.isEmpty() || !window_->MayLeave()) return false;
   if (environment_->Projects().empty()) {
-    if (!TryOpen(*environment_, chosen)) return false;
+    if (!TryOpen(*environment_, chosen)) {
+      // What was found wrong in it is nothing that is open here.
+      if (!environment_->Problems().empty()) Show(NewEnvironment());
+      return false;
+    }
     path_ = chosen;
     Opened();
     return true;

@@ -145,6 +145,37 @@ TEST_F(DeskOfSample, AFileThatIsNoProjectIsToldAndWhatWasOpenStays) {
   EXPECT_EQ(desk_->EnvironmentOf().ActiveVBProject()->Name(), "Stockroom");
 }
 
+TEST_F(DeskOfSample, AGroupOfWhichNothingOpensIsToldAndWhatWasOpenStays) {
+  Start();
+  QFile group(folder_.filePath("Lost.vbg"));
+  ASSERT_TRUE(group.open(QIODevice::WriteOnly));
+  group.write("VBGROUP 5.0\r\nStartupProject=none.vbp\r\n");
+  group.close();
+  EXPECT_FALSE(desk_->Open(group.fileName()));
+  ASSERT_EQ(prompts_.messages.size(), 1u);
+  EXPECT_EQ(prompts_.messages[0].prompt, group.fileName().toStdString() +
+                                             "\r\ncannot be opened: no project in it can be read"
+                                             "\r\n    line 2: none.vbp: file not found");
+  ASSERT_EQ(desk_->EnvironmentOf().Projects().size(), 1u);
+  EXPECT_EQ(desk_->EnvironmentOf().ActiveVBProject()->Name(), "Stockroom");
+  EXPECT_TRUE(desk_->IsConnected());
+  EXPECT_FALSE(desk_->AddProject(group.fileName()));
+  EXPECT_EQ(prompts_.messages.size(), 2u);
+}
+
+TEST_F(DeskOfSample, AGroupOfWhichNothingOpensLeavesAnEmptyDeskEmpty) {
+  desk_ = std::make_unique<Desk>(Services());
+  QFile group(folder_.filePath("Lost.vbg"));
+  ASSERT_TRUE(group.open(QIODevice::WriteOnly));
+  group.write("VBGROUP 5.0\r\nStartupProject=none.vbp\r\n");
+  group.close();
+  EXPECT_FALSE(desk_->Open(group.fileName()));
+  EXPECT_EQ(prompts_.messages.size(), 1u);
+  EXPECT_TRUE(desk_->Open(QString(CORVANE_SOURCE_DIR) + "/samples/stockroom/Stockroom.vbp"));
+  EXPECT_TRUE(desk_->EnvironmentOf().Problems().empty()) << "those of the group are history";
+  EXPECT_TRUE(desk_->ClickButton());
+}
+
 TEST_F(DeskOfSample, TheTourLeavesPicturesOfTheDeskAndTheExplorer) {
   Start();
   std::ostringstream out;
