@@ -158,7 +158,7 @@ runtime::Variant PropertyList::Typed(const std::string& name, const QString& typ
     if (digits.endsWith('&')) digits.chop(1);
     const uint color = digits.toUInt(&is_hex, 16);
     if (!is_hex) throw host::Error(runtime::kTypeMismatch);
-    return static_cast<long>(color);
+    return static_cast<long>(static_cast<int32_t>(color));
   }
   if (std::holds_alternative<long>(old)) return runtime::ToLong(*bytes);
   return runtime::ToNumber(*bytes);

@@ -109,6 +109,9 @@ TEST_F(DesignerTest, ThePropertyListShowsAndSetsTheSelectedControl) {
   EXPECT_EQ(table.item(row_of("Visible"), 1)->text(), "True");
   table.item(row_of("Visible"), 1)->setText("False");
   EXPECT_EQ(table.item(row_of("Visible"), 1)->text(), "False");
+  table.item(row_of("BackColor"), 1)->setText("&H80000005&");
+  EXPECT_EQ(table.item(row_of("BackColor"), 1)->text(), "&H80000005&");
+  EXPECT_NE(module_->WriteToText().find("BackColor       =   &H80000005&"), std::string::npos);
   table.item(row_of("Left"), 1)->setText("not a number");
   EXPECT_EQ(Number("cmdSave", "Left"), 3000);
   EXPECT_EQ(table.item(row_of("Left"), 1)->text(), "3000");
@@ -132,6 +135,7 @@ TEST(PropertyValues, AreShownAndReadBackByTheirKind) {
   EXPECT_EQ(PropertyList::Shown("BackColor", runtime::Variant(0xC0C0C0L)), "&H00C0C0C0&");
   EXPECT_EQ(PropertyList::Shown("BackColor", runtime::Variant(-2147483633L)), "&H8000000F&");
   EXPECT_EQ(std::get<long>(PropertyList::Typed("BackColor", "&H00FF0000&", runtime::Variant(0L))), 0xFF0000L);
+  EXPECT_EQ(std::get<long>(PropertyList::Typed("BackColor", "&H80000005&", runtime::Variant(0L))), -2147483643L);
   EXPECT_EQ(std::get<bool>(PropertyList::Typed("Visible", "false", runtime::Variant(true))), false);
   EXPECT_EQ(std::get<double>(PropertyList::Typed("Left", "12.5", runtime::Variant(1.0))), 12.5);
   EXPECT_EQ(PropertyList::Shown("Picture", runtime::Variant(runtime::PictureRef())), "(None)");
