@@ -4,8 +4,11 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <cstring>
 
 #include "desk/ansi_text.h"
+#include "desk/clipboard_text.h"
+#include "runtime/strings.h"
 
 namespace corvane::desk {
 
@@ -26,6 +29,18 @@ class Gutter : public QWidget {
  private:
   CodeEditor* editor_;
 };
+
+QString ShownLines(const std::string& bytes) {
+  QString shown;
+  for (size_t from = 0; from <= bytes.size();) {
+    const size_t end = std::min(bytes.find('\n', from), bytes.size());
+    const bool with_return = end > from && end < bytes.size() && bytes[end - 1] == '\r';
+    if (from > 0) shown += '\n';
+    shown += ToShown(std::string_view(bytes).substr(from, end - from - (with_return ? 1 : 0)));
+    from = end + 1;
+  }
+  return shown;
+}
 
 }  // namespace
 
@@ -108,8 +123,23 @@ void CodeEditor::inputMethodEvent(QInputMethodEvent* event) {
   if (Takes(event->commitString())) QPlainTextEdit::inputMethodEvent(event);
 }
 
+// The bytes behind what is shown. Qt's own plain text would have a blank for each no-break space.
+QMimeData* CodeEditor::createMimeDataFromSelection() const {
+  const QString shown = textCursor().selectedText();
+  std::string bytes;
+  for (const QString& line : shown.split(QChar::ParagraphSeparator)) {
+    const auto code = ToBytes(line);
+    if (!code) return QPlainTextEdit::createMimeDataFromSelection();
+    bytes += *code + runtime::kCrLf;
+  }
+  bytes.erase(bytes.size() - std::strlen(runtime::kCrLf));
+  return MimeOfText(bytes).release();
+}
+
 void CodeEditor::insertFromMimeData(const QMimeData* source) {
-  if (source->hasText() && Takes(source->text())) QPlainTextEdit::insertFromMimeData(source);
+  if (!ExactTextOf(*source) && (!source->hasText() || !Takes(source->text()))) return;
+  insertPlainText(ShownLines(TextOf(*source)));
+  ensureCursorVisible();
 }
 
 void CodeEditor::focusInEvent(QFocusEvent* event) {

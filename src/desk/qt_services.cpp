@@ -11,6 +11,7 @@
 #include "cli/plain_services.h"
 #include "desk/ansi_text.h"
 #include "desk/picture_image.h"
+#include "desk/clipboard_text.h"
 #include "desk/send_keys.h"
 #include "desk/user_settings.h"
 #include "environment/disk_files.h"
@@ -19,8 +20,7 @@ namespace corvane::desk {
 
 namespace {
 
-// Other programs take text with LF and a plain image; what this program put there comes back as it was.
-constexpr char kExactText[] = "application/x-corvane-text";
+// Other programs take a plain image; what this program put there comes back as it was.
 constexpr char kExactPicture[] = "application/x-corvane-picture";
 
 QByteArray ToByteArray(const std::string& bytes) {
@@ -33,18 +33,11 @@ class SystemClipboard : public host::Clipboard {
 
   std::string GetText() override {
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-    if (!data) return {};
-    if (data->hasFormat(kExactText)) return data->data(kExactText).toStdString();
-    QString text = data->text();
-    text.replace("\r\n", "\n");
-    return FromLabel(text.replace('\n', "\r\n"));
+    return data ? TextOf(*data) : std::string();
   }
 
   void SetText(const std::string& text) override {
-    auto data = std::make_unique<QMimeData>();
-    data->setText(ToLabel(text).replace("\r\n", "\n"));
-    data->setData(kExactText, ToByteArray(text));
-    QGuiApplication::clipboard()->setMimeData(data.release());
+    QGuiApplication::clipboard()->setMimeData(MimeOfText(text).release());
   }
 
   void SetData(const runtime::PictureRef& picture) override {

@@ -1,10 +1,13 @@
 #include "desk/code_pane.h"
 
+#include <QClipboard>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QMimeData>
 #include <QTextBlock>
 
 #include "desk/ansi_text.h"
+#include "desk/qt_services.h"
 #include "desk/send_keys.h"
 #include "desk/vb_highlighter.h"
 #include "tests/desk/desk_fixture.h"
@@ -23,10 +26,11 @@ class CodePaneTest : public DeskTest {
   std::string CodeText() { return module_->CodeModule()->Lines(1, module_->CodeModule()->CountOfLines()); }
   // The pane and the module always hold the same lines.
   void ExpectSame() {
-    QString shown;
+    const QTextDocument& document = *pane_->Editor().document();
     const long count = module_->CodeModule()->CountOfLines();
-    for (long line = 1; line <= count; ++line) shown += (line > 1 ? "\n" : "") + ToShown(module_->LineView(line));
-    EXPECT_EQ(pane_->Editor().toPlainText(), shown);
+    ASSERT_EQ(document.blockCount(), std::max(1L, count));
+    for (long line = 1; line <= count; ++line)
+      EXPECT_EQ(document.findBlockByNumber(static_cast<int>(line - 1)).text(), ToShown(module_->LineView(line)));
   }
   void Type(const char* keys) {
     pane_->Editor().setFocus();
@@ -171,6 +175,63 @@ TEST_F(CodePaneTest, TheComboBoxesTellWhereTheCursorStands) {
   EXPECT_EQ(of_form[0]->currentText(), "cmdSave");
   EXPECT_EQ(of_form[1]->currentText(), "Click");
   EXPECT_GE(of_form[0]->findText("txtName"), 0);
+}
+
+struct OddText {
+  const char* what;
+  std::string line;
+};
+
+TEST_F(CodePaneTest, WhatIsCutAndPastedKeepsItsBytes) {
+  const OddText texts[] = {
+      {"a no-break space", "' x\xA0y"},
+      {"a byte without a character", "' x\x81y"},
+      {"a control byte", "' x\x01y"},
+      {"a form feed", "' x\fy"},
+      {"a tab", "'\tx"},
+      {"letters", "' \xE9\x80 x"},
+  };
+  for (const OddText& each : texts) {
+    SCOPED_TRACE(each.what);
+    module_->CodeModule()->ReplaceLine(4, each.line);
+    Settle();
+    const std::string before = CodeText();
+    StandAt(3, 1);
+    Type("+{DOWN}+{DOWN}^x");
+    EXPECT_EQ(CodeText().find(each.line), std::string::npos);
+    Type("^v");
+    EXPECT_EQ(CodeText(), before);
+    ExpectSame();
+  }
+}
+
+TEST_F(CodePaneTest, CopiedCodeReachesOtherProgramsAsPlainText) {
+  module_->CodeModule()->ReplaceLine(1, "' x\xA0y \xE9");
+  Settle();
+  StandAt(1, 1);
+  Type("+{DOWN}+{END}^c");
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), QString::fromUtf8("' x\u00A0y é\nPublic Total As Long"));
+}
+
+TEST_F(CodePaneTest, TheAddInAndTheEditorShareTheClipboard) {
+  QtServices services;
+  services.Clipboard().SetText("' one \x81\r\n' two \xA0");
+  StandAt(1, 1);
+  Type("^v~");
+  EXPECT_EQ(module_->LineView(1), "' one \x81");
+  EXPECT_EQ(module_->LineView(2), "' two \xA0");
+  ExpectSame();
+  StandAt(1, 1);
+  Type("+{DOWN}+{END}^c");
+  EXPECT_EQ(services.Clipboard().GetText(), "' one \x81\r\n' two \xA0");
+}
+
+TEST_F(CodePaneTest, PastedControlCharactersAreShownAsThoseOfAFile) {
+  QGuiApplication::clipboard()->setText(QString("' a\fb"));
+  StandAt(1, 1);
+  Type("^v~");
+  EXPECT_EQ(module_->LineView(1), "' a\fb");
+  ExpectSame();
 }
 
 TEST_F(CodePaneTest, BytesWithoutACharacterSurviveAnEditOfTheirLine) {

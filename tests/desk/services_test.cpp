@@ -15,6 +15,7 @@
 #include "desk/user_settings.h"
 #include "environment/disk_files.h"
 
+#include "runtime/code_page.h"
 namespace corvane::desk {
 namespace {
 
@@ -128,6 +129,34 @@ TEST(InputBox, BehindWhatWasTypedTheCaretStands) {
 }
 
 TEST(UserSettings, KeepsAValueAndGivesTheDefaultForAMissingOne) {
+TEST(InputBox, ShowsItsPromptAsItIsWritten) {
+  QtServices services;
+  bool seen = false;
+  QTimer::singleShot(0, [&] {
+    auto* dialog = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+    ASSERT_TRUE(dialog);
+    auto* label = dialog->findChild<QLabel*>();
+    EXPECT_EQ(label->text(), "Salt & pepper: <b>bold</b>\nmore");
+    EXPECT_EQ(label->textFormat(), Qt::PlainText);
+    EXPECT_FALSE(label->buddy()) << "it would make access keys of the prompt's \"&\"";
+    seen = true;
+    dialog->reject();
+  });
+  services.Prompts().InputBox("Salt & pepper: <b>bold</b>\r\nmore");
+  EXPECT_TRUE(seen);
+}
+
+TEST(Clipboard, AnotherCodePageTakesTheCharactersNotTheBytes) {
+  QtServices services;
+  runtime::SetAnsiCodePage(1251);
+  services.Clipboard().SetText("\xA8");
+  runtime::SetAnsiCodePage(1252);
+  EXPECT_EQ(services.Clipboard().GetText(), "?") << "a letter that this page does not hold";
+  runtime::SetAnsiCodePage(1251);
+  EXPECT_EQ(services.Clipboard().GetText(), "\xA8");
+  runtime::SetAnsiCodePage(1252);
+}
+
   QTemporaryDir folder;
   const QString file = folder.filePath("deep/er/corvane.ini");
   UserSettings settings(file);
