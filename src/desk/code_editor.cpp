@@ -114,6 +114,11 @@ bool CodeEditor::Takes(const QString& typed) {
 }
 
 void CodeEditor::keyPressEvent(QKeyEvent* event) {
+  // Qt's line within a line is none in a module.
+  if (event->matches(QKeySequence::InsertLineSeparator)) {
+    QKeyEvent plain(event->type(), Qt::Key_Return, Qt::NoModifier, "\r");
+    return QPlainTextEdit::keyPressEvent(&plain);
+  }
   const QString typed = event->text();
   const bool prints = !typed.isEmpty() && typed.at(0).isPrint() && !(event->modifiers() & Qt::ControlModifier);
   if (!prints || Takes(typed)) QPlainTextEdit::keyPressEvent(event);

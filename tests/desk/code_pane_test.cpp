@@ -177,6 +177,18 @@ TEST_F(CodePaneTest, TheComboBoxesTellWhereTheCursorStands) {
   EXPECT_GE(of_form[0]->findText("txtName"), 0);
 }
 
+TEST_F(CodePaneTest, ShiftEnterIsANewLineAndEveryStepCanBeUndone) {
+  StandAt(5, 5);
+  Type("x");
+  Type("+~");
+  Settle();
+  EXPECT_EQ(module_->LineView(5), "    x");
+  EXPECT_EQ(module_->LineView(6), "Total = 1");
+  ExpectSame();
+  while (pane_->Editor().document()->isUndoAvailable()) pane_->Editor().undo();
+  EXPECT_EQ(module_->WriteToText(), kModule);
+}
+
 struct OddText {
   const char* what;
   std::string line;
