@@ -4,14 +4,15 @@
 #include <QBuffer>
 #include <QClipboard>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
 
 #include "cli/plain_services.h"
 #include "desk/ansi_text.h"
-#include "desk/picture_image.h"
 #include "desk/clipboard_text.h"
+#include "desk/picture_image.h"
 #include "desk/send_keys.h"
 #include "desk/user_settings.h"
 #include "environment/disk_files.h"
@@ -107,12 +108,30 @@ QMessageBox::Icon IconOfStyle(long style) {
   }
 }
 
-// Its text is not selected when it is shown: the caret stands behind it.
-class TypedInput : public QInputDialog {
+// An input dialog whose prompt is no rich text and names no access key.
+class PlainInput : public QInputDialog {
  public:
-  using QInputDialog::QInputDialog;
+  PlainInput(const QString& title, const std::string& prompt, const std::string& text)
+      : QInputDialog(QApplication::activeWindow()) {
+    setWindowTitle(title);
+    setLabelText(ToLabel(prompt).replace("\r\n", "\n"));
+    setTextValue(ToLabel(text));
+  }
   void setVisible(bool visible) override {
     QInputDialog::setVisible(visible);
+    if (auto* label = findChild<QLabel*>()) {
+      label->setTextFormat(Qt::PlainText);
+      label->setBuddy(nullptr);
+    }
+  }
+};
+
+// Its text is not selected when it is shown: the caret stands behind it.
+class TypedInput : public PlainInput {
+ public:
+  using PlainInput::PlainInput;
+  void setVisible(bool visible) override {
+    PlainInput::setVisible(visible);
     if (auto* edit = findChild<QLineEdit*>(); visible && edit) edit->end(false);
   }
 };
@@ -134,15 +153,12 @@ class MessageBoxes : public host::Prompts {
   }
 
   std::string InputBox(const std::string& prompt, const std::string& title, const std::string& text) override {
-    return FromLabel(QInputDialog::getText(QApplication::activeWindow(), TitleOr(title), ToLabel(prompt),
-                                           QLineEdit::Normal, ToLabel(text)));
+    PlainInput box(TitleOr(title), prompt, text);
+    return box.exec() == QDialog::Accepted ? FromLabel(box.textValue()) : std::string();
   }
 
   std::string InputBoxTyped(const std::string& prompt, const std::string& typed) override {
-    TypedInput box(QApplication::activeWindow());
-    box.setWindowTitle(TitleOr({}));
-    box.setLabelText(ToLabel(prompt));
-    box.setTextValue(ToLabel(typed));
+    TypedInput box(TitleOr({}), prompt, typed);
     return box.exec() == QDialog::Accepted ? FromLabel(box.textValue()) : std::string();
   }
 

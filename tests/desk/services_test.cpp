@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -14,8 +15,8 @@
 #include "desk/qt_services.h"
 #include "desk/user_settings.h"
 #include "environment/disk_files.h"
-
 #include "runtime/code_page.h"
+
 namespace corvane::desk {
 namespace {
 
@@ -128,7 +129,6 @@ TEST(InputBox, BehindWhatWasTypedTheCaretStands) {
   EXPECT_EQ(services.Prompts().InputBoxTyped("Type", "a"), "");
 }
 
-TEST(UserSettings, KeepsAValueAndGivesTheDefaultForAMissingOne) {
 TEST(InputBox, ShowsItsPromptAsItIsWritten) {
   QtServices services;
   bool seen = false;
@@ -157,6 +157,7 @@ TEST(Clipboard, AnotherCodePageTakesTheCharactersNotTheBytes) {
   runtime::SetAnsiCodePage(1252);
 }
 
+TEST(UserSettings, KeepsAValueAndGivesTheDefaultForAMissingOne) {
   QTemporaryDir folder;
   const QString file = folder.filePath("deep/er/corvane.ini");
   UserSettings settings(file);
