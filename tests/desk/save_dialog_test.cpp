@@ -101,6 +101,18 @@ TEST_F(SaveDialogTest, ANameWithoutAnExtensionGetsThatOfTheKind) {
   EXPECT_NE(Disk("clsNew.cls"), "");
 }
 
+TEST_F(SaveDialogTest, AFileOfThatNameInOtherLettersIsNotReplaced) {
+  QFile other(folder_.filePath("MODNEW.BAS"));
+  ASSERT_TRUE(other.open(QIODevice::WriteOnly));
+  other.write("precious");
+  other.close();
+  FileAnswer answer("modNew.bas");
+  EXPECT_FALSE(window_->SaveModule(Add(host::ComponentType::StdModule)));
+  EXPECT_EQ(Disk("MODNEW.BAS"), "precious");
+  ASSERT_EQ(prompts_.messages.size(), 1u);
+  EXPECT_NE(prompts_.messages[0].prompt.find("already exists"), std::string::npos) << prompts_.messages[0].prompt;
+}
+
 TEST_F(SaveDialogTest, AFailureNamesTheFileThatWasChosen) {
   const auto module = Add(host::ComponentType::StdModule);
   FileAnswer answer("Stock.vbp.bas/Module1.bas");
