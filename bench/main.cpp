@@ -1,4 +1,4 @@
-// usage: corvane_bench TREE PROGRAM [analysis|listing|search|memory|painting|scripts ...]
+// usage: corvane_bench TREE PROGRAM [analysis|listing|search|memory|painting|commands|scripts ...]
 // TREE is the folder of the sources, PROGRAM our command line.
 // Measures everything, or what is named, in one run and prints one table. Exit status: 0 measured (aims met or not), 1
 // could not measure.
@@ -46,7 +46,8 @@ struct Measurement {
 constexpr Measurement kMeasurements[] = {
     {"analysis", bench::MeasureAnalysis, true}, {"listing", bench::MeasureListing, true},
     {"search", bench::MeasureSearch, true},     {"memory", bench::MeasureMemory, true},
-    {"painting", bench::MeasurePainting, true}, {"scripts", bench::MeasureScripts, false},
+    {"painting", bench::MeasurePainting, true}, {"commands", bench::MeasureCommands, true},
+    {"scripts", bench::MeasureScripts, false},
 };
 
 bool IsMeasurement(std::string_view name) {

@@ -24,12 +24,6 @@ std::string CodeOf(const std::string& path) {
   return text.substr(at);
 }
 
-std::string CodeOf(const GeneratedProject& project) {
-  std::string code;
-  for (const auto& file : project.files) code += CodeOf(file);
-  return code;
-}
-
 // The code list as the explorer has it, on a window that nobody draws.
 class OurList {
  public:
@@ -84,6 +78,12 @@ class Scintilla {
 };
 
 }  // namespace
+
+std::string CodeOf(const GeneratedProject& project) {
+  std::string code;
+  for (const auto& file : project.files) code += CodeOf(file);
+  return code;
+}
 
 void MeasureAnalysis(const Setting& setting, Table& table) {
   OurList ours;

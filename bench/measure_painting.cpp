@@ -46,8 +46,8 @@ double MedianOf(const std::function<double(int)>& run) {
   return Median(times);
 }
 
-// The code of [project], at most [most] bytes and the rest of a file.
-std::string CodeOf(const GeneratedProject& project, size_t most) {
+// The text of modules of [project], at most [most] bytes and the rest of a file.
+std::string TextOf(const GeneratedProject& project, size_t most) {
   std::string text;
   for (const auto& file : project.files) {
     if (!file.ends_with(".bas") && !file.ends_with(".cls")) continue;
@@ -103,7 +103,7 @@ void MeasurePainting(const Setting& setting, Table& table) {
   const std::pair<const GeneratedProject*, size_t> texts[] = {{&setting.projects.front(), 1'000'000},
                                                               {&setting.projects.back(), SIZE_MAX}};
   for (const auto& [project, most] : texts) {
-    list.SetText(CodeOf(*project, most));
+    list.SetText(TextOf(*project, most));
     QApplication::processEvents();
     if (list.ListCount() < 10 * kRows) throw std::runtime_error("too few lines to paint");
     const std::string rows = "list of " + Count(list.ListCount());

@@ -18,6 +18,9 @@ struct Setting {
   std::string scratch;  // folder for files of the moment
 };
 
+// The code of all its modules, one behind the other.
+std::string CodeOf(const GeneratedProject& project);
+
 // Analysing a text into stored lines with marks, and Scintilla's lexer for Visual Basic on the same text.
 void MeasureAnalysis(const Setting& setting, Table& table);
 
@@ -35,6 +38,9 @@ int OpenAndTellMemory(const std::string& project);
 
 // The code list on the Qt canvas, without a display.
 void MeasurePainting(const Setting& setting, Table& table);
+
+// The commands of a loaded list that walk over all its lines, on a window that nobody draws.
+void MeasureCommands(const Setting& setting, Table& table);
 
 // `corvane script` as a whole process, and the same programs in other languages.
 void MeasureScripts(const Setting& setting, Table& table);
