@@ -58,7 +58,7 @@ void Desk::Begin(std::shared_ptr<environment::Environment> environment) {
   ConnectAct(window_.get(), &MainWindow::OpenWanted, this, &Desk::Open, Qt::QueuedConnection);
   ConnectAct(window_.get(), &MainWindow::AddProjectWanted, this, [this] { AddProject({}); });
   ConnectAct(
-      window_.get(), &MainWindow::ReadAgainWanted, this, [this] { Replace(path_); }, Qt::QueuedConnection);
+      window_.get(), &MainWindow::ReadAgainWanted, this, [this] { Replace(path_, added_); }, Qt::QueuedConnection);
   ConnectAct(window_.get(), &MainWindow::AddInManagerWanted, this, &Desk::ManageAddIns);
   ConnectAct(window_.get(), &MainWindow::Left, this, [this] { Disconnect(addin::DisconnectMode::HostShutdown); });
   if (options_.show_window) window_->show();
@@ -112,10 +112,13 @@ bool Desk::Open(const QString& path) {
   return Replace(chosen);
 }
 
-bool Desk::Replace(const QString& path) {
+// What is open stays unless all of [path] and [added] can be read.
+bool Desk::Replace(const QString& path, const QStringList& added) {
   auto next = NewEnvironment();
-  if (!TryOpen(*next, path)) return false;
+  for (const QString& each : QStringList{path} + added)
+    if (!TryOpen(*next, each)) return false;
   path_ = path;
+  added_ = added;
   Show(std::move(next));
   return true;
 }
@@ -137,7 +140,10 @@ void Desk::Opened() {
 bool Desk::AddProject(const QString& path) {
   const QString chosen = path.isEmpty() ? AskForProject(window_.get(), tr("Add Project")) : path;
   if (chosen.isEmpty() || !TryOpen(*environment_, chosen)) return false;
-  if (path_.isEmpty()) path_ = chosen;
+  if (path_.isEmpty())
+    path_ = chosen;
+  else
+    added_ << chosen;
   Opened();
   return true;
 }

@@ -4,6 +4,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 #include <memory>
 #include <vector>
 
@@ -61,7 +62,7 @@ class Desk : public QObject {
   void Begin(std::shared_ptr<environment::Environment> environment);
   void End();
   void Opened();
-  bool Replace(const QString& path);
+  bool Replace(const QString& path, const QStringList& added = {});
   bool TryOpen(environment::Environment& environment, const QString& path);
   void ManageAddIns();
   bool LoadsAtStartup() const;
@@ -74,6 +75,7 @@ class Desk : public QObject {
   std::unique_ptr<addin::Connect> connect_;
   std::vector<std::unique_ptr<addin::Connect>> disconnected_;  // during an act of theirs, which goes on
   QString path_;                                               // of what was opened last
+  QStringList added_;                                          // to that, in order
 };
 
 }  // namespace corvane::desk

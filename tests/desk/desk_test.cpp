@@ -12,6 +12,7 @@
 #include "desk/tour.h"
 #include "desk/user_settings.h"
 #include "environment/command_bar_model.h"
+#include "environment/project.h"
 #include "explorer/frm_add_in.h"
 #include "tests/desk/desk_fixture.h"
 
@@ -135,6 +136,64 @@ TEST_F(DeskOfSample, AnotherProjectTakesThePlaceOfTheFirst) {
   EXPECT_EQ(desk_->EnvironmentOf().Projects().size(), 2u);
   EXPECT_TRUE(desk_->IsConnected());
   EXPECT_TRUE(desk_->ClickButton());
+}
+
+class DeskOfTwoProjects : public DeskOfSample {
+ protected:
+  void SetUp() override {
+    Put("Stock", "");
+    Put("Tools", "");
+    desk_ = std::make_unique<Desk>(Services());
+    ASSERT_TRUE(desk_->Open(File("Stock")));
+    ASSERT_TRUE(desk_->AddProject(File("Tools")));
+    Settle();
+  }
+  QString File(const std::string& project) { return folder_.filePath(QString::fromStdString(project + ".vbp")); }
+  void Put(const std::string& project, const std::string& lines) {
+    QFile file(File(project));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(("Type=Exe\r\n" + lines + "Name=\"" + project + "\"\r\n").c_str());
+  }
+  // The user answers the question about a project file that somebody else has changed.
+  void ReadAgain() {
+    prompts_.answers = {host::vbYes};
+    desk_->Window().CheckDisk();
+    Settle();
+  }
+  std::vector<std::string> Projects() {
+    std::vector<std::string> names;
+    for (const auto& project : desk_->EnvironmentOf().Projects()) names.push_back(project->Name());
+    return names;
+  }
+};
+
+TEST_F(DeskOfTwoProjects, AProjectThatIsReadAgainKeepsTheAddedOnes) {
+  for (const char* changed : {"Stock", "Tools", "Stock"}) {
+    SCOPED_TRACE(changed);
+    const auto* before = &desk_->EnvironmentOf();
+    Put(changed, "Title=\"" + std::to_string(prompts_.messages.size()) + "\"\r\n");
+    ReadAgain();
+    EXPECT_NE(&desk_->EnvironmentOf(), before);
+    EXPECT_EQ(Projects(), (std::vector<std::string>{"Stock", "Tools"}));
+  }
+  EXPECT_EQ(prompts_.messages.size(), 3u);
+}
+
+TEST_F(DeskOfTwoProjects, WhatIsOpenStaysWhenOneOfThemCannotBeReadAgain) {
+  Put("Stock", "Title=\"Other\"\r\n");
+  ASSERT_TRUE(QFile::remove(File("Tools")));
+  ReadAgain();
+  ASSERT_EQ(prompts_.messages.size(), 2u);
+  EXPECT_NE(prompts_.messages[1].prompt.find("Tools.vbp"), std::string::npos);
+  EXPECT_EQ(Projects(), (std::vector<std::string>{"Stock", "Tools"}));
+}
+
+TEST_F(DeskOfTwoProjects, AnotherProjectTakesThePlaceOfBoth) {
+  Put("Lent", "");
+  ASSERT_TRUE(desk_->Open(File("Lent")));
+  Put("Lent", "Title=\"Other\"\r\n");
+  ReadAgain();
+  EXPECT_EQ(Projects(), std::vector<std::string>{"Lent"});
 }
 
 TEST_F(DeskOfSample, AFileThatIsNoProjectIsToldAndWhatWasOpenStays) {
