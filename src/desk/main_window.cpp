@@ -111,6 +111,7 @@ void MainWindow::BuildDocks() {
   ConnectAct(tree_, &ProjectTree::Selected, this, [this](const auto& module) {
     environment_->SelectComponent(module);
     ShowProperties();
+    UpdateCommands();
   });
   connect(tree_, &ProjectTree::Told, this, &MainWindow::Told);
   connect(properties_, &PropertyList::Told, this, &MainWindow::Told);

@@ -183,8 +183,9 @@ void MainWindow::UpdateCommands() {
   commands_["redo"]->setEnabled(document && document->isRedoAvailable());
   commands_["find"]->setEnabled(pane);
   commands_["find-next"]->setEnabled(pane && find_ && !find_->Text().isEmpty());
-  commands_["save"]->setEnabled(module != nullptr);
-  commands_["code"]->setEnabled(module && module->Type() != host::ComponentType::RelatedDocument);
+  const bool has_code = module && module->Type() != host::ComponentType::RelatedDocument;
+  commands_["save"]->setEnabled(has_code);
+  commands_["code"]->setEnabled(has_code);
   commands_["object"]->setEnabled(module && HasDesigner(*module));
   commands_["close"]->setEnabled(inside);
   commands_["view-problems"]->setEnabled(!environment_->Problems().empty());

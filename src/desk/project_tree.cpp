@@ -186,12 +186,13 @@ void ProjectTree::OpenMenu(const QPoint& at) {
   QTreeWidgetItem* item = itemAt(at);
   QMenu menu(this);
   if (const auto module = ModuleOf(item)) {
-    menu.addAction(tr("View &Code"), this, [this, module] { emit CodeWanted(module); })
-        ->setEnabled(module->Type() != ComponentType::RelatedDocument);
+    const bool has_code = module->Type() != ComponentType::RelatedDocument;
+    menu.addAction(tr("View &Code"), this, [this, module] { emit CodeWanted(module); })->setEnabled(has_code);
     menu.addAction(tr("View O&bject"), this, [this, module] { emit DesignerWanted(module); })
         ->setEnabled(HasDesigner(*module));
     menu.addSeparator();
-    menu.addAction(tr("&Save %1").arg(ToLabel(module->Name())), this, [this, module] { emit SaveWanted(module); });
+    menu.addAction(tr("&Save %1").arg(ToLabel(module->Name())), this, [this, module] { emit SaveWanted(module); })
+        ->setEnabled(has_code);
   } else if (const auto project = ProjectOf(item)) {
     ConnectAct(menu.addAction(tr("&Work on This Project")), &QAction::triggered, this, [this, project] {
       environment_.ActivateProject(project);

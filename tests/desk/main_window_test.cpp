@@ -1,5 +1,6 @@
 #include "desk/main_window.h"
 
+#include <QApplication>
 #include <QDockWidget>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -7,6 +8,7 @@
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QShortcut>
+#include <QTimer>
 #include <QToolBar>
 
 #include "desk/code_pane.h"
@@ -153,6 +155,46 @@ TEST_F(MainWindowTest, NoTwoButtonsOfTheToolbarHaveOnePicture) {
     seen.push_back(picture);
   }
   EXPECT_GT(seen.size(), 5u);
+}
+
+// The texts of the menu that the tree opens at its current row; what is disabled in brackets.
+std::vector<QString> MenuOf(ProjectTree& tree) {
+  std::vector<QString> texts;
+  QTimer::singleShot(0, &tree, [&] {
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    if (!menu) return;
+    for (const QAction* action : menu->actions())
+      if (!action->isSeparator()) texts.push_back(action->isEnabled() ? action->text() : "[" + action->text() + "]");
+    menu->close();
+  });
+  emit tree.customContextMenuRequested(tree.visualItemRect(tree.currentItem()).center());
+  return texts;
+}
+
+TEST_F(MainWindowTest, ARelatedDocumentHasNothingToSave) {
+  files_.Put("C:\\Work\\Noted.vbp",
+             "Type=Exe\r\nRelatedDoc=notes.txt\r\nModule=modNote; modNote.bas\r\nName=\"Noted\"\r\n");
+  files_.Put("C:\\Work\\modNote.bas", "Attribute VB_Name = \"modNote\"\r\nOption Explicit\r\n");
+  files_.Put("C:\\Work\\notes.txt", "words");
+  environment_->Open("C:\\Work\\Noted.vbp");
+  window_->ShowProject();
+  ProjectTree& tree = window_->Tree();
+  const struct {
+    const char* text;
+    bool has_code;
+    std::vector<QString> menu;
+  } kCases[] = {{"modNote", true, {"View &Code", "[View O&bject]", "&Save modNote"}},
+                {"notes.txt", false, {"[View &Code]", "[View O&bject]", "[&Save notes.txt]"}},
+                {"modNote", true, {"View &Code", "[View O&bject]", "&Save modNote"}}};
+  for (const auto& c : kCases) {
+    const auto items = tree.findItems(c.text, Qt::MatchContains | Qt::MatchRecursive);
+    ASSERT_EQ(items.size(), 1) << c.text;
+    tree.setCurrentItem(items.front());
+    Settle();
+    EXPECT_EQ(window_->Command("code")->isEnabled(), c.has_code) << c.text;
+    EXPECT_EQ(window_->Command("save")->isEnabled(), c.has_code) << c.text;
+    EXPECT_EQ(MenuOf(tree), c.menu);
+  }
 }
 
 TEST_F(MainWindowTest, ClosingAPaneTakesItFromTheEnvironment) {
