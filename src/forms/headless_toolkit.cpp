@@ -116,12 +116,13 @@ void HeadlessToolkit::DoEvents() {
   for (size_t left = posted_.size(); left > 0 && !posted_.empty(); --left) Guard(TakeFirst(posted_));
 }
 
-void HeadlessToolkit::PopupMenu(Form&, Menu& menu, Twips, Twips) {
+void HeadlessToolkit::PopupMenu(Form&, Menu& menu, Twips x, Twips y) {
   std::vector<std::string> offered{menu.Name()};
   for (const Menu* item : menu.Items()) {
     if (item->Visible()) offered.push_back(Shown(*item));
   }
   popups_.push_back(std::move(offered));
+  popup_places_.emplace_back(x, y);
   const std::string answer = popup_answers_.empty() ? std::string() : TakeFirst(popup_answers_);
   if (answer.empty()) return;
   Menu* chosen = ItemCaptioned(menu, answer);

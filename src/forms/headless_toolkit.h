@@ -9,6 +9,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "forms/controls.h"
@@ -77,6 +78,8 @@ class HeadlessToolkit : public Toolkit {
   // The next popup menu chooses the item of that caption ("&" left out), below its sub-menus too; "" closes it without
   // a choice, as a menu does with no answer prepared. A caption that the menu does not offer is a fault.
   void OnPopup(std::string caption) { popup_answers_.push_back(std::move(caption)); }
+  // Where the popup menus were shown so far: X, Y in their forms.
+  const std::vector<std::pair<Twips, Twips>>& PopupPlaces() const { return popup_places_; }
   // What the popup menus offered so far: per menu its name, then the captions of its visible items; "(x)" for a
   // disabled one, "*x" for a checked one, "-" for a separator.
   const std::vector<std::vector<std::string>>& Popups() const { return popups_; }
@@ -108,6 +111,7 @@ class HeadlessToolkit : public Toolkit {
   std::map<std::string, std::deque<std::function<void(Form&)>>> modal_acts_;
   std::deque<std::string> popup_answers_;
   std::vector<std::vector<std::string>> popups_;
+  std::vector<std::pair<Twips, Twips>> popup_places_;
   std::map<Timer*, long> due_;
   Control* under_pointer_ = nullptr;
   long now_ = 0;

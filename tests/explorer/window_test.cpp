@@ -247,6 +247,7 @@ TEST_F(Window, DisplayPopsUpItsMenuFromTheSecondTimeOn) {
   form.Display();
   ASSERT_EQ(toolkit.Popups().size(), 1u);
   EXPECT_EQ(toolkit.Popups()[0][0], "mnuIDE");
+  EXPECT_EQ(toolkit.PopupPlaces().back(), std::pair(3500.0f, 2000.0f));
   form.Unload();
   form.Display();
   EXPECT_EQ(toolkit.Popups().size(), 1u);

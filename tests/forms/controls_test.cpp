@@ -256,10 +256,11 @@ TEST_F(Menus, DisabledHiddenAndSeparatorItemsAreOutOfReach) {
 
 TEST_F(Menus, PopupsClickBeforeTheyReturn) {
   toolkit.OnPopup("Deep");
-  window.PopupMenu(mnuPop, 100, 100);
+  window.PopupMenu(mnuPop, 100, 200);
   window.log.push_back("back");
   EXPECT_EQ(window.Taken(), (Log{"mnuPop_Click", "mnuDeep_Click", "back"}));
   EXPECT_EQ(toolkit.Popups(), (std::vector<Log>{{"mnuPop", "Sub"}}));
+  EXPECT_EQ(toolkit.PopupPlaces(), (std::vector<std::pair<Twips, Twips>>{{100, 200}}));
 }
 
 TEST_F(Menus, PopupsTellWhatTheyOffer) {
