@@ -115,7 +115,7 @@ TEST_F(DiskFilesTest, AFolderIsReadOnceForManyNamesThatItLacks) {
     }
   });
   RecordProperty("seconds", std::to_string(seconds));
-  EXPECT_LT(seconds, 0.5);  // 0.03; one reading of the folder for each name is 1.4
+  EXPECT_LT(seconds, 0.5);  // 0.03; one reading of the folder for each name is 1.3
 }
 
 // A name that was looked for in vain, and a file that comes right after it: the folder's time may not tell.
