@@ -111,8 +111,8 @@ class RefusingSettings : public FakeSettings {
 
 TEST_F(Connecting, SettingsThatRefuseKeepNothingFromEnding) {
   RefusingSettings settings;
-  host::Services refusing{services.clipboard, services.prompts, settings,       services.app,
-                          services.screen,    services.loop,    services.files, services.pictures};
+  host::Services refusing{services.clipboard, services.prompts, settings,          services.app,    services.screen,
+                          services.loop,      services.files,   services.pictures, services.printer};
   addin::Connect other{refusing, toolkit};
   other.AddinInstance_OnConnection(environment, ConnectMode::AfterStartup);
   other.Show(false);
@@ -339,6 +339,24 @@ TEST_F(Connecting, DisconnectingWithoutTheWindowStoresZero) {
   Connect(ConnectMode::Startup);
   Disconnect();
   EXPECT_EQ(Setting(), "0");
+}
+
+TEST_F(Connecting, TheWindowIsUnloadedWithTheControlsGoneAndTheSettingSaved) {
+  Connect(ConnectMode::Startup);
+  connect.Show(false);
+  bool unloaded = false;
+  explorer::frmAddIn& window = *connect.mfrmAddIn();
+  window.UnloadEvent = [&, unload = window.UnloadEvent](bool& cancel) {
+    unloaded = true;
+    EXPECT_EQ(Setting(), "1");
+    EXPECT_FALSE(connect.FormDisplayed);
+    EXPECT_EQ(connect.mfrmAddIn(), &window) << "let go of afterwards";
+    EXPECT_EQ(Captions("Standard").size() + Captions("Add-Ins").size(), 4u);
+    unload(cancel);
+  };
+  Disconnect();
+  EXPECT_TRUE(unloaded);
+  EXPECT_EQ(connect.mfrmAddIn(), nullptr);
 }
 
 TEST_F(Connecting, DisconnectingTakesTheControlsAway) {

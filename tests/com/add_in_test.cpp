@@ -90,17 +90,43 @@ TEST_F(AddInTest, ConnectingAsksTheEnvironmentForTheseAndNoMore) {
             "get commandbars(); get item(\"Standard\"); get controls(); get count(); get add(1, , , 3); "
             "put visible = True; put state = 0; put style = 1; call pasteface(); put caption = \"Corvane - 2000\"; "
             "get commandbars(); get item(\"Add-Ins\"); get controls(); get add(1); put caption = \"&Corvane - 2000\"; "
-            "get events(); get events(); get commandbarevents(<control>); "
-            "get events(); get commandbarevents(<control>); get vbbuildevents()");
+            "get events(); get events(); get commandbarevents(<button>); "
+            "get events(); get commandbarevents(<item>); get vbbuildevents()");
   Disconnect();
   EXPECT_EQ(TakeCalls(), "call delete(); call delete()");
+}
+
+// Each control hears no click any more when it goes; the window is unloaded with the setting saved.
+TEST_F(AddInTest, DisconnectingHasItsOrder) {
+  Connect();
+  environment_.Click();
+  ASSERT_TRUE(WindowShown());
+  std::vector<std::string> steps;
+  const auto note = [&](const std::string& step) {
+    steps.push_back(step + (environment_.clicks->sink ? ", button bound" : "") +
+                    (environment_.item_clicks->sink ? ", item bound" : "") + ", setting " + Setting());
+  };
+  environment_.button->Do("Delete", [&](DISPPARAMS&) { note("button"); });
+  environment_.item->Do("Delete", [&](DISPPARAMS&) { note("item"); });
+  explorer::frmAddIn& window = *add_in_->Current()->AddIn().mfrmAddIn();
+  window.UnloadEvent = [&, unload = window.UnloadEvent](bool& cancel) {
+    note("unload");
+    unload(cancel);
+  };
+  Disconnect();
+  EXPECT_EQ(steps,
+            (std::vector<std::string>{"button, item bound, setting none", "item, setting none", "unload, setting 1"}));
 }
 
 TEST_F(AddInTest, BetweenConnectionAndDisconnectionOnlyWhatIsAllowedIsHeld) {
   Connect();
   // The root; the button and the menu item; their events and the build events, each also by its connection point.
   EXPECT_EQ(environment_.vbe->References(), 2u);
-  EXPECT_EQ(environment_.bars->References() + environment_.bar->References() + environment_.controls->References(), 6u);
+  ULONG bars = 0;
+  for (auto& object :
+       {environment_.bars, environment_.bar, environment_.controls, environment_.menu, environment_.menu_controls})
+    bars += object->References() - 1;  // that of the list
+  EXPECT_EQ(bars, 9u) << "those of the test itself";
   Disconnect();
   EXPECT_EQ(environment_.Held(), 0u);
   EXPECT_FALSE(environment_.clicks->sink);
@@ -195,9 +221,11 @@ TEST_F(AddInTest, NoApplicationIsShownToo) {
 
 TEST_F(AddInTest, ObjectsThatAreGoneAtTheEndAreNoHarm) {
   Connect();
-  for (auto& object : {environment_.control, environment_.clicks, environment_.builds})
+  for (auto& object :
+       {environment_.button, environment_.item, environment_.clicks, environment_.item_clicks, environment_.builds})
     for (const char* member : {"Delete", "Caption"}) object->FailWith(member, DISP_E_BADCALLEE);
   environment_.clicks->sink = {};
+  environment_.item_clicks->sink = {};
   environment_.builds->sink = {};
   Disconnect();
   EXPECT_EQ(environment_.Held(), 0u);
@@ -497,12 +525,14 @@ TEST_F(ByName, TheEventsAreReadBoundAndUnbound) {
   Connect();
   Dispatch object = Object();
   const Value nothing(static_cast<IDispatch*>(nullptr));
-  for (const wchar_t* name : {L"MenuHandler", L"MenuHand"}) {
-    EXPECT_EQ(object.Get(name).ToObject().Get(), environment_.clicks.As<IDispatch>().Get());
+  for (const auto& [name, clicks] :
+       {std::pair(L"MenuHandler", environment_.clicks), std::pair(L"MenuHand", environment_.item_clicks)}) {
+    EXPECT_EQ(object.Get(name).ToObject().Get(), clicks.As<IDispatch>().Get());
+    EXPECT_TRUE(clicks->sink);
     object.Put(name, nothing);
     EXPECT_FALSE(object.Get(name).ToObject());
+    EXPECT_FALSE(clicks->sink);
   }
-  EXPECT_FALSE(environment_.clicks->sink);
   object.Put(L"MenuHandler", Value(environment_.clicks.As<IDispatch>().Get()));
   environment_.Click();
   EXPECT_TRUE(WindowShown());
@@ -519,7 +549,7 @@ TEST_F(ByName, ControlsAreMadeOfACaption) {
   TakeCalls();
   Dispatch object = Object();
   EXPECT_EQ(object.Get(L"AddToAddInMenu", std::string("&More")).ToObject().Get(),
-            environment_.control.As<IDispatch>().Get());
+            environment_.item.As<IDispatch>().Get());
   EXPECT_EQ(TakeCalls(),
             "get commandbars(); get item(\"Add-Ins\"); get controls(); get add(1); put caption = \"&More\"");
   EXPECT_TRUE(object.Get(L"AddToAddInCommandBar", std::string("More")).ToObject());

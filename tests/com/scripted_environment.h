@@ -11,15 +11,16 @@ struct ScriptedEnvironment {
     Tie(vbe, "CommandBars", bars);
     Tie(vbe, "Events", events);
     window->Answer("HWnd", 0L);
-    Tie(bars, "Item", bar);
     Tie(bar, "Controls", controls);
-    controls->Answer("Count", 3L);
-    Tie(controls, "Add", control);
+    Tie(menu, "Controls", menu_controls);
+    for (auto& own : {controls, menu_controls}) own->Answer("Count", 3L);
+    Tie(controls, "Add", button);
+    Tie(menu_controls, "Add", item);
     for (const char* member : {"Visible", "State", "Style", "Caption", "PasteFace", "Delete"})
-      control->Answer(member, Value());
-    Tie(events, "CommandBarEvents", clicks);
+      for (auto& control : {button, item}) control->Answer(member, Value());
+    AnswerByArgument();
     Tie(events, "VBBuildEvents", builds);
-    clicks->has_events = builds->has_events = true;
+    clicks->has_events = item_clicks->has_events = builds->has_events = true;
   }
 
   IDispatch* Root() const { return vbe.Get(); }
@@ -28,7 +29,7 @@ struct ScriptedEnvironment {
     VARIANT arguments[3];
     for (VARIANT& argument : arguments) VariantInit(&argument);
     arguments[2].vt = VT_DISPATCH;
-    arguments[2].pdispVal = control.Get();
+    arguments[2].pdispVal = button.Get();
     arguments[1].vt = arguments[0].vt = VT_BYREF | VT_BOOL;
     arguments[1].pboolVal = &handled;
     arguments[0].pboolVal = &cancel_default;
@@ -47,13 +48,28 @@ struct ScriptedEnvironment {
   }
 
   std::shared_ptr<Log> log;
+  // The button of the "Standard" bar and the item of the "Add-Ins" menu, and the clicks on each.
   ComPointer<ScriptedObject> vbe = New("vbe"), window = New("window"), bars = New("bars"), bar = New("bar"),
-                             controls = New("controls"), control = New("control"), events = New("events"),
-                             clicks = New("clicks"), builds = New("builds");
+                             controls = New("controls"), button = New("button"), menu = New("menu"),
+                             menu_controls = New("menu controls"), item = New("item"), events = New("events"),
+                             clicks = New("clicks"), item_clicks = New("item clicks"), builds = New("builds");
 
  private:
   std::vector<ComPointer<ScriptedObject>> Members() const {
-    return {vbe, window, bars, bar, controls, control, events, clicks, builds};
+    return {vbe, window, bars, bar, controls, button, menu, menu_controls, item, events, clicks, item_clicks, builds};
+  }
+  // What a call asks for stands in its last argument. Each answer holds one reference, whichever it is.
+  void AnswerByArgument() {
+    Tie(bars, "Item", bar);
+    Tie(events, "CommandBarEvents", clicks);
+    bars->Do("Item", [this](DISPPARAMS& asked) {
+      const bool is_menu = asked.rgvarg[0].vt == VT_BSTR && std::wstring(asked.rgvarg[0].bstrVal) == L"Add-Ins";
+      Tie(bars, "Item", is_menu ? menu : bar);
+    });
+    events->Do("CommandBarEvents", [this](DISPPARAMS& asked) {
+      const bool of_item = asked.rgvarg[0].vt == VT_DISPATCH && Scripted(asked.rgvarg[0].pdispVal) == item.Get();
+      Tie(events, "CommandBarEvents", of_item ? item_clicks : clicks);
+    });
   }
   ComPointer<ScriptedObject> New(const std::string& name) { return ScriptedObject::New(name, log); }
   static void Tie(const ComPointer<ScriptedObject>& from, const char* member, const ComPointer<ScriptedObject>& to) {
