@@ -122,6 +122,39 @@ TEST_F(Button, WithoutABorderThePointerChangesNothing) {
   EXPECT_FALSE(button.tmr.Enabled());
 }
 
+TEST_F(Button, DisabledItsBorderStaysAtRest) {
+  button.SetBorderStyle(1);
+  button.SetEnabled(false);
+  Canvas().Forget();
+  for (Control* part : {static_cast<Control*>(&button.pic), static_cast<Control*>(&button.img)}) {
+    part->UserMouseMove(0, 0, 10, 10);
+    part->UserMouseDown(vbLeftButton, 0, 10, 10);
+    part->UserMouseUp(vbLeftButton, 0, 10, 10);
+  }
+  EXPECT_THAT(Canvas().Calls(), IsEmpty());
+  EXPECT_FALSE(button.tmr.Enabled());
+  EXPECT_EQ(services.loop.yields, 0);
+  EXPECT_EQ(clicks, 0);
+  button.SetEnabled(true);
+  EXPECT_THAT(Drawn("line"), testing::ElementsAreArray(Frame(kShadow, kWhite)));
+}
+
+TEST_F(Button, OverThePictureItLooksAsOverTheSurface) {
+  button.SetBorderStyle(1);
+  Canvas().Forget();
+  button.img.UserMouseMove(0, 0, 10, 10);
+  EXPECT_THAT(Drawn("line"), testing::ElementsAreArray(Frame(kWhite, kShadow)));
+  EXPECT_TRUE(button.tmr.Enabled());
+  toolkit.SetControlUnderPointer(&button.img);
+  toolkit.Advance(100);
+  EXPECT_TRUE(button.tmr.Enabled());
+  button.img.UserMouseDown(vbLeftButton, 0, 10, 10);
+  EXPECT_THAT(Drawn("line"), testing::ElementsAreArray(Frame(kBlack, kWhite)));
+  EXPECT_EQ(services.loop.yields, 1);
+  button.img.UserMouseUp(vbLeftButton, 0, 10, 10);
+  EXPECT_THAT(Drawn("line"), testing::ElementsAreArray(Frame(kShadow, kWhite)));
+}
+
 TEST_F(Button, LeavingFastStillClearsTheFrame) {
   button.SetBorderStyle(1);
   button.pic.UserMouseMove(0, 0, 10, 10);
