@@ -122,6 +122,7 @@ TEST_F(Button, WithoutABorderThePointerChangesNothing) {
   EXPECT_FALSE(button.tmr.Enabled());
 }
 
+// Nor does it when a surface hears the mouse all the same.
 TEST_F(Button, DisabledItsBorderStaysAtRest) {
   button.SetBorderStyle(1);
   button.SetEnabled(false);
@@ -130,6 +131,10 @@ TEST_F(Button, DisabledItsBorderStaysAtRest) {
     part->UserMouseMove(0, 0, 10, 10);
     part->UserMouseDown(vbLeftButton, 0, 10, 10);
     part->UserMouseUp(vbLeftButton, 0, 10, 10);
+    part->MouseMove(0, 0, 10, 10);
+    part->MouseDown(vbLeftButton, 0, 10, 10);
+    part->MouseUp(vbLeftButton, 0, 10, 10);
+    part->Click();
   }
   EXPECT_THAT(Canvas().Calls(), IsEmpty());
   EXPECT_FALSE(button.tmr.Enabled());
