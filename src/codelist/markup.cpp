@@ -15,11 +15,15 @@ constexpr forms::Color levelColors[] = {
     forms::RGB(0, 0, 128),   forms::RGB(128, 128, 0), forms::RGB(128, 0, 0),
 };
 
-bool IsHiddenCharacter(char c) {
+}  // namespace
+
+bool IsMarkCharacter(char c) {
   return c == kBold || c == kPlainEntry || c == kBlockComment;
 }
 
-}  // namespace
+size_t PlainLength(std::string_view run) {
+  return run.size() - static_cast<size_t>(std::count_if(run.begin(), run.end(), IsMarkCharacter));
+}
 
 Mark FirstMark(std::string_view text, size_t from) {
   while (from + 2 < text.size()) {
@@ -47,7 +51,7 @@ std::string CleanText(std::string_view text) {
   std::string clean = FirstMark(text).step == 0
                           ? std::string(text)
                           : runtime::Replace(runtime::Replace(text, kLevelUp, ""), kLevelDown, "");
-  clean.erase(std::remove_if(clean.begin(), clean.end(), IsHiddenCharacter), clean.end());
+  clean.erase(std::remove_if(clean.begin(), clean.end(), IsMarkCharacter), clean.end());
   return clean;
 }
 

@@ -32,6 +32,10 @@ long SumOfMarks(std::string_view text);
 // [text] without its marks; picture marks stay.
 std::string CleanText(std::string_view text);
 
+// Characters that are marks by themselves, and the count of the others in [run], a text between two level marks.
+bool IsMarkCharacter(char c);
+size_t PlainLength(std::string_view run);
+
 // A level as the state of a line holds it: a negative one as 200 less the level.
 constexpr int32_t EncodeLevel(long level) {
   return static_cast<int32_t>(level >= 0 ? level : 200 - level);

@@ -28,11 +28,19 @@ bool IsHidden(int32_t state) {
   return state >= kHiddenFrom && state < kBoundary;
 }
 
-// What is seen of [text] when [skip] characters of it, fewer than it has, are scrolled out; half of one of two bytes is
-// not.
-std::string_view Behind(std::string_view text, size_t skip) {
-  if (skip > 0 && runtime::AnsiCodePage().IsSecondByte(text, skip)) ++skip;
-  return text.substr(skip);
+// What is seen of [run] when [skip] plain characters of it, fewer than it has, are scrolled out; half of one of two
+// bytes is not. The marks among them still hold for what is behind them. [cut] keeps what is seen.
+std::string_view Behind(std::string_view run, size_t skip, std::string& cut) {
+  if (skip == 0) return run;
+  cut.clear();
+  size_t place = 0;
+  for (; skip > 0; ++place)
+    if (IsMarkCharacter(run[place]))
+      cut += run[place];
+    else
+      --skip;
+  if (runtime::AnsiCodePage().IsSecondByte(run, place)) ++place;
+  return cut.append(run.substr(place));
 }
 
 bool HasWidth(char character) {
@@ -125,22 +133,23 @@ void ucListBox::PaintText(Twips x, Twips y, long index) {
   long level = store.LineLevel(index);
   pic.SetForeColor(LevelColor(level));
   if (listMode == kGridList) return PaintGrid(x, y, text);
-  auto skip = static_cast<size_t>(firstColumn);  // characters cut off in front
+  auto skip = static_cast<size_t>(firstColumn);  // characters cut off in front; marks are none
+  std::string cut;
   for (Mark mark = FirstMark(text); mark.step != 0; mark = FirstMark(text)) {
     const std::string_view segment = text.substr(0, mark.place);
     text.remove_prefix(mark.place + kLevelUp.size());
-    if (skip < segment.size()) {
+    if (const size_t length = PlainLength(segment); skip < length) {
       pic.SetForeColor(LevelColor(level));
-      pen += PaintSegment(pen, y, Behind(segment, skip), true);
+      pen += PaintSegment(pen, y, Behind(segment, skip, cut), true);
       skip = 0;
     } else {
-      skip -= segment.size();
+      skip -= length;
     }
     level += mark.step;
   }
   pic.SetForeColor(LevelColor(level));
   if (treeMode) return PaintTreeEntry(pen, y, index, text, level, skip);
-  if (skip < text.size()) PaintSegment(pen, y, Behind(text, skip), false);
+  if (skip < PlainLength(text)) PaintSegment(pen, y, Behind(text, skip, cut), false);
   runningLevel = level;
 }
 
@@ -248,7 +257,8 @@ void ucListBox::PaintTreeEntry(Twips x, Twips y, long index, std::string_view te
   const size_t icon = runtime::UCase(shown).find("[ICON=", 1);
   const size_t icon_end = icon == std::string::npos ? icon : shown.find(']', icon);
   if (icon_end != std::string::npos) shown.erase(icon, icon_end - icon + 1);
-  if (skip < shown.size()) PaintSegment(x, y, Behind(shown, skip), false);
+  std::string cut;
+  if (skip < PlainLength(shown)) PaintSegment(x, y, Behind(shown, skip, cut), false);
   if (!box || indent == 0 || skip > 0) return;
   PaintTreeBox(x + TreeBoxOffset(indent), y, index < store.Count() && IsHidden(store.State(index + 1)));
 }

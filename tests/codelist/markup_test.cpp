@@ -26,6 +26,16 @@ TEST(Markup, CleanTextLooksAtEachMarkOnce) {
   EXPECT_EQ(CleanText("//-\\+\\"), "/+\\") << "but no pass comes again";
 }
 
+TEST(Markup, ThePlainLengthCountsNoMarks) {
+  EXPECT_EQ(PlainLength(""), 0u);
+  EXPECT_EQ(PlainLength(" \x02If"), 3u);
+  EXPECT_EQ(PlainLength("\x03(a)\x06"), 3u);
+  EXPECT_EQ(PlainLength("\x04"
+                        "1\x04x"),
+            4u)
+      << "a picture mark is text";
+}
+
 TEST(Markup, MarksAreCountedFromLeftToRight) {
   EXPECT_EQ(SumOfMarks("a"), 0);
   EXPECT_EQ(SumOfMarks("/+\\/+\\a/-\\"), 1);

@@ -128,6 +128,50 @@ TEST_F(Painter, CutsCharactersScrolledOutAndKeepsTheLevels) {
   EXPECT_THAT(TextsOnRow(2), IsEmpty());
 }
 
+TEST_F(Painter, AMarkIsNoScrolledCharacterAndStillHoldsBehindIt) {
+  list.sGrid("VB");
+  list.SetText("x\r\nIf a\r\n");
+  const std::string a = " 234 \" a\" Arial 9.75 #0000ff";
+  list.hs.SetValue(1);
+  EXPECT_THAT(TextsOnRow(2),
+              ElementsAre("384 234 \"If\" Arial 9.75 #000000", "392 234 \"If\" Arial 9.75 #000000", "588" + a));
+  list.hs.SetValue(2);
+  EXPECT_THAT(TextsOnRow(2),
+              ElementsAre("384 234 \"f\" Arial 9.75 #000000", "392 234 \"f\" Arial 9.75 #000000", "490" + a))
+      << "still bold";
+  list.hs.SetValue(3);
+  EXPECT_THAT(TextsOnRow(2), ElementsAre("392" + a));
+}
+
+TEST_F(Painter, AKeywordAtTheEndOfALineScrollsOutCharacterByCharacter) {
+  list.sGrid("TEXT");
+  list.SetText(
+      "x\r\na\x02"
+      "bc\r\n");
+  list.hs.SetValue(3);
+  EXPECT_THAT(TextsOnRow(2), ElementsAre("384 234 \"c\" Arial 9.75 #000000", "392 234 \"c\" Arial 9.75 #000000"));
+  list.hs.SetValue(4);
+  EXPECT_THAT(TextsOnRow(2), IsEmpty());
+}
+
+TEST_F(Painter, ALineInsideABlockCommentIsStillGreyWhenItsMarkIsScrolledOut) {
+  list.sGrid("SQL");
+  list.SetText("/* a\r\nbc\r\n");
+  list.hs.SetValue(2);
+  EXPECT_THAT(TextsOnRow(2), ElementsAre("392 234 \" c\" Arial 9.75 #c0c0c0")) << "the mark shows as a blank";
+  list.hs.SetValue(3);
+  EXPECT_THAT(TextsOnRow(2), IsEmpty());
+}
+
+TEST_F(Painter, ATreeEntryScrollsByItsCharactersWithoutTheMarkOfBold) {
+  list.AddTreeItem("x", 33, false);
+  list.AddTreeItem("bc", 33, false);
+  list.hs.SetValue(3);  // two blanks stand in front
+  EXPECT_THAT(TextsOnRow(2), ElementsAre("384 234 \"c\" Arial 9.75 #000000", "392 234 \"c\" Arial 9.75 #000000"));
+  list.hs.SetValue(4);
+  EXPECT_THAT(TextsOnRow(2), IsEmpty());
+}
+
 TEST_F(Painter, WhatLiesBehindTheRightEdgeIsNotDrawn) {
   list.sGrid("TEXT");
   list.SetText("x\r\n" + std::string(1'000'000, 'y') + "/+\\z\r\n");
