@@ -13,6 +13,22 @@ constexpr int kLinesBetweenEvents = 20;
 constexpr long kFullWidth = 120;  // columns the horizontal bar covers after a load
 constexpr long kColumnsBehindText = 40;
 
+class DisabledBars {
+ public:
+  DisabledBars(forms::ScrollBar& across, forms::ScrollBar& down) : across_(across), down_(down) { Enable(false); }
+  ~DisabledBars() { Enable(true); }
+  DisabledBars(const DisabledBars&) = delete;
+  DisabledBars& operator=(const DisabledBars&) = delete;
+
+ private:
+  void Enable(bool enabled) {
+    across_.SetEnabled(enabled);
+    down_.SetEnabled(enabled);
+  }
+  forms::ScrollBar& across_;
+  forms::ScrollBar& down_;
+};
+
 }  // namespace
 
 void ucListBox::sGrid(const std::string& value) {
@@ -171,23 +187,23 @@ void ucListBox::SetText(std::string text) {
     pendingText = std::move(text);
     return;
   }
-  bool cleared_meanwhile = false;
-  do {
-    Clear();
-    loading = true;
-    hs.SetEnabled(false);
-    vs.SetEnabled(false);
-    cleared_meanwhile = !LoadLines(text);
-    if (cleared_meanwhile) break;
-    loading = false;
-    text = std::exchange(pendingText, {});
-  } while (!text.empty());
-  hs.SetEnabled(true);
-  vs.SetEnabled(true);
-  if (!cleared_meanwhile) EndLoad();
+  if (LoadTexts(std::move(text))) EndLoad();
 }
 
-// Returns false when the lines were cleared by somebody else while the event loop ran: the load has lost its object.
+// Loads [text], or what was assigned in its place meanwhile. Returns false when the lines were cleared by somebody else
+// while the event loop ran: the load has lost its object. However a load ends, the list can be used and loaded again.
+bool ucListBox::LoadTexts(std::string text) {
+  const DisabledBars bars(hs, vs);
+  do {
+    Clear();
+    const Raised load(loading);
+    if (!LoadLines(text)) return false;
+    text = std::exchange(pendingText, {});
+  } while (!text.empty());
+  return true;
+}
+
+// Returns false when the lines were cleared by somebody else.
 bool ucListBox::LoadLines(std::string_view text) {
   const long clears_before = clears;
   int lines = 0;

@@ -154,6 +154,7 @@ class ucListBox : public forms::UserControl {
   void AppendLine(std::string_view text, Color colour);
   void StoreReplaced(std::string_view text);
   void CarryLevelOn(long index, long difference);
+  bool LoadTexts(std::string text);
   bool LoadLines(std::string_view text);
   bool LoadLine(std::string_view line);
   void EndLoad();

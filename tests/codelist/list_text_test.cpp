@@ -68,6 +68,20 @@ TEST_F(ListText, AClearDuringALoadEndsItQuietly) {
   EXPECT_TRUE(list.vs.Enabled());
 }
 
+TEST_F(ListText, AnErrorDuringALoadLeavesAListThatCanBeUsed) {
+  list.sGrid("TEXT");
+  services.loop.on_do_events = [] { throw runtime::Error(5); };
+  EXPECT_THROW(list.SetText(runtime::Replace(std::string(40, 'x'), "x", "first\r\n")), runtime::Error);
+  services.loop.on_do_events = nullptr;
+  EXPECT_TRUE(list.hs.Enabled());
+  EXPECT_TRUE(list.vs.Enabled());
+  list.SetStrPos(2);
+  EXPECT_EQ(list.ListIndex(), 2);
+  list.SetText("second\r\n");
+  EXPECT_EQ(list.Text(), "second\r\n");
+  EXPECT_THAT(events, ElementsAre("TextDone"));
+}
+
 TEST_F(ListText, TheUserCannotDisturbALoad) {
   list.sGrid("VB");
   services.loop.on_do_events = [this] {
