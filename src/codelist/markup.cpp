@@ -64,8 +64,9 @@ forms::Color LevelColor(long level) {
 size_t CommentStart(long list_mode, std::string_view run) {
   constexpr size_t kNone = std::string_view::npos;
   if (list_mode == kSqlList) {
-    // In a line that began inside a comment the mark stands in front of all others.
-    for (std::string_view start : {std::string_view(&kBlockComment, 1), std::string_view("/*"), std::string_view("--")})
+    // Tried in this order, not by their places: a comment that begins anew leaves what is in front of it plain, also in
+    // a line that began inside a comment.
+    for (std::string_view start : {std::string_view("/*"), std::string_view(&kBlockComment, 1), std::string_view("--")})
       if (size_t place = run.find(start); place != kNone) return place;
   }
   if (list_mode != kTreeList && list_mode != kVbList) return kNone;

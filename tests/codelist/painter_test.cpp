@@ -429,10 +429,16 @@ TEST_F(Painter, AMenuGroupWithAnExclamationMarkHasThePictureOfAnItem) {
                                       Contains("picture 990 712 194 194 " + PictureOf("list-group"))));
 }
 
-TEST_F(Painter, ALineInABlockCommentThatHoldsItsBeginningAgainIsGreyAsAWhole) {
+TEST_F(Painter, ALineInABlockCommentThatHoldsItsBeginningAgainIsGreyFromThere) {
   list.sGrid("SQL");
   list.SetText("/* a\r\nb /* c\r\n");
-  EXPECT_THAT(TextsOnRow(2), ElementsAre("490 234 \" b /* c\" Arial 9.75 #c0c0c0"));
+  EXPECT_THAT(TextsOnRow(2), ElementsAre("392 234 \"  b \" Arial 9.75 #000000", "784 234 \"/* c\" Arial 9.75 #c0c0c0"));
+}
+
+TEST_F(Painter, ALineInABlockCommentThatHoldsDashesIsGreyAsAWhole) {
+  list.sGrid("SQL");
+  list.SetText("/* a\r\nb -- c\r\n");
+  EXPECT_THAT(TextsOnRow(2), ElementsAre("490 234 \" b -- c\" Arial 9.75 #c0c0c0"));
 }
 
 TEST_F(Painter, TheMarkOfABlockCommentIsNeverDrawn) {
