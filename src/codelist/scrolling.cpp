@@ -49,9 +49,10 @@ void ucListBox::GoHome() {
 
 long ucListBox::SetStrPos(long index) {
   if (loading || !store.Has(index)) return index;
-  currentLine = index;
-  topLine = std::max(1L, PrevVisible(PrevVisible(index)));
-  currentRow = std::min(kRowOfStrPos, index);
+  currentLine = topLine = index;
+  const long row = std::clamp(visibleRows, 1L, kRowOfStrPos);  // in a low list the last one
+  for (long above = 1; above < row; ++above) topLine = std::max(1L, PrevVisible(topLine));
+  currentRow = std::min(row, index);
   {
     Raised without(noRefresh);
     Repaint();

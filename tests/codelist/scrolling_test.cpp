@@ -64,6 +64,25 @@ TEST_F(Scrolling, SetStrPosShowsTheLineOnRowThree) {
   EXPECT_EQ(Where(), (Place{1, 1, 1}));
 }
 
+TEST_F(Scrolling, SetStrPosInALowListShowsTheLineOnItsLastRow) {
+  Load(30);
+  for (const auto& [rows, place] :
+       {std::pair{3, Place{18, 20, 3}}, std::pair{2, Place{19, 20, 2}}, std::pair{1, Place{20, 20, 1}}}) {
+    list.SetHeight(rows * 234);
+    ASSERT_EQ(list.VisibleRows(), rows);
+    EXPECT_EQ(list.SetStrPos(20), 20);
+    EXPECT_EQ(Where(), place) << rows;
+    EXPECT_THAT(DrawnTexts().back(), testing::HasSubstr("\" 20\"")) << rows;
+  }
+}
+
+TEST_F(Scrolling, AResizeToOneRowKeepsTheCurrentLine) {
+  Load(30);
+  list.SetStrPos(9);
+  list.SetHeight(234);
+  EXPECT_EQ(Where(), (Place{9, 9, 1}));
+}
+
 TEST_F(Scrolling, SetStrPosOutsideTheListIsIgnored) {
   Load(5);
   list.SetStrPos(3);
