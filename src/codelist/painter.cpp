@@ -162,7 +162,7 @@ Twips ucListBox::PaintSegment(Twips x, Twips y, std::string_view text, bool meas
     return PrintEmphasized(x, y, heading, kHeading, measured);
   }
   if (text.size() > 7 && text[1] == '<' && runtime::UCase(text.substr(1, 6)) == "<HREF=")
-    if (size_t close = text.find('>'); close != string_view::npos)
+    if (size_t close = text.find('>'); close != string_view::npos && close > 0)
       return PrintEmphasized(x, y, text.substr(close + 1), kLink, measured);
   if (size_t bold = text.find(kBold); bold != string_view::npos)
     return PaintSplit(x, y, text.substr(0, bold), text.substr(bold + 1), true, measured);

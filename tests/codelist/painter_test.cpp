@@ -104,6 +104,11 @@ TEST_F(Painter, DrawsOnlyTheCaptionOfAHotLink) {
   EXPECT_EQ(list.List(2), "<href=target>here");
 }
 
+TEST_F(Painter, ARunThatBeginsWithTheEndOfATagIsNoHotLink) {
+  EXPECT_THAT(TextsOf("a/+\\><href=b>c"),
+              ElementsAre(HasSubstr("\" a\""), "588 234 \"><href=b>c\" Arial 9.75 #0000ff"));
+}
+
 TEST_F(Painter, TheRunBehindAHotLinkStandsBehindItsCaption) {
   EXPECT_THAT(TextsOf("<href=target>here/+\\b"),
               ElementsAre(HasSubstr("392 234 \"here\""), HasSubstr("784 234 \"b\"")));
