@@ -48,6 +48,7 @@ void ucListBox::txtEdit_KeyPress(int& key) {
     runtime::PassOverErrors([this] { pic.SetFocus(); });
   } else if (key == forms::vbKeyEscape) {
     key = 0;
+    runtime::PassOverErrors([this] { pic.SetFocus(); });
     CloseEdit();
   }
 }

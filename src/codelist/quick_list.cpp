@@ -46,9 +46,10 @@ void ucListBox::lbx_KeyPress(int key) {
   if (key == forms::vbKeyReturn || key == forms::vbKeyEscape) HideQuickList();
 }
 
+// The focus leaves first: hidden with it, the list would hand it to the control that follows.
 void ucListBox::HideQuickList() {
-  lbx.SetVisible(false);
   runtime::PassOverErrors([this] { pic.SetFocus(); });
+  lbx.SetVisible(false);
 }
 
 }  // namespace corvane::codelist

@@ -93,6 +93,14 @@ TEST_F(EditBox, EscapeDropsTheEdit) {
   EXPECT_EQ(list.txtEdit.Text(), "");
 }
 
+TEST_F(EditBox, EscapeGivesTheFocusBackToTheLinesAndToNobodyBefore) {
+  window.other.GotFocus = [this] { events.push_back("other"); };
+  list.EditCodeline();
+  list.txtEdit.UserKeyPress(vbKeyEscape);
+  EXPECT_TRUE(list.pic.HasFocus());
+  EXPECT_THAT(events, IsEmpty());
+}
+
 TEST_F(EditBox, LosingTheFocusDropsTheEdit) {
   list.EditCodeline();
   Type("x");
@@ -164,6 +172,13 @@ TEST_F(QuickList, DoubleClickEnterAndEscapeHideIt) {
     EXPECT_FALSE(list.lbx.Visible()) << key;
     EXPECT_TRUE(list.Visible()) << "the list itself stays";
   }
+}
+
+TEST_F(QuickList, HiddenItGivesTheFocusBackToTheLinesAndToNobodyBefore) {
+  window.other.GotFocus = [this] { events.push_back("other"); };
+  list.lbx.UserKeyPress(vbKeyEscape);
+  EXPECT_TRUE(list.pic.HasFocus());
+  EXPECT_THAT(events, IsEmpty());
 }
 
 TEST_F(QuickList, LosingTheFocusHidesIt) {
