@@ -1,3 +1,4 @@
+#include "codelist/reading_commands.h"
 #include "list_fixture.h"
 
 namespace corvane::codelist {
@@ -520,6 +521,133 @@ TEST_F(ListText, EmptyLinesAndCaptionsInABlockCommentGetNoMark) {
 
 TEST_F(ListText, ItsColourIsTheButtonFaceAtFirst) {
   EXPECT_EQ(list.BackColor(), 0x8000000Fu);
+}
+
+TEST_F(ListText, BothBarsAreDisabledDuringALoad) {
+  list.sGrid("TEXT");
+  services.loop.on_do_events = [this] {
+    EXPECT_FALSE(list.hs.Enabled());
+    EXPECT_FALSE(list.vs.Enabled());
+  };
+  list.SetText(runtime::Replace(std::string(25, 'x'), "x", "a\r\n"));
+  EXPECT_EQ(services.loop.yields, 1);
+  EXPECT_TRUE(list.hs.Enabled());
+  EXPECT_TRUE(list.vs.Enabled());
+}
+
+TEST_F(ListText, SetStrPosDoesNothingDuringALoad) {
+  list.sGrid("TEXT");
+  services.loop.on_do_events = [this] { EXPECT_EQ(list.SetStrPos(5), 5); };
+  list.SetText(runtime::Replace(std::string(25, 'x'), "x", "a\r\n"));
+  EXPECT_EQ(services.loop.yields, 1);
+  EXPECT_EQ(list.ListIndex(), 1);
+  EXPECT_EQ(list.CurrentRow(), 1);
+}
+
+TEST_F(ListText, ALineReplacedWhileItIsCommentedOutLeavesTheLevelsBehindIt) {
+  list.sGrid("VB");
+  list.SetText("If a Then\r\nb\r\nEnd If\r\nc\r\n");
+  list.ToggleSelect();
+  list.UpdateString = [this](long line, const std::string& text) { list.ReplaceItem(line, text); };
+  toolkit.OnPopup("Comment selected lines");
+  Press(1, 1000, forms::vbRightButton);
+  ReleaseAt(1, 1000, forms::vbRightButton);
+  EXPECT_EQ(Stored(1), "'If a Then");
+  EXPECT_THAT(Levels(), ElementsAre(33, 34, 34, 33)) << "until the container loads the text again";
+}
+
+TEST_F(ListText, TheRowsBelowAReplacedLineAreDrawnInTheirNewColour) {
+  Load(15, "VB");
+  list.SetStrPos(5);
+  ASSERT_EQ(list.CurrentRow(), 3);
+  Canvas().Forget();
+  list.ReplaceItem(5, "do");
+  std::vector<std::string> below = DrawnTexts();
+  ASSERT_GT(below.size(), 7u);
+  below.erase(below.begin(), below.end() - 7);
+  for (long row = 4; row <= 10; ++row)
+    EXPECT_EQ(below[static_cast<size_t>(row - 4)], "text 392 " + std::to_string((row - 1) * 234) + " \" " +
+                                                       std::to_string(row + 2) + "\" Arial 9.75 #0000ff");
+}
+
+TEST_F(ListText, TheRowsBelowAReplacedLineAreThoseOfVisibleLines) {
+  list.AddTreeItem("a", 33, false);
+  list.AddTreeItem("b", 34, true);
+  list.AddTreeItem(
+      "\x03"
+      "c",
+      35, false);
+  Canvas().Forget();
+  list.ReplaceItem(1, "x");
+  ASSERT_THAT(Levels(), ElementsAre(33, 35, 36));
+  EXPECT_EQ(DrawnTexts().back(), "text 392 234 \"" + runtime::Space(37) + "c\" Arial 9.75 #ff0000");
+}
+
+TEST_F(ListText, ATreeIsDrawnFromItsFirstLineWhenItIsLoaded) {
+  list.sGrid("TREE");
+  Canvas().Forget();
+  list.SetText(
+      "\x03"
+      "a\r\n++b\r\n\x03"
+      "c\r\n");
+  EXPECT_THAT(DrawnTexts(), testing::IsSupersetOf(
+                                {"text 392 0 \" a\" Arial 9.75 #000000", "text 392 234 \" c\" Arial 9.75 #000000"}));
+  EXPECT_EQ(list.ListIndex(), 1);
+}
+
+TEST_F(ListText, ClearStartsAgainAtTheBaseLevel) {
+  list.sGrid("VB");
+  list.AddItem("do");
+  list.Clear();
+  list.AddItem("x");
+  EXPECT_THAT(Levels(), ElementsAre(33));
+}
+
+TEST_F(ListText, ClearStartsAgainAtTheFirstColumn) {
+  Load(3);
+  list.hs.SetValue(3);
+  list.Clear();
+  EXPECT_EQ(list.hs.Value(), 0);
+  Canvas().Forget();
+  list.AddItem("abc");
+  EXPECT_THAT(DrawnTexts(), ElementsAre("text 392 0 \" abc\" Arial 9.75 #000000"));
+}
+
+TEST_F(ListText, ClearForgetsTheLineToGoBackTo) {
+  const auto offers_previous = [this] {
+    Press(1, 1000, forms::vbRightButton);
+    ReleaseAt(1, 1000, forms::vbRightButton);
+    return list.Reading().menu[ListEntry::mnuPrev].Enabled();
+  };
+  Load(9, "VB");
+  list.SetStrPos(5);
+  list.GoHome();
+  EXPECT_TRUE(offers_previous());
+  Load(9, "VB");
+  EXPECT_FALSE(offers_previous());
+}
+
+TEST_F(ListText, ClearForgetsATextThatWaits) {
+  list.sGrid("TEXT");
+  services.loop.on_do_events = [this] {
+    services.loop.on_do_events = nullptr;
+    list.SetText("second\r\n");
+    list.Clear();
+  };
+  list.SetText(runtime::Replace(std::string(25, 'x'), "x", "first\r\n"));
+  EXPECT_EQ(list.ListCount(), 0);
+  list.SetText("third\r\n");
+  EXPECT_EQ(list.Text(), "third\r\n");
+}
+
+TEST_F(ListText, MarksInAGridLeaveTheLevel) {
+  list.sGrid("|1000");
+  list.AddItem("a/+\\|b");
+  list.AddItem("c");
+  EXPECT_THAT(Levels(), ElementsAre(33, 33));
+  list.SetText("a/+\\|b\r\nc\r\n");
+  list.AddItem("d");
+  EXPECT_THAT(Levels(), ElementsAre(33, 33, 33));
 }
 
 }  // namespace
