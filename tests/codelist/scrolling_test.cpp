@@ -435,5 +435,110 @@ TEST_F(Scrolling, SetStrPosLeavesTheBarWhenTheTopIsTheFirstLine) {
   EXPECT_EQ(list.vs.Value(), 17);
 }
 
+TEST_F(Scrolling, GoHomeRemembersTheLineThatItLeavesButNotTheFirst) {
+  Load(9, "VB");
+  list.SetStrPos(5);
+  list.GoHome();
+  list.GoHome();
+  toolkit.OnPopup("Previous");
+  Press(1, 1000, forms::vbRightButton);
+  ReleaseAt(1, 1000, forms::vbRightButton);
+  EXPECT_EQ(list.ListIndex(), 5);
+}
+
+TEST_F(Scrolling, SetStrPosOfAHiddenLineMovesOnButGivesItsIndex) {
+  LoadFolded();
+  EXPECT_EQ(list.SetStrPos(3), 3);
+  EXPECT_EQ(Where(), (Place{1, 5, 3})) << "what stands on the third row";
+}
+
+TEST_F(Scrolling, AHiddenTopLineGivesItsPlaceToTheNextVisibleOne) {
+  list.sGrid("TREE");
+  list.SetText(
+      "++a\r\n++b\r\n\x03"
+      "c\r\nd\r\n");
+  EXPECT_EQ(Where(), (Place{3, 3, 1}));
+  EXPECT_THAT(DrawnTexts(), testing::Contains("text 392 0 \" c\" Arial 9.75 #000000"));
+}
+
+TEST_F(Scrolling, AFoldedTopLineLeavesTheCurrentRowInItsPlace) {
+  list.sGrid("VB");
+  list.SetText("a\r\nDo\r\nb\r\nc\r\nd\r\nLoop\r\n" + runtime::Replace(std::string(20, 'x'), "x", "e\r\n"));
+  list.SetStrPos(5);
+  ASSERT_EQ(Where(), (Place{3, 5, 3}));
+  toolkit.OnPopup("Collapse here");
+  Press(3, 450, forms::vbRightButton);
+  ReleaseAt(3, 450, forms::vbRightButton);
+  EXPECT_EQ(Where(), (Place{6, 8, 3}));
+}
+
+TEST_F(Scrolling, NothingIsRepaintedDuringALoad) {
+  list.sGrid("TEXT");
+  services.loop.on_do_events = [this] {
+    Canvas().Forget();
+    list.pic.Paint();
+    EXPECT_THAT(Canvas().Calls(), IsEmpty());
+  };
+  list.SetText(runtime::Replace(std::string(25, 'x'), "x", "a\r\n"));
+  EXPECT_EQ(services.loop.yields, 1);
+}
+
+TEST_F(Scrolling, NothingIsRepaintedWhileTheListItselfMovesTheBar) {
+  Load(30);
+  long moves = 0;
+  list.vs.Change = [&] {
+    ++moves;
+    Canvas().Forget();
+    list.pic.Paint();
+    EXPECT_THAT(Drawn("clear"), IsEmpty());
+  };
+  list.SetStrPos(20);
+  EXPECT_EQ(moves, 1);
+}
+
+TEST_F(Scrolling, APageThatWouldEndOnTheLastLineDoesNothing) {
+  Load(9);
+  Key(vbKeyPageDown);
+  EXPECT_EQ(Where(), (Place{1, 1, 1}));
+  EXPECT_THAT(events, IsEmpty());
+  Load(10);
+  Key(vbKeyPageDown);
+  EXPECT_EQ(Where(), (Place{9, 9, 1}));
+}
+
+TEST_F(Scrolling, PagesAndJumpsClearThePaneFirst) {
+  Load(30);
+  list.SetStrPos(15);
+  const std::pair<const char*, std::function<void()>> kMoves[] = {
+      {"Page Down", [this] { Key(vbKeyPageDown); }},
+      {"Page Up", [this] { Key(vbKeyPageUp); }},
+      {"End", [this] { Key(vbKeyEnd); }},
+      {"Home", [this] { Key(vbKeyHome); }},
+      {"the bar", [this] { list.vs.UserScroll(20, false); }}};
+  for (const auto& [name, move] : kMoves) {
+    Canvas().Forget();
+    move();
+    ASSERT_FALSE(Canvas().Calls().empty()) << name;
+    EXPECT_EQ(Canvas().Calls().front(), "clear #ffffff") << name;
+    EXPECT_EQ(Drawn("clear").size(), 1u) << name;
+  }
+}
+
+TEST_F(Scrolling, AStepOfTheBarUpKeepsTheHighlightInFrontOfTheLastRow) {
+  Load(30);
+  list.SetStrPos(4);
+  for (int step = 0; step < 6; ++step) Key(vbKeyDown);
+  ASSERT_EQ(Where(), (Place{2, 10, 9}));
+  list.vs.UserScroll(list.vs.Value() - 1, false);
+  EXPECT_EQ(Where(), (Place{1, 9, 9}));
+}
+
+TEST_F(Scrolling, AStepOfTheBarUpMovesTheHighlightedRowDown) {
+  Load(30);
+  list.SetStrPos(20);
+  list.vs.UserScroll(list.vs.Value() - 1, false);
+  EXPECT_EQ(Where(), (Place{17, 20, 4}));
+}
+
 }  // namespace
 }  // namespace corvane::codelist
