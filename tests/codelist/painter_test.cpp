@@ -146,6 +146,8 @@ TEST_F(Painter, AMarkIsNoScrolledCharacterAndStillHoldsBehindIt) {
       << "still bold";
   list.hs.SetValue(3);
   EXPECT_THAT(TextsOnRow(2), ElementsAre("392" + a));
+  list.hs.SetValue(4);
+  EXPECT_THAT(TextsOnRow(2), ElementsAre("392 234 \"a\" Arial 9.75 #0000ff"));
 }
 
 TEST_F(Painter, AKeywordAtTheEndOfALineScrollsOutCharacterByCharacter) {
@@ -475,6 +477,107 @@ TEST_F(Painter, AResizeDuringALoadLeavesAGutterOnAllOfTheSurface) {
   services.loop.on_do_events = [this] { list.Move(0, 0, 4000, 4680); };
   list.SetText(runtime::Replace(std::string(25, 'x'), "x", "a\r\n"));
   EXPECT_THAT(Drawn("fill"), Contains("fill 0 0 392 4680 system:22"));
+}
+
+TEST_F(Painter, WithTheFocusBackTheCurrentLineHasItsColourAgain) {
+  Load(3);
+  window.other.SetFocus();
+  Canvas().Forget();
+  list.SetFocus();
+  EXPECT_THAT(Drawn("fill"), ElementsAre("fill 0 0 3745 234 #a0ffdc", kGutterOfRow1));
+  EXPECT_THAT(Drawn("frame"), IsEmpty());
+}
+
+TEST_F(Painter, WithoutFocusTheCurrentLineHasItsPictureToo) {
+  Load(3);
+  window.other.SetFocus();
+  EXPECT_THAT(Drawn("picture"), ElementsAre("picture 10 10 372 214 " + PictureOf("list-current")));
+}
+
+TEST_F(Painter, AnAppendedHiddenLineShowsNoTextAndLeavesItsRow) {
+  list.sGrid("TREE");
+  list.AddItem(
+      "\x03"
+      "a");
+  list.AddItem(
+      "++\x03"
+      "b");
+  list.AddItem(
+      "\x03"
+      "c");
+  EXPECT_THAT(DrawnTexts(),
+              ElementsAre("text 392 0 \" a\" Arial 9.75 #000000", "text 392 234 \" c\" Arial 9.75 #000000"));
+}
+
+TEST_F(Painter, AnAppendedLineIsDrawnWhereTheDrawingEndedLast) {
+  list.sGrid("TEXT");
+  for (const char* line : {"a", "b", "c"}) list.AddItem(line);
+  window.other.SetFocus();  // draws the current line, the first
+  Canvas().Forget();
+  list.AddItem("d");
+  EXPECT_THAT(DrawnTexts(), ElementsAre("text 392 234 \" d\" Arial 9.75 #000000")) << "over the second line";
+  Redraw();
+  EXPECT_THAT(TextsOnRow(4), ElementsAre("392 702 \" d\" Arial 9.75 #000000")) << "until the next repaint";
+}
+
+TEST_F(Painter, AMenuGroupOutsideTheScriptTreeHasNoPicture) {
+  list.ListRole = kSourcePane;
+  list.AddTreeItem("x", 33, false);
+  list.AddTreeItem("Menu" + runtime::Space(100) + "{", 33, false);
+  Redraw();
+  EXPECT_EQ(Drawn("picture").size(), 1u) << "that of the current line";
+}
+
+TEST_F(Painter, AnItemOfTheScriptTreeIsAMenuGroupByFourteenBlanksAndABracket) {
+  list.ListRole = kScriptTree;
+  list.AddTreeItem("x", 33, false);
+  const std::pair<std::string, size_t> kEntries[] = {{runtime::Space(100) + "{", 2},
+                                                     {runtime::Space(14) + "{" + runtime::Space(100), 2},
+                                                     {runtime::Space(13) + "{" + runtime::Space(100), 1},
+                                                     {runtime::Space(100) + "x{", 1},
+                                                     {runtime::Space(99) + "{", 1},
+                                                     {runtime::Space(100), 1}};
+  for (const auto& [behind, pictures] : kEntries) {
+    list.Clear();
+    list.AddTreeItem("x", 33, false);
+    list.AddTreeItem("Menu" + behind, 33, false);
+    Redraw();
+    EXPECT_EQ(Drawn("picture").size(), pictures) << "[" << behind << "]";
+  }
+}
+
+TEST_F(Painter, AScrolledTreeHasNoBoxes) {
+  list.AddTreeItem("a", 34, false);
+  Redraw();
+  EXPECT_THAT(Drawn("frame"), Not(IsEmpty()));
+  Canvas().Forget();
+  list.hs.SetValue(1);
+  EXPECT_THAT(DrawnTexts(), Not(IsEmpty()));
+  EXPECT_THAT(Drawn("frame"), IsEmpty());
+}
+
+TEST_F(Painter, ATreeEntryOutsideTheOutermostLevelIsNotIndented) {
+  list.AddTreeItem("x", 33, false);
+  list.AddTreeItem(
+      "\x03"
+      "b",
+      31, false);
+  Redraw();
+  EXPECT_THAT(TextsOnRow(2), ElementsAre("392 234 \" b\" Arial 9.75 #808000"));
+}
+
+TEST_F(Painter, TheLastTreeEntryHasAnOpenBox) {
+  for (long level : {33, 34, 35}) list.AddTreeItem("x", level, level == 35);
+  list.Clear();
+  for (long level : {33, 34}) list.AddTreeItem("x", level, false);  // where a hidden entry was behind them
+  Redraw();
+  EXPECT_THAT(Drawn("frame"), ElementsAre("frame 1080 274 150 154 #0000ff"));
+  EXPECT_THAT(Drawn("line 1"), ElementsAre("line 1118 354 1189 354 #0000ff width 1"));
+}
+
+TEST_F(Painter, ColonsBehindAnotherCharacterThanABlankMakeNoCaption) {
+  EXPECT_THAT(TextsOf("a/+\\b::c"), ElementsAre(HasSubstr("\" a\""), "588 234 \"b::c\" Arial 9.75 #0000ff"));
+  EXPECT_THAT(TextsOf("a/+\\ ::c"), ElementsAre(HasSubstr("\" a\""), HasSubstr("bold underline #000080")));
 }
 
 }  // namespace
