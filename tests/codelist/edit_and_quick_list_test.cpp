@@ -123,6 +123,28 @@ TEST_F(EditBox, IsAsHighAsTheLastRow) {
   EXPECT_EQ(list.txtEdit.Height(), 234);
 }
 
+TEST_F(EditBox, AnArrowIsSwallowedAndOtherKeysAreNot) {
+  list.EditCodeline();
+  for (const auto& [pressed, left] :
+       {std::pair{vbKeyUp, 0}, std::pair{vbKeyDown, 0}, std::pair{vbKeyLeft, int(vbKeyLeft)}}) {
+    int key = pressed;
+    list.txtEdit.KeyDown(key, 0);
+    EXPECT_EQ(key, left) << pressed;
+  }
+}
+
+TEST_F(EditBox, DownScrollsOnceMoreFromTheDistanceOfAllRowsOn) {
+  for (const auto& [hidden, top] : {std::pair{8, 1}, std::pair{9, 11}}) {
+    list.sGrid("TREE");
+    list.SetText("a\r\n" + runtime::Replace(std::string(static_cast<size_t>(hidden), 'x'), "x", "++h\r\n") +
+                 "b\r\nc\r\n");
+    list.EditCodeline();
+    list.txtEdit.UserKeyDown(vbKeyDown, 0);
+    EXPECT_EQ(list.ListIndex(), hidden + 2);
+    EXPECT_EQ(list.TopLine(), top) << hidden;
+  }
+}
+
 TEST_F(EditBox, DownOverManyHiddenLinesScrollsOnceMore) {
   list.sGrid("TREE");
   list.SetText("a\r\n" + runtime::Replace(std::string(10, 'x'), "x", "++h\r\n") + "b\r\nc\r\n");
@@ -161,6 +183,22 @@ TEST_F(QuickList, AContainerThatTakesTheFocusDuringAChoiceDoesNotCloseIt) {
   list.lbx.UserSelect(1);
   EXPECT_TRUE(list.lbx.Visible());
   EXPECT_TRUE(list.lbx.HasFocus());
+}
+
+TEST_F(QuickList, LosingTheFocusBehindAChoiceHidesIt) {
+  list.lbx.UserSelect(1);
+  window.other.SetFocus();
+  EXPECT_FALSE(list.lbx.Visible());
+}
+
+TEST_F(QuickList, OnlyTheFirstLossOfFocusDuringAChoiceLeavesItOpen) {
+  list.vs.Change = [this] {
+    window.other.SetFocus();
+    list.lbx.SetFocus();
+    window.other.SetFocus();
+  };
+  list.lbx.UserSelect(1);
+  EXPECT_FALSE(list.lbx.Visible());
 }
 
 TEST_F(QuickList, DoubleClickEnterAndEscapeHideIt) {

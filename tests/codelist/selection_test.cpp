@@ -356,5 +356,59 @@ TEST_F(TreeClick, ScrolledToTheRightOpensNothing) {
   EXPECT_THAT(Visible(), ElementsAre(1, 2, 6));
 }
 
+TEST_F(Selection, ADragNeedsTheLeftButton) {
+  Load(9);
+  Press(2);
+  Wait(300);
+  list.pic.UserMouseMove(vbRightButton, 0, 1000, YOf(5));
+  EXPECT_THAT(SelectedLines(), IsEmpty());
+  EXPECT_EQ(list.ListIndex(), 2);
+  DragTo(3);
+  EXPECT_THAT(SelectedLines(), ElementsAre(2, 3));
+}
+
+TEST_F(Selection, TheTimerEndsOnTheFirstLine) {
+  Load(30);
+  Press(2);
+  Wait(300);
+  DragToY(-10);
+  ASSERT_EQ(list.ListIndex(), 1);
+  ASSERT_TRUE(list.tmr.Enabled());
+  toolkit.Tick(list.tmr);
+  EXPECT_FALSE(list.tmr.Enabled());
+  EXPECT_THAT(SelectedLines(), ElementsAre(1, 2));
+}
+
+TEST_F(Selection, TheLowerEdgeOfTheSurfaceIsNotBelowIt) {
+  Load(30);
+  Press(9);
+  Wait(300);
+  DragToY(list.pic.ScaleHeight());
+  EXPECT_FALSE(list.tmr.Enabled());
+  DragToY(list.pic.ScaleHeight() + 1);
+  EXPECT_TRUE(list.tmr.Enabled());
+}
+
+TEST_F(TreeClick, CountsFromTheLeftEdgeOfTheBoxToItsRight) {
+  const Twips left = kInBox - 75;
+  ClickOn(2, left - 1);
+  EXPECT_THAT(Visible(), ElementsAre(1, 2, 6));
+  ClickOn(2, left + 151);
+  EXPECT_THAT(Visible(), ElementsAre(1, 2, 6));
+  ClickOn(2, left);
+  EXPECT_THAT(Visible(), ElementsAre(1, 2, 3, 5, 6));
+  ClickOn(2, left + 150);
+  EXPECT_THAT(Visible(), ElementsAre(1, 2, 6));
+}
+
+TEST_F(TreeClick, IsWhereTheButtonIsReleased) {
+  Press(2, kInBox);
+  ReleaseAt(2, 3000);
+  EXPECT_THAT(Visible(), ElementsAre(1, 2, 6));
+  Press(2, 3000);
+  ReleaseAt(2, kInBox);
+  EXPECT_THAT(Visible(), ElementsAre(1, 2, 3, 5, 6));
+}
+
 }  // namespace
 }  // namespace corvane::codelist
