@@ -1,4 +1,4 @@
-// usage: corvane_bench TREE PROGRAM [analysis|listing|search|memory|painting|commands|scripts ...]
+// usage: corvane_bench TREE PROGRAM [analysis|listing|search|memory|painting|commands|scripts|declaration ...]
 // TREE is the folder of the sources, PROGRAM our command line.
 // Measures everything, or what is named, in one run and prints one table. Exit status: 0 measured (aims met or not), 1
 // could not measure.
@@ -47,7 +47,7 @@ constexpr Measurement kMeasurements[] = {
     {"analysis", bench::MeasureAnalysis, true}, {"listing", bench::MeasureListing, true},
     {"search", bench::MeasureSearch, true},     {"memory", bench::MeasureMemory, true},
     {"painting", bench::MeasurePainting, true}, {"commands", bench::MeasureCommands, true},
-    {"scripts", bench::MeasureScripts, false},
+    {"scripts", bench::MeasureScripts, false},  {"declaration", bench::MeasureDeclaration, true},
 };
 
 bool IsMeasurement(std::string_view name) {

@@ -42,6 +42,9 @@ void MeasurePainting(const Setting& setting, Table& table);
 // The commands of a loaded list that walk over all its lines, on a window that nobody draws.
 void MeasureCommands(const Setting& setting, Table& table);
 
+// The explorer's search of the whole project for a word that is nowhere.
+void MeasureDeclaration(const Setting& setting, Table& table);
+
 // `corvane script` as a whole process, and the same programs in other languages.
 void MeasureScripts(const Setting& setting, Table& table);
 
