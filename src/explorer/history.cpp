@@ -40,7 +40,9 @@ bool frmAddIn::PushHistoryPoint() {
   if (navigating || lblSub.Caption().empty() || nextPoint.row < 1 || nextPoint.text.empty()) return false;
   points.Push(nextPoint);
   std::vector<forms::ButtonMenu> entries;
-  for (long index = points.Count() - 1; index >= 0; --index) entries.push_back({"", points.Caption(index)});
+  // A menu takes a single "&" for the mark of its key.
+  for (long index = points.Count() - 1; index >= 0; --index)
+    entries.push_back({"", Replace(points.Caption(index), "&", "&&")});
   tlbr.SetButtonMenus(tlbr.PositionOf("History"), std::move(entries));
   ShowHistoryStates();
   return true;

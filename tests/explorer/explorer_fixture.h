@@ -71,6 +71,18 @@ class ExplorerTest : public ::testing::Test {
   }
   void ChooseComponent(const std::string& name) { form.lbxComp->UserSelect(RowOf(Components(), name)); }
   void ChooseProcedure(const std::string& text) { form.lbxProc->UserSelect(RowOf(Procedures(), text)); }
+  // The user presses the right button on the end of [word] in the row of the code view that holds [code], and chooses
+  // [caption].
+  void ChooseOnWord(const std::string& code, const std::string& word, const std::string& caption) {
+    const long row = RowOf(CodeRows(), code) + 1;
+    form.txtCode.SetStrPos(row);
+    const size_t column = form.txtCode.List(row).find(word) + word.size() - 1;
+    const forms::Twips x = form.txtCode.GutterWidth() + static_cast<forms::Twips>(column) * 98 + 40;
+    const forms::Twips y = static_cast<forms::Twips>(row - form.txtCode.TopLine()) * form.txtCode.RowHeight() + 20;
+    toolkit.OnPopup(caption);
+    form.txtCode.pic.UserMouseDown(forms::vbRightButton, 0, x, y);
+    form.txtCode.pic.UserMouseUp(forms::vbRightButton, 0, x, y);
+  }
   // A row as a search makes it.
   void AddHit(const std::string& label, long component, long line, const std::string& text) {
     form.lbxProc->AddItem(label + ":    001   " + text + explorer::TailOf(component));

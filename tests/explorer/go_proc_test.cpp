@@ -51,17 +51,6 @@ class GoProc : public ExplorerTest {
     return environment->ActiveVBProject()->VBComponents()->Item(index)->Name() + " " + form.lblSub.Caption();
   }
   std::string SelectedRow() const { return explorer::ShownText(form.lbxProc->Text()); }
-  // The right button on the word [word] of the row of the code view that holds [code]; chooses [caption].
-  void Menu(const std::string& code, const std::string& word, const std::string& caption) {
-    const long row = RowOf(CodeRows(), code) + 1;
-    form.txtCode.SetStrPos(row);
-    const size_t column = form.txtCode.List(row).find(word) + word.size() - 1;
-    const forms::Twips x = form.txtCode.GutterWidth() + static_cast<forms::Twips>(column) * 98 + 40;
-    const forms::Twips y = static_cast<forms::Twips>(row - form.txtCode.TopLine()) * form.txtCode.RowHeight() + 20;
-    toolkit.OnPopup(caption);
-    form.txtCode.pic.UserMouseDown(forms::vbRightButton, 0, x, y);
-    form.txtCode.pic.UserMouseUp(forms::vbRightButton, 0, x, y);
-  }
 };
 
 TEST_F(GoProc, AProcedureOfTheModuleInView) {
@@ -223,28 +212,28 @@ TEST_F(GoProc, AListingDuringTheYieldHasItsWay) {
 TEST_F(GoProc, GotoProcFollowsAnAssignmentIntoItsClass) {
   OpenWindow(kShop);
   Read("frmMain", "Form_Load");
-  Menu("Basket.Fill 1", "Basket.Fill", "Goto Proc \"Basket.Fill\"");
+  ChooseOnWord("Basket.Fill 1", "Basket.Fill", "Goto Proc \"Basket.Fill\"");
   EXPECT_EQ(View(), "clsBasket Public Sub Fill(ByVal n As Long)");
 }
 
 TEST_F(GoProc, GotoProcFollowsADeclarationIntoItsClass) {
   OpenWindow(kShop);
   Read("frmMain", "Form_Load");
-  Menu("mStore.Fill n", "mStore.Fill", "Goto Proc \"mStore.Fill\"");
+  ChooseOnWord("mStore.Fill n", "mStore.Fill", "Goto Proc \"mStore.Fill\"");
   EXPECT_EQ(View(), "clsStore Public Sub Fill(ByVal n As Long)");
 }
 
 TEST_F(GoProc, GotoDeclarationLooksInTheCodeAboveFirst) {
   OpenWindow(kShop);
   Read("frmMain", "Form_Load");
-  Menu("Total = Rate(n)", "(n", "Goto \"n\" Declaration");
+  ChooseOnWord("Total = Rate(n)", "(n", "Goto \"n\" Declaration");
   EXPECT_EQ(View(), "frmMain Private Sub Form_Load()");
 }
 
 TEST_F(GoProc, GotoDeclarationGoesToTheOtherModuleAndBack) {
   OpenWindow(kShop);
   Read("frmMain", "Form_Load");
-  Menu("Total = Rate(n)", "Total", "Goto \"Total\" Declaration");
+  ChooseOnWord("Total = Rate(n)", "Total", "Goto \"Total\" Declaration");
   EXPECT_EQ(SelectedRow(), "modMain:    001   Public Total As Long");
   form.tlbr.UserButtonClick(form.tlbr.PositionOf("Previous"));
   EXPECT_EQ(View(), "frmMain Private Sub Form_Load()");
@@ -254,7 +243,7 @@ TEST_F(GoProc, GotoDeclarationGoesToTheOtherModuleAndBack) {
 TEST_F(GoProc, TheMenuOffersItsSearches) {
   OpenWindow(kShop);
   Read("frmMain", "Form_Load");
-  Menu("Total = Rate(n)", "Rate", "");
+  ChooseOnWord("Total = Rate(n)", "Rate", "");
   using enum codelist::ListEntry;
   for (codelist::ListEntry entry : {mnuSearch, mnuSearchLocal, mnuSearchAll, mnuGoProc, mnuDeclare, mnuHistory})
     EXPECT_TRUE(form.txtCode.Reading().menu[entry].Enabled()) << form.txtCode.Reading().menu[entry].Caption();
@@ -264,7 +253,7 @@ TEST_F(GoProc, TheMenuOffersItsSearches) {
 TEST_F(GoProc, SaveIntoHistoryFromTheMenu) {
   OpenWindow(kShop);
   Read("frmMain", "Form_Load");
-  Menu("Total = Rate(n)", "Rate", "Save into History");
+  ChooseOnWord("Total = Rate(n)", "Rate", "Save into History");
   ChooseComponent("modMain");
   ASSERT_EQ(form.points.Count(), 1);
   EXPECT_EQ(form.points.Caption(0), "frmMain:        Total = Rate(n)      ... Private Sub Form_Load()");

@@ -75,6 +75,13 @@ TEST_F(History, TheDropDownShowsTheNewestFirst) {
   EXPECT_THAT(Entries(), ElementsAre("modMain:    Public Sub Done()", "modMain:    Public Sub Main()"));
 }
 
+TEST_F(History, AnAmpersandOfTheCodeIsShownInTheDropDown) {
+  Module("modMain").ReplaceLine(6, "    Text = a & b");
+  Visit("modMain", "Main()", 3);
+  Show("frmMain", "Fill()");
+  EXPECT_THAT(Entries(), ElementsAre("modMain:        Text = a && b         ... Public Sub Main()"));
+}
+
 TEST_F(History, PreviousComesBackToTheRowThatWasLeft) {
   Visit("modMain", "Main()", 4);
   Show("frmMain", "Fill()");
