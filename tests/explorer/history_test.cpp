@@ -12,8 +12,9 @@ class History : public ExplorerTest {
     OpenWindow({
         Frm("frmMain", {"Option Explicit", "Private a As Long", "", "Private Sub Form_Load()", "    Fill basket",
                         "    a = 1", "    a = 2", "End Sub", "", "Sub Fill()", "    a = 3", "    a = 4", "End Sub"}),
-        Bas("modMain", {"Option Explicit", "Public Total As Long", "", "Public Sub Main()", "    Total = 1", "    Total = 2",
-                        "    Total = 3", "End Sub", "", "Public Sub Done()", "    Total = 0", "End Sub"}),
+        Bas("modMain",
+            {"Option Explicit", "Public Total As Long", "", "Public Sub Main()", "    Total = 1", "    Total = 2",
+             "    Total = 3", "End Sub", "", "Public Sub Done()", "    Total = 0", "End Sub"}),
         Frm("frmOther", {"Option Explicit", "", "Private Sub Form_Load()", "    Beep", "    Beep", "End Sub"}),
     });
   }
