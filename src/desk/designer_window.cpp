@@ -47,16 +47,21 @@ DesignerCanvas::DesignerCanvas(std::shared_ptr<environment::Module> module, QWid
   ReadAgain();
 }
 
-// What was selected stays so, by name.
+// What was selected stays so, by name; one that got another name is known by its place.
 void DesignerCanvas::ReadAgain() {
-  std::vector<std::pair<std::string, long>> names;
-  for (const int at : selected_) names.emplace_back(layout_.controls[at].name, layout_.controls[at].index);
-  layout_ = ReadLayout(*module_);
-  selected_.clear();
-  for (const auto& [name, index] : names)
-    for (size_t at = 0; at < layout_.controls.size(); ++at)
-      if (layout_.controls[at].name == name && layout_.controls[at].index == index)
-        selected_.push_back(static_cast<int>(at));
+  const Layout before = std::exchange(layout_, ReadLayout(*module_));
+  const auto& now = layout_.controls;
+  const auto place_now = [&](int at) {
+    const PlacedControl& was = before.controls[at];
+    const auto is_it = [&](const PlacedControl& control) {
+      return control.name == was.name && control.index == was.index;
+    };
+    const auto found = std::find_if(now.begin(), now.end(), is_it);
+    if (found != now.end()) return static_cast<int>(found - now.begin());
+    return now.size() == before.controls.size() ? at : -1;
+  };
+  for (int& at : selected_) at = place_now(at);
+  std::erase(selected_, -1);
   resize(sizeHint());
   updateGeometry();
   update();

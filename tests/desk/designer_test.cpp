@@ -117,6 +117,18 @@ TEST_F(DesignerTest, ThePropertyListShowsAndSetsTheSelectedControl) {
   EXPECT_EQ(table.item(row_of("Left"), 1)->text(), "3000");
 }
 
+TEST_F(DesignerTest, ARenamedControlStaysSelected) {
+  Click("cmdSave");
+  QTableWidget& table = window_->Properties().Table();
+  QTableWidgetItem* value = table.item(table.findItems("Name", Qt::MatchExactly).first()->row(), 1);
+  value->setText("cmdKeep");
+  Settle();
+  EXPECT_EQ(SelectedInEnvironment(), (std::vector<std::string>{"cmdKeep"}));
+  EXPECT_EQ(canvas_->Selected(), (std::vector<int>{Find("cmdKeep")}));
+  EXPECT_EQ(window_->Properties().Title(), "cmdKeep  CommandButton");
+  EXPECT_NE(module_->WriteToText().find("Begin VB.CommandButton cmdKeep"), std::string::npos);
+}
+
 TEST_F(DesignerTest, ADoubleClickGoesToTheControlsCode) {
   Mouse(QEvent::MouseButtonDblClick, canvas_->BoxOf(Find("cmdSave")).center());
   Settle();
