@@ -112,11 +112,15 @@ bool Desk::Open(const QString& path) {
   return Replace(chosen);
 }
 
-// What is open stays unless all of [path] and [added] can be read.
+// What is open stays, on its code page, unless all of [path] and [added] can be read.
 bool Desk::Replace(const QString& path, const QStringList& added) {
+  const int page_before = runtime::AnsiCodePage().Number();
   auto next = NewEnvironment();
   for (const QString& each : QStringList{path} + added)
-    if (!TryOpen(*next, each)) return false;
+    if (!TryOpen(*next, each)) {
+      runtime::SetAnsiCodePage(page_before);
+      return false;
+    }
   path_ = path;
   added_ = added;
   Show(std::move(next));

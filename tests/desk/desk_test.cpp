@@ -14,6 +14,7 @@
 #include "environment/command_bar_model.h"
 #include "environment/project.h"
 #include "explorer/frm_add_in.h"
+#include "runtime/code_page.h"
 #include "tests/desk/desk_fixture.h"
 
 namespace corvane::desk {
@@ -220,6 +221,18 @@ TEST_F(DeskOfSample, AGroupOfWhichNothingOpensIsToldAndWhatWasOpenStays) {
   EXPECT_TRUE(desk_->IsConnected());
   EXPECT_FALSE(desk_->AddProject(group.fileName()));
   EXPECT_EQ(prompts_.messages.size(), 2u);
+}
+
+TEST_F(DeskOfSample, AGroupOfWhichNothingOpensLeavesTheCodePageAlone) {
+  Start();
+  runtime::SetAnsiCodePage(1251);
+  QFile group(folder_.filePath("Lost.vbg"));
+  ASSERT_TRUE(group.open(QIODevice::WriteOnly));
+  group.write("VBGROUP 5.0\r\nStartupProject=none.vbp\r\n");
+  group.close();
+  EXPECT_FALSE(desk_->Open(group.fileName()));
+  EXPECT_EQ(runtime::AnsiCodePage().Number(), 1251) << "what is open lives on it";
+  runtime::SetAnsiCodePage(1252);
 }
 
 TEST_F(DeskOfSample, AGroupOfWhichNothingOpensLeavesAnEmptyDeskEmpty) {
