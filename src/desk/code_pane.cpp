@@ -222,12 +222,11 @@ bool CodePane::FindNext(const QString& text, bool match_case, bool whole_word) {
   QTextDocument::FindFlags flags;
   flags.setFlag(QTextDocument::FindCaseSensitively, match_case);
   flags.setFlag(QTextDocument::FindWholeWords, whole_word);
-  if (editor_->find(text, flags)) return true;
-  const QTextCursor here = editor_->textCursor();
-  editor_->moveCursor(QTextCursor::Start);
-  if (editor_->find(text, flags)) return true;
-  editor_->setTextCursor(here);
-  return false;
+  QTextCursor found = editor_->document()->find(text, editor_->textCursor(), flags);
+  if (found.isNull()) found = editor_->document()->find(text, 0, flags);
+  if (found.isNull()) return false;
+  editor_->ShowCursor(found);
+  return true;
 }
 
 void CodePane::GoToObject(const std::string& object) {

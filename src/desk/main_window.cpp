@@ -113,6 +113,7 @@ void MainWindow::BuildDocks() {
     ShowProperties();
     UpdateCommands();
   });
+  ConnectAct(tree_, &ProjectTree::ProjectWanted, this, &MainWindow::WorkOn);
   connect(tree_, &ProjectTree::Told, this, &MainWindow::Told);
   connect(properties_, &PropertyList::Told, this, &MainWindow::Told);
 }

@@ -110,6 +110,7 @@ class MainWindow : public QMainWindow, public environment::Observer {
   void ShowProblems();
   void RaiseProblems();
   void FollowProblems();
+  void WorkOn(const std::shared_ptr<environment::Project>& project);
   void ShowSelectedComponent(const std::shared_ptr<environment::Module>& module);
   QMdiSubWindow* Show(QWidget& inside, const QString& title, const QString& icon);
   std::shared_ptr<environment::Module> Shared(environment::Module& module) const;
@@ -134,7 +135,8 @@ class MainWindow : public QMainWindow, public environment::Observer {
   void Copy();
   void Paste();
   void SelectAll();
-  void InFocus(const char* slot);
+  bool InFocus(const char* slot);  // false: what has the focus has no such command
+  CodePane* ActivePane() const;
   void Find();
   void FindNext();
   void ViewCode();

@@ -175,10 +175,9 @@ void MainWindow::CommandBarsChanged() {
 }
 
 void MainWindow::UpdateCommands() {
-  QWidget* inside = area_->activeSubWindow() ? area_->activeSubWindow()->widget() : nullptr;
-  const auto* pane = qobject_cast<CodePane*>(inside);
+  CodePane* pane = ActivePane();
   const auto module = ActiveModule() ? ActiveModule() : tree_->Current();
-  const QTextDocument* document = pane ? const_cast<CodePane*>(pane)->Editor().document() : nullptr;
+  const QTextDocument* document = pane ? pane->Editor().document() : nullptr;
   commands_["undo"]->setEnabled(document && document->isUndoAvailable());
   commands_["redo"]->setEnabled(document && document->isRedoAvailable());
   commands_["find"]->setEnabled(pane);
@@ -187,7 +186,7 @@ void MainWindow::UpdateCommands() {
   commands_["save"]->setEnabled(has_code);
   commands_["code"]->setEnabled(has_code);
   commands_["object"]->setEnabled(module && HasDesigner(*module));
-  commands_["close"]->setEnabled(inside);
+  commands_["close"]->setEnabled(area_->activeSubWindow());
   commands_["view-problems"]->setEnabled(!environment_->Problems().empty());
 }
 
@@ -195,14 +194,22 @@ void MainWindow::OpenProject() {
   emit OpenWanted({});
 }
 
-void MainWindow::InFocus(const char* slot) {
-  if (QWidget* focus = QApplication::focusWidget()) QMetaObject::invokeMethod(focus, slot);
+CodePane* MainWindow::ActivePane() const {
+  return qobject_cast<CodePane*>(area_->activeSubWindow() ? area_->activeSubWindow()->widget() : nullptr);
 }
+
+bool MainWindow::InFocus(const char* slot) {
+  QWidget* focus = QApplication::focusWidget();
+  if (!focus || focus->metaObject()->indexOfSlot(QByteArray(slot).append("()").constData()) < 0) return false;
+  return QMetaObject::invokeMethod(focus, slot);
+}
+
+// The commands tell of the pane in front; the focus may be in a list.
 void MainWindow::Undo() {
-  InFocus("undo");
+  if (CodePane* pane = ActivePane(); !InFocus("undo") && pane) pane->Editor().undo();
 }
 void MainWindow::Redo() {
-  InFocus("redo");
+  if (CodePane* pane = ActivePane(); !InFocus("redo") && pane) pane->Editor().redo();
 }
 void MainWindow::Cut() {
   InFocus("cut");
@@ -222,12 +229,13 @@ void MainWindow::Find() {
     find_ = new FindDialog(this);
     ConnectAct(find_, &FindDialog::FindWanted, this, &MainWindow::FindNext);
   }
-  const auto* pane = qobject_cast<CodePane*>(area_->activeSubWindow() ? area_->activeSubWindow()->widget() : nullptr);
-  find_->Ask(pane ? const_cast<CodePane*>(pane)->Editor().textCursor().selectedText() : QString());
+  CodePane* pane = ActivePane();
+  const QString selected = pane ? pane->Editor().textCursor().selectedText() : QString();
+  find_->Ask(selected.contains(QChar::ParagraphSeparator) ? QString() : selected);
 }
 
 void MainWindow::FindNext() {
-  auto* pane = qobject_cast<CodePane*>(area_->activeSubWindow() ? area_->activeSubWindow()->widget() : nullptr);
+  CodePane* pane = ActivePane();
   if (!pane || !find_ || find_->Text().isEmpty()) return;
   if (!pane->FindNext(find_->Text(), find_->MatchesCase(), find_->MatchesWords()))
     statusBar()->showMessage(tr("\"%1\" was not found.").arg(find_->Text()));

@@ -70,11 +70,9 @@ const char* ExtensionOf(host::ComponentType type) {
 std::vector<std::string> MainWindow::UnsavedFiles() const {
   std::vector<std::string> files;
   for (const auto& project : environment_->Projects()) {
-    const size_t before = files.size();
     for (const auto& module : project->Modules())
       if (module->IsDirty()) files.push_back(module->Path().empty() ? module->Name() : Shown(module->Path()));
-    // A project that is edited beyond its modules has its own file to be written.
-    if (project->IsDirty() && files.size() == before) files.push_back(Shown(project->FileName()));
+    if (project->IsDirty()) files.push_back(Shown(project->FileName()));
   }
   return files;
 }

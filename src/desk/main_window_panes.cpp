@@ -127,7 +127,16 @@ DesignerWindow* MainWindow::OpenDesigner(const std::shared_ptr<Module>& module) 
   return designer;
 }
 
+// The active project is the one that is worked on.
+void MainWindow::WorkOn(const std::shared_ptr<environment::Project>& project) {
+  if (!project || project == environment_->ActiveVBProject()) return;
+  environment_->ActivateProject(project);
+  tree_->ShowState();
+  ShowTitle();
+}
+
 void MainWindow::ShowSelectedComponent(const std::shared_ptr<Module>& module) {
+  WorkOn(module->ProjectOf());
   environment_->SelectComponent(module);
   tree_->ShowSelected(*module);
 }
@@ -194,6 +203,7 @@ void MainWindow::ComponentsChanged() {
   for (CodePane* pane : panes_) pane->setWindowTitle(ToLabel(pane->ModuleOf()->Name()) + tr(" (Code)"));
   for (DesignerWindow* designer : designers_) designer->setWindowTitle(ToLabel(designer->ModuleOf()->Name()));
   ShowTitle();
+  ShowProperties();
   UpdateCommands();
 }
 

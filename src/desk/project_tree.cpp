@@ -87,8 +87,10 @@ ProjectTree::ProjectTree(environment::Environment& environment, QWidget* parent)
   setIndentation(16);
   setContextMenuPolicy(Qt::CustomContextMenu);
   ConnectAct(this, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* item, int) { OpenItem(item); });
-  ConnectAct(this, &QTreeWidget::currentItemChanged, this,
-             [this](QTreeWidgetItem* item, QTreeWidgetItem*) { emit Selected(ModuleOf(item)); });
+  ConnectAct(this, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item, QTreeWidgetItem*) {
+    if (const auto project = ProjectAround(item)) emit ProjectWanted(project);
+    emit Selected(ModuleOf(item));
+  });
   ConnectAct(this, &QWidget::customContextMenuRequested, this, &ProjectTree::OpenMenu);
   FillAgain();
 }
@@ -170,6 +172,11 @@ std::shared_ptr<Project> ProjectTree::ProjectOf(const QTreeWidgetItem* item) con
   return number.isValid() && number.toUInt() < projects_.size() ? projects_[number.toUInt()] : nullptr;
 }
 
+std::shared_ptr<Project> ProjectTree::ProjectAround(const QTreeWidgetItem* item) const {
+  while (item && !ProjectOf(item)) item = item->parent();
+  return ProjectOf(item);
+}
+
 // A form opens as it looks, a module as its code.
 void ProjectTree::OpenItem(QTreeWidgetItem* item) {
   if (const auto module = ModuleOf(item)) {
@@ -194,10 +201,7 @@ void ProjectTree::OpenMenu(const QPoint& at) {
     menu.addAction(tr("&Save %1").arg(ToLabel(module->Name())), this, [this, module] { emit SaveWanted(module); })
         ->setEnabled(has_code);
   } else if (const auto project = ProjectOf(item)) {
-    ConnectAct(menu.addAction(tr("&Work on This Project")), &QAction::triggered, this, [this, project] {
-      environment_.ActivateProject(project);
-      ShowState();
-    });
+    menu.addAction(tr("&Work on This Project"), this, [this, project] { emit ProjectWanted(project); });
   }
   if (!menu.isEmpty()) menu.exec(viewport()->mapToGlobal(at));
 }

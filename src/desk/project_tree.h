@@ -24,6 +24,7 @@ class ProjectTree : public QTreeWidget {
  signals:
   void CodeWanted(std::shared_ptr<environment::Module> module);
   void DesignerWanted(std::shared_ptr<environment::Module> module);
+  void ProjectWanted(const std::shared_ptr<environment::Project>& project);  // to be the active one
   void SaveWanted(std::shared_ptr<environment::Module> module);
   void Selected(std::shared_ptr<environment::Module> module);  // Nothing: a folder or a project
   void Told(const QString& message);
@@ -34,6 +35,7 @@ class ProjectTree : public QTreeWidget {
   void OpenMenu(const QPoint& at);
   std::shared_ptr<environment::Module> ModuleOf(const QTreeWidgetItem* item) const;
   std::shared_ptr<environment::Project> ProjectOf(const QTreeWidgetItem* item) const;
+  std::shared_ptr<environment::Project> ProjectAround(const QTreeWidgetItem* item) const;
 
   environment::Environment& environment_;
   std::vector<std::shared_ptr<environment::Module>> modules_;  // by the number an item holds

@@ -13,6 +13,7 @@
 
 #include "desk/code_pane.h"
 #include "desk/designer_window.h"
+#include "desk/find_dialog.h"
 #include "desk/project_tree.h"
 #include "desk/property_list.h"
 #include "tests/desk/desk_fixture.h"
@@ -338,6 +339,97 @@ TEST_F(MainWindowTest, AGroupOfProjectsIsShownAsOne) {
   EXPECT_EQ(TreeTexts(window_->Tree()).front(), "Project Group");
 }
 
+TEST_F(MainWindowTest, ARenamedComponentIsCalledSoInThePropertyList) {
+  window_->OpenDesigner(Module("frmStock"));
+  Settle();
+  QTableWidget& table = window_->Properties().Table();
+  table.item(table.findItems("Name", Qt::MatchExactly).first()->row(), 1)->setText("frmGoods");
+  Settle();
+  EXPECT_EQ(window_->Properties().Title(), "frmGoods  Form");
+  EXPECT_EQ(TreeTexts(window_->Tree())[2], "frmGoods (frmStock.frm) *");
+}
+
+TEST_F(MainWindowTest, ThePropertyListLetsGoOfAComponentThatIsRemoved) {
+  window_->Tree().ShowSelected(*Module("modStock"));
+  emit window_->Tree().Selected(Module("modStock"));
+  ASSERT_EQ(window_->Properties().Title(), "modStock  Module");
+  environment_->ActiveVBProject()->VBComponents()->Remove(Module("modStock"));
+  Settle();
+  EXPECT_EQ(window_->Properties().Title(), "");
+  EXPECT_EQ(window_->Properties().Table().rowCount(), 0);
+}
+
+TEST_F(MainWindowTest, UndoIsThatOfThePaneInFrontWhereverTheFocusIs) {
+  CodePane* first = window_->OpenCode(Module("frmStock"));
+  first->Editor().insertPlainText("' one\n");
+  CodePane* second = window_->OpenCode(Module("modStock"));
+  second->Editor().insertPlainText("' two\n");
+  window_->Tree().setFocus();
+  Settle();
+  ASSERT_TRUE(window_->Command("undo")->isEnabled());
+  window_->Command("undo")->trigger();
+  EXPECT_EQ(Module("modStock")->CodeModule()->Lines(1, 1), "Option Explicit");
+  EXPECT_EQ(Module("frmStock")->CodeModule()->Lines(1, 1), "' one");
+  window_->Command("redo")->trigger();
+  EXPECT_EQ(Module("modStock")->CodeModule()->Lines(1, 1), "' two");
+}
+
+TEST_F(MainWindowTest, TheTitleNamesTheProjectThatIsWorkedOn) {
+  files_.Put("C:\\Odd\\Odd.vbp", "Type=Exe\r\nName=\"Odd\"\r\n");
+  environment_->Open("C:\\Odd\\Odd.vbp");
+  window_->ShowProject();
+  ASSERT_EQ(window_->windowTitle(), "Odd[*] - Corvane");
+  emit window_->Tree().ProjectWanted(environment_->Projects()[0]);
+  EXPECT_EQ(environment_->ActiveVBProject()->Name(), "Stock");
+  EXPECT_EQ(window_->windowTitle(), "Stock[*] - Corvane");
+}
+
+TEST_F(MainWindowTest, ASearchThatFindsNothingLeavesThePlaceAsItIs) {
+  CodePane* pane = window_->OpenCode(Module("modStock"));
+  Module("modStock")->CodeModule()->CodePane()->SetSelection({5, 5, 5, 10});
+  std::vector<long> lines;
+  QObject::connect(&pane->Editor(), &QPlainTextEdit::cursorPositionChanged,
+                   [&] { lines.push_back(Module("modStock")->PaneSelection().start_line); });
+  EXPECT_FALSE(pane->FindNext("nowhere", false, false));
+  EXPECT_EQ(lines, std::vector<long>());
+  EXPECT_EQ(pane->Editor().textCursor().selectedText(), "Total");
+  EXPECT_TRUE(pane->FindNext("option", false, false)) << "from the top again";
+  EXPECT_EQ(pane->Editor().textCursor().blockNumber(), 0);
+}
+
+TEST_F(MainWindowTest, TheProjectOfWhatIsChosenInTheTreeOrShownInFrontIsTheActiveOne) {
+  files_.Put("C:\\Odd\\Odd.vbp", "Type=Exe\r\nModule=modOdd; modOdd.bas\r\nName=\"Odd\"\r\n");
+  files_.Put("C:\\Odd\\modOdd.bas", "Attribute VB_Name = \"modOdd\"\r\n");
+  environment_->Open("C:\\Odd\\Odd.vbp");
+  window_->ShowProject();
+  const auto active = [&] { return environment_->ActiveVBProject()->Name(); };
+  ASSERT_EQ(active(), "Odd");
+  ProjectTree& tree = window_->Tree();
+  tree.setCurrentItem(tree.findItems("modStock", Qt::MatchStartsWith | Qt::MatchRecursive).first());
+  EXPECT_EQ(active(), "Stock");
+  tree.setCurrentItem(tree.findItems("Odd (", Qt::MatchStartsWith | Qt::MatchRecursive).first());
+  EXPECT_EQ(active(), "Odd");
+  EXPECT_TRUE(tree.currentItem()->font(0).bold());
+  window_->OpenCode(Module("modStock"));
+  EXPECT_EQ(active(), "Stock");
+  EXPECT_EQ(window_->windowTitle(), "Stock[*] - Corvane");
+}
+
+TEST_F(MainWindowTest, FindProposesWhatIsSelectedInOneLine) {
+  CodePane* pane = window_->OpenCode(Module("modStock"));
+  Settle();
+  const auto proposed = [&] {
+    window_->Command("find")->trigger();
+    auto* dialog = window_->findChild<FindDialog*>();
+    dialog->hide();
+    return dialog->Text();
+  };
+  Module("modStock")->CodeModule()->CodePane()->SetSelection({5, 5, 5, 10});
+  EXPECT_EQ(proposed(), "Total");
+  pane->Editor().selectAll();
+  EXPECT_EQ(proposed(), "Total");
+}
+
 class SavingTest : public DeskTest {
  protected:
   void SetUp() override {
@@ -373,6 +465,15 @@ TEST_F(SavingTest, LeavingAsksWithTheNamesOfTheFiles) {
   prompts_.answers = {host::vbNo};
   EXPECT_TRUE(window_->close());
   EXPECT_FALSE(IsWritten());
+}
+
+TEST_F(SavingTest, LeavingNamesTheProjectFileToo) {
+  Edit();
+  environment_->ActiveVBProject()->VBComponents()->Remove(Module("frmStock"));
+  prompts_.answers = {host::vbCancel};
+  EXPECT_FALSE(window_->MayLeave());
+  EXPECT_NE(prompts_.messages.at(0).prompt.find(path_), std::string::npos);
+  EXPECT_NE(prompts_.messages[0].prompt.find("C:\\Work\\Stock.vbp"), std::string::npos) << "it is saved as well";
 }
 
 TEST_F(SavingTest, LeavingWithYesSaves) {
