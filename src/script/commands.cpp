@@ -86,6 +86,7 @@ void PutParams(CommandUse& use) {
 
 void Run(CommandUse& use) {
   State(use).restartFlag = State(use).stopFlag = true;
+  State(use).nextScript = use.value;
 }
 
 void MsgBox(CommandUse& use) {

@@ -125,7 +125,7 @@ bool frmLib::RunOnce(std::string& script) {
     errors_.ReportError(kOutOfMemory);
   }
   if (!state_.restartFlag) return false;
-  script = runtime::Trim(TextOf(state_.lastValue));
+  script = runtime::Trim(state_.nextScript);
   if (!BeginsWith(UCase(script), "FILE:")) script.insert(0, "FILE:");
   return true;
 }

@@ -31,6 +31,7 @@ struct ScriptState {
   std::string labelTarget;  // a jump under way
   int labelSearch = 0;      // what happens when a piece does not hold it: 0 to 3
   bool debugOn = false, planOn = false, wizardMode = false, restartFlag = false;
+  std::string nextScript;  // what RUN names; the expression that it was called in may go on to change lastValue
   std::string debugWatch;
   int debugSkip = 0;
   std::string scriptFile;    // path of the file last included

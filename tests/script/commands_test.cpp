@@ -172,6 +172,16 @@ TEST_F(CommandsTest, PrintIsShownBeforeARunStartsAnother) {
   EXPECT_EQ(Boxes(), (Lines{"1\n", "2\n"}));
 }
 
+// The expression goes on behind the call and changes the last value.
+TEST_F(CommandsTest, RunInAFunctionStartsTheFileThatItNames) {
+  world.services.files.Put("C:\\next.txt", "CODE{\r\n<%=3%>\r\n}\r\n");
+  const std::string go = "dim xx\nfunction go(nn)\nrun(\"C:\\next.txt\")\nend function\n";
+  for (const char* call : {"=go(1)", "xx=go(1)", "xx=\"a\"&go(1)", "xx=go(1)+2", "if go(1)=\"a\" then\nend if",
+                           "call go(1)", "print(\"a\"&go(1)&\"b\")"})
+    EXPECT_EQ(RunCode(go + call), "3\n") << call;
+  EXPECT_EQ(Boxes(), Lines());
+}
+
 // What an IF cannot reckon leaves the condition as it was, and the statement behind THEN is judged by that.
 TEST_F(CommandsTest, AnIfPassesItsErrorsOverStatementByStatement) {
   world.ide.fails = true;
