@@ -1,5 +1,7 @@
 #include "script/debug_step.h"
 
+#include <utility>
+
 #include "runtime/strings.h"
 #include "script/flat_to_text.h"
 #include "script/numbers.h"
@@ -28,13 +30,14 @@ void DebugStepper::Reset() {
 }
 
 void DebugStepper::DebugStep(const std::string& statement) {
+  if (evaluating_) return;
   if (state_.debugSkip > 0) {
     --state_.debugSkip;
   } else if (state_.debugSkip == 0) {
     const std::string remembered = state_.currentLine;
     std::string watch = WatchedValues();
     DebugAnswer answer = Ask(statement, remembered, watch);
-    while (!answer.expression.empty() && answer.button == kStep) {
+    while (!answer.expression.empty() && StaysHere(answer)) {
       watch += LineOf(answer.expression);
       answer = Ask(statement, remembered, watch);
     }
@@ -53,6 +56,14 @@ DebugAnswer DebugStepper::Ask(const std::string& statement, const std::string& b
   return answer;
 }
 
+bool DebugStepper::RunsOut(const DebugAnswer& answer) const {
+  return answer.button == kRunOut && state_.subDepth >= 1;
+}
+
+bool DebugStepper::StaysHere(const DebugAnswer& answer) const {
+  return answer.button != kRunOn && answer.button != kStopScript && !RunsOut(answer);
+}
+
 // A typed count goes before the place in the list.
 void DebugStepper::Obey(const DebugAnswer& answer) {
   if (answer.button == kRunOn || answer.button == kStopScript) {
@@ -61,7 +72,7 @@ void DebugStepper::Obey(const DebugAnswer& answer) {
     if (answer.button == kStopScript) state_.stopFlag = true;
     return;
   }
-  if (answer.button == kRunOut && state_.subDepth >= 1) {
+  if (RunsOut(answer)) {
     state_.debugSkip = kRunsOut;
     return;
   }
@@ -84,13 +95,18 @@ std::string DebugStepper::WatchedValues() {
   return watched;
 }
 
-// What would be an error elsewhere, as an unknown name, shows its text. The run's own value stays.
+// What would be an error elsewhere, as an unknown name, shows its text and stops nothing. A function in [entry] runs
+// through without the window, and what the run goes on with stays.
 std::string DebugStepper::LineOf(const std::string& entry) {
-  const Cell before = state_.lastValue;
-  state_.lastValue = std::string();
+  const Cell last = std::exchange(state_.lastValue, std::string());
+  const bool cond = state_.condFlag;
+  evaluating_ = true;
   const std::vector<std::string> problems = errors_.Unreported([&] { expressions_.EvalExpression(entry); });
   const std::string value = problems.empty() ? TextOf(state_.lastValue) : problems.front();
-  state_.lastValue = before;
+  if (!problems.empty()) state_.stopFlag = false;
+  evaluating_ = false;
+  state_.condFlag = cond;
+  state_.lastValue = last;
   return entry + " = " + value + kCrLf;
 }
 

@@ -27,6 +27,8 @@ class DebugStepper {
  private:
   DebugAnswer Ask(const std::string& statement, const std::string& behind, const std::string& watch);
   void Obey(const DebugAnswer& answer);
+  bool RunsOut(const DebugAnswer& answer) const;
+  bool StaysHere(const DebugAnswer& answer) const;
   std::string WatchedValues();
   std::string LineOf(const std::string& entry);
 
@@ -36,6 +38,7 @@ class DebugStepper {
   DebugWindow& window_;
   host::Screen& screen_;
   float left_ = kFirstPlace, top_ = kFirstPlace;
+  bool evaluating_ = false;  // for the window
 };
 
 }  // namespace corvane::script

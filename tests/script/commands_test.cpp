@@ -337,6 +337,47 @@ TEST_F(DebugStepTest, ATypedExpressionIsEvaluatedAndTheWindowComesAgain) {
   EXPECT_EQ(Readable(world.debug.views[1].watch), "1+1 = 2\n");
 }
 
+TEST_F(DebugStepTest, AnExpressionTypedWithRunOutAtTheTopIsEvaluated) {
+  world.debug.answers = {{kRunOut, "1+1"}, {kRunOn}};
+  EXPECT_EQ(RunCode("debug\n=1"), "1");
+  ASSERT_EQ(world.debug.views.size(), 2u);
+  EXPECT_EQ(Readable(world.debug.views[1].watch), "1+1 = 2\n");
+}
+
+TEST_F(DebugStepTest, AnExpressionTypedWithRunOutInASubIsDropped) {
+  world.debug.answers = {{kStep}, {kRunOut, "1+1"}, {kRunOn}};
+  RunCode("sub s1()\n=1\n=2\nend sub\ndebug\ncall s1()\n=3");
+  ASSERT_EQ(world.debug.views.size(), 3u);
+  EXPECT_EQ(world.debug.views[2].lines.front(), "=3:");
+}
+
+TEST_F(DebugStepTest, AFunctionInTheWatchListRunsThrough) {
+  world.debug.answers = {{kStep}, {kStep, "ff(5)"}, {kRunOn}};
+  const std::string code = "function ff(aa)\nif aa=9 then\nff=0\nelse\nff=aa+1\nend if\nend function\n";
+  EXPECT_EQ(RunCode(code + "debug(ff(1))\nif 1=1 then\n=\"x\"\nelse\n=\"y\"\nend if"), "x");
+  ASSERT_EQ(world.debug.views.size(), 3u);
+  EXPECT_EQ(Readable(world.debug.views[0].watch), "ff(1) = 2\n");
+  EXPECT_EQ(world.debug.views[0].lines.front(), "if 1=1 then:");
+  EXPECT_EQ(Readable(world.debug.views[2].watch), "ff(1) = 2\nff(5) = 6\n");
+  EXPECT_EQ(Boxes(), Lines());
+}
+
+TEST_F(DebugStepTest, AnErrorInAWatchedFunctionStopsNothing) {
+  world.debug.answers = {{kStep}, {kRunOn}};
+  EXPECT_EQ(RunCode("function ff(aa)\nff=ff(aa)\nend function\ndebug(ff(1))\n=\"x\"\n=\"y\""), "xy");
+  ASSERT_EQ(world.debug.views.size(), 2u);
+  EXPECT_EQ(Readable(world.debug.views[0].watch), "ff(1) = Calls are nested too deep.\n");
+}
+
+TEST_F(DebugStepTest, TheNextRunHasNoWatchListAndSkipsNothing) {
+  world.debug.answers = {{kStep, "", "50"}};
+  RunCode("debug(aa)\n=1\n=2");
+  EXPECT_EQ(lib.Parts().state.debugSkip, 48);
+  RunCode("=1");
+  EXPECT_EQ(lib.Parts().state.debugWatch, "");
+  EXPECT_EQ(lib.Parts().state.debugSkip, 0);
+}
+
 TEST_F(DebugStepTest, TheWindowsPlaceIsRememberedDuringARun) {
   world.debug.answers = {{kStep, "", "", 1, 100, 200}};
   RunCode("debug\n=1\n=2");
