@@ -12,7 +12,7 @@ namespace {
 
 // The last line needs no line end.
 ScriptText ReadLibrary(host::Services& services) {
-  std::string text = services.Files.Read(services.App.Path + "\\LibCode.txt");
+  std::string text = WithLineEnds(services.Files.Read(services.App.Path + "\\LibCode.txt"));
   if (!text.ends_with(runtime::kCrLf)) text += runtime::kCrLf;
   return ScriptText(std::move(text));
 }

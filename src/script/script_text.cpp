@@ -37,9 +37,16 @@ void ScriptText::GoTo(const Place& place) {
   at_ = place.at;
 }
 
-std::string WithLineEnds(std::string text) {
-  if (runtime::Holds(text, "\r")) return text;
-  return runtime::Replace(text, "\n", runtime::kCrLf);
+std::string WithLineEnds(std::string_view text) {
+  constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+  if (runtime::BeginsWith(text, kUtf8Mark)) text.remove_prefix(kUtf8Mark.size());
+  std::string result;
+  result.reserve(text.size() + text.size() / 16);
+  for (size_t at = 0; at < text.size(); ++at) {
+    if (text[at] == '\n' && (at == 0 || text[at - 1] != '\r')) result += '\r';
+    result += text[at];
+  }
+  return result;
 }
 
 }  // namespace corvane::script

@@ -37,7 +37,7 @@ class ScriptText {
   mutable size_t last_place_ = std::string::npos;
 };
 
-// A text whose lines end in LF alone with CR LF; others as they are.
-std::string WithLineEnds(std::string text);
+// The text of a script file: each line that ends in LF alone ends in CR LF, and a UTF-8 mark in front is left out.
+std::string WithLineEnds(std::string_view text);
 
 }  // namespace corvane::script

@@ -66,6 +66,28 @@ TEST_F(BlockReaderTest, AnIncludeIsReadInPlace) {
   EXPECT_EQ(lib.Parts().state.scriptFile, "C:\\Corvane\\WorkShop\\part.txt");
 }
 
+TEST_F(BlockReaderTest, AFilesLinesMayEndInLfAndItMayHaveAMark) {
+  for (const char* file : {"\xEF\xBB\xBF"
+                           "CODE{\r\n<%=1%>\r\n}\r\n",
+                           "CODE{\r\n<%\r\ndim aa\naa=1\r\n=aa\n%>\r\n}\n", "CODE{\n<%=1%>\r\n}"}) {
+    world.services.files.Put("D:\\x\\part.txt", file);
+    EXPECT_EQ(runtime::Replace(RunScript("FILE:D:\\x\\part.txt\n"), "\n", ""), "1") << file;
+  }
+  EXPECT_EQ(Boxes(), Lines());
+}
+
+TEST_F(BlockReaderTest, AScriptInMemoryStaysAsItIs) {
+  lib.RunScriptText("CODE{\r\na\nb\r\n}\r\n");
+  EXPECT_EQ(lib.ResultText(), "a\nb\r\n");
+}
+
+TEST_F(BlockReaderTest, TheWaitCursorIsGoneWhenTheScriptBegins) {
+  RunScript("CODE{\n}\n");
+  ASSERT_GE(world.services.screen.pointers.size(), 2u);
+  EXPECT_EQ(world.services.screen.pointers[0], host::vbHourglass);
+  EXPECT_EQ(world.services.screen.pointers[1], host::vbDefault);
+}
+
 TEST_F(BlockReaderTest, AnIncludeByItsWholePath) {
   world.services.files.Put("D:\\x\\part.txt", "CODE{\r\nincluded\r\n}\r\n");
   EXPECT_EQ(RunScript("FILE:D:\\x\\part.txt\n"), "included\n");
