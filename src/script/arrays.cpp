@@ -34,6 +34,10 @@ std::string Arrays::ArrayAccess(long slot, std::string_view what) {
   return Element(elements, what);
 }
 
+void Arrays::AddTo(MemoryUse& use) const {
+  for (const auto& elements : slots_) use.Add(elements);
+}
+
 std::string Arrays::Element(const std::vector<Cell>& elements, std::string_view index) {
   const auto number = NumberOf(index);
   if (!number || *number < 1) {

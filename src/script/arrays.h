@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "script/memory_use.h"
 #include "script/script_state.h"
 
 namespace corvane::script {
@@ -24,6 +25,8 @@ class Arrays {
   std::string ArrayAccess(long slot, std::string_view what);
   // The element takes lastValue. Throws Error 9 for an index that rounds to 0.
   void ArrayStore(long slot, double index);
+
+  void AddTo(MemoryUse& use) const;
 
   long arrayCount = 0;  // arrays declared in the run
 

@@ -22,6 +22,9 @@ class Text {
   std::string_view Get() const { return shared_ ? std::string_view(*shared_).substr(0, length_) : own_; }
   size_t Size() const { return shared_ ? length_ : own_.size(); }
 
+  // Where a long text is kept, with others that begin like it; nothing for a short one.
+  const std::string* SharedText() const { return shared_.get(); }
+
   // [more] may not stand in this text itself.
   void Append(std::string_view more);
 

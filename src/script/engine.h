@@ -27,6 +27,7 @@ struct Engine {
   VariableStore& store;
   Expressions& expressions;
   Assignment& assignment;
+  Arrays& arrays;
   SubStore& subs;
   TranslatedPieces& pieces;
   DebugStepper& debugger;
@@ -38,6 +39,9 @@ struct Engine {
   uint32_t yielded_at = 0;        // milliseconds of the host's clock
   bool label_found = false;       // by a search, since the block reader looked
   size_t longest_text = kLongestText;
+  size_t most_memory = kMostMemory;
+  size_t unmeasured = 0;  // bytes that may have been added to what the script holds since it was last measured
+  size_t measured = 0;
 };
 
 }  // namespace corvane::script

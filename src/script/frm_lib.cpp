@@ -1,5 +1,7 @@
 #include "script/frm_lib.h"
 
+#include <algorithm>
+
 #include "runtime/strings.h"
 #include "script/block_reader.h"
 #include "script/library_file.h"
@@ -38,8 +40,18 @@ frmLib::frmLib(Surroundings& around)
       pieces_(state_, errors_),
       debugger_(state_, errors_, evaluator_.expressions, around.debug, around.services.Screen),
       commands_(around, *this),
-      engine_{state_,  errors_,   outside_,      evaluator_.store, evaluator_.expressions, evaluator_.assignment, subs_,
-              pieces_, debugger_, around.result, commands_} {}
+      engine_{state_,
+              errors_,
+              outside_,
+              evaluator_.store,
+              evaluator_.expressions,
+              evaluator_.assignment,
+              evaluator_.arrays,
+              subs_,
+              pieces_,
+              debugger_,
+              around.result,
+              commands_} {}
 
 frmLib::~frmLib() = default;
 
@@ -49,6 +61,7 @@ void frmLib::RunInside(const std::string& file) {
   lib->state_.scriptParams = around_.paramExchange;
   lib->depth_ = depth_ + 1;
   lib->engine_.nested_runs = engine_.nested_runs;
+  lib->engine_.most_memory = std::max(engine_.most_memory / 2, kLongestText);
   lib->errors_.ShareBox(errors_);
   const SetWhile reached(inner_, lib.get());
   lib->Execute(std::string(1, labelMark) + file);
@@ -99,6 +112,7 @@ void frmLib::RunScriptText(const std::string& script) {
 void frmLib::Reset() {
   around_.services.Screen.SetMousePointer(host::vbHourglass);
   engine_.yielded_at = around_.services.Loop.TickCount();
+  engine_.unmeasured = engine_.measured = 0;
   ScriptState fresh;
   fresh.wizardMode = from_library_;
   fresh.planOn = plan_;

@@ -8,6 +8,7 @@
 namespace corvane::script {
 
 inline constexpr size_t kLongestText = 64u << 20;  // characters
+inline constexpr size_t kMostMemory = 512u << 20;  // bytes, over all variables, arrays and SUBs
 
 inline runtime::Error TooLong() {
   constexpr long kOutOfStringSpace = 14;

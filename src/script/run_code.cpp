@@ -122,10 +122,30 @@ void CodeRun::TakeStatement(ProgramItem& statement) {
     if (state_.stopFlag) return;
   }
   Dispatch(statement);
+  CheckLimits(statement);
+}
+
+// What a statement adds comes from its text, as new names and SUBs do, or through the last value.
+void CodeRun::CheckLimits(const ProgramItem& statement) {
+  constexpr size_t kByCharacter = 128, kStep = 16u << 20;
   if (std::max({SizeOf(state_.lastValue), state_.resultText.Size(), state_.printText.size()}) > engine_.longest_text) {
     Report("A text is too long.");
     state_.stopFlag = true;
   }
+  engine_.unmeasured += SizeOf(state_.lastValue) + kByCharacter * statement.size;
+  if (engine_.unmeasured < kStep || engine_.measured + engine_.unmeasured < engine_.most_memory) return;
+  engine_.measured = MemoryHeld();
+  engine_.unmeasured = 0;
+  if (engine_.measured > engine_.most_memory) OutOfMemory();
+}
+
+size_t CodeRun::MemoryHeld() const {
+  MemoryUse use;
+  engine_.store.AddTo(use);
+  engine_.arrays.AddTo(use);
+  use.Add(state_.pushSlots);
+  use.Add(engine_.subs.Size() + state_.formStore.capacity());
+  return use.Total();
 }
 
 void CodeRun::Dispatch(ProgramItem& statement) {

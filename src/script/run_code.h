@@ -47,6 +47,8 @@ class CodeRun {
   bool AtEnd();
   void TakeLabel(const ProgramItem& label);
   void TakeStatement(ProgramItem& statement);
+  void CheckLimits(const ProgramItem& statement);
+  size_t MemoryHeld() const;
   void Dispatch(ProgramItem& statement);
   void End() { ended_ = true; }
   void Report(const std::string& message) { engine_.errors.ReportError(message); }

@@ -35,6 +35,8 @@ class SubStore {
   // subsIndex: for each SUB listSep, its name with "(", its offset, ")".
   const std::string& Index() const { return subsIndex_; }
 
+  size_t Size() const { return subsCode_.capacity() + subsIndex_.capacity(); }
+
   // callChain: the offsets of the SUBs that are running, the innermost last.
   std::vector<long> callChain;
   // What the store held when the call of each depth began: savedStoreLen and savedVarCount.

@@ -190,6 +190,12 @@ long VariableStore::CellForStoring(std::string_view name, int depth) const {
   return place == 0 ? 0 : CellNumberAt(place);
 }
 
+void VariableStore::AddTo(MemoryUse& use) const {
+  constexpr size_t kSizeOfMention = sizeof(Mention) + 2 * sizeof(uint32_t);
+  use.Add(text_.capacity() + kSizeOfMention * (reading_.Size() + storing_.Size()));
+  use.Add(values_);
+}
+
 const Cell& VariableStore::Value(long cell) const {
   return values_[HasCell(cell) ? static_cast<size_t>(cell) : 0];
 }

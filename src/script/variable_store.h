@@ -12,7 +12,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "script/cell.h"
+#include "script/memory_use.h"
 
 namespace corvane::script {
 
@@ -53,6 +53,8 @@ class VariableStore {
   // Forgets what was declared since the text was [length] long, as the end of a call does.
   void CutTo(size_t length, long varCount);
 
+  void AddTo(MemoryUse& use) const;
+
   // Changes whenever the answer of a search may have changed.
   uint64_t Generation() const { return generation_; }
 
@@ -70,6 +72,7 @@ class VariableStore {
     template <class Forgotten>
     void CutTo(size_t length, size_t behind, Forgotten&& forgotten);
     const Mention* First(std::string_view text, std::string_view name) const;
+    size_t Size() const { return mentions_.size(); }
 
    private:
     std::vector<Mention> mentions_;                                // by place of the "="

@@ -109,6 +109,30 @@ TEST_F(Limits, BehindALongTextTheClockIsReadAtOnce) {
   EXPECT_EQ(world.services.loop.yields, 5);
 }
 
+TEST_F(Limits, ArraysOfLongTextsRunOutOfMemory) {
+  lib.Parts().most_memory = 40u << 20;
+  EXPECT_EQ(RunCode("dim aa,kk,ar()\naa=space(1000000)\nwhile 1=1\nkk++\nar(kk)=aa&kk\n=\".\"\nwend").size() / 10, 4u);
+  EXPECT_EQ(Errors(), Lines{"Out of memory."});
+}
+
+TEST_F(Limits, NamesWithoutEndRunOutOfMemory) {
+  lib.Parts().most_memory = 20u << 20;
+  RunCode("while 1=1\ndim ar()\nwend");
+  EXPECT_EQ(Errors(), Lines{"Out of memory."});
+}
+
+TEST_F(Limits, TextsInTheSlotsOfSelectRunOutOfMemory) {
+  lib.Parts().most_memory = 40u << 20;
+  RunCode("dim aa,kk\naa=space(1000000)\nwhile 1=1\nkk++\npush(kk,aa&kk)\nwend");
+  EXPECT_EQ(Errors(), Lines{"Out of memory."});
+}
+
+TEST_F(Limits, WhatIsOverwrittenDoesNotCount) {
+  lib.Parts().most_memory = 40u << 20;
+  EXPECT_EQ(RunCode("dim aa,bb,kk\naa=space(1000000)\nfor kk=1 to 300\nbb=aa&kk\nnext\n=len(bb)"), "1000003");
+  EXPECT_EQ(Errors(), Lines());
+}
+
 // What compares the sought text at each place takes minutes, in which no Stop comes in.
 TEST_F(Limits, ASearchOfALongTextComesToItsEnd) {
   const std::string texts = "dim aa,bb\naa=space(1000000)\nbb=space(500000)&\"x\"\n";
