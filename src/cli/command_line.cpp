@@ -234,9 +234,9 @@ class CommandLine {
   void DefineScript() {
     CLI::App* script = Define("script", "run a script without windows, and put out its result", [this] {
       return WithFile(command_, path_, [this](const std::string& bytes) {
-        if (check_) return CheckScriptFile(bytes, path_, command_.code_page, command_.out, command_.errors);
         script_.json = messages_ == "json";
         script_.code_page = command_.code_page;
+        if (check_) return CheckScriptFile(bytes, path_, script_, command_.out, command_.errors);
         return RunScriptFile(bytes, script_, command_.out, command_.errors);
       });
     });
@@ -244,9 +244,15 @@ class CommandLine {
     script->add_flag("--check", check_,
                      "do not run it, list the places that do what its author hardly meant: line, what it does, how to "
                      "write it; 1 if there is any");
-    script->add_option("--answer", script_.answers, "the answers to its boxes, in order: a text, ok, or cancel")
-        ->allow_extra_args(false);
-    script->add_option("--param", script_.parameters, "its parameters, in order")->allow_extra_args(false);
+    script
+        ->add_option("--answer", script_.answers, "the answer to its next box: a text, ok, or cancel; may be repeated")
+        ->allow_extra_args(false)
+        ->expected(1)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+    script->add_option("--param", script_.parameters, "its next parameter; may be repeated")
+        ->allow_extra_args(false)
+        ->expected(1)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
     auto* project = script->add_option("--project", script_.project, "the project or group it works on (.vbp, .vbg)");
     script->add_option("--component", script_.component, "the component that is selected, as Me")->needs(project);
     script->add_flag("--save", script_.save, "save what it changed; without it nothing is saved")->needs(project);

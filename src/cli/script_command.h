@@ -1,16 +1,18 @@
-// `corvane script`: scripts on the command line.
+// `corvane script --check`: what a script hardly does as its author meant.
 #pragma once
 
 #include <iosfwd>
 #include <string>
 
+#include "cli/run_script.h"
+
 namespace corvane::cli {
 
-// Lists the places of a script where the odd rules of its language do what its author hardly meant, a line each on
-// [out]: "file:line: what it does; write: how to write it". [path] is the file's name as the user gave it; [code_page]
-// decides case and the way to UTF-8; 0 leaves the one in force. Returns 1 if there is any; also, with a line on
-// [errors], where the text has no code to check; else 0.
-int CheckScriptFile(const std::string& file_bytes, const std::string& path, int code_page, std::ostream& out,
-                    std::ostream& errors);
+// Lists the places of a script, and of what it includes, where the odd rules of its language do what its author hardly
+// meant, a line each on [out]: "file:line: what it does; write: how to write it". [path] is the file's name as the user
+// gave it. Returns 1 if there is any; also, with a line on [errors], where the text has no code and no dialog, or a
+// file cannot be included; else 0.
+int CheckScriptFile(const std::string& file_bytes, const std::string& path, const ScriptOptions& options,
+                    std::ostream& out, std::ostream& errors);
 
 }  // namespace corvane::cli

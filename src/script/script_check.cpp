@@ -42,9 +42,12 @@ class Surroundings {
     }
     for (const char* closer : {"NEXT ", "NEXT:", "WEND:", "LOOP:"})
       if (BeginsWith(text, closer) && depth_ > 0) --depth_;
+    if (BeginsWith(text, "SUB ") || BeginsWith(text, "FUNCTION ")) in_sub_ = true;
+    if (BeginsWith(text, "END SUB") || BeginsWith(text, "END FUNCTION")) in_sub_ = false;
   }
 
   bool InLoop() const { return depth_ > 0; }
+  bool InSub() const { return in_sub_; }
   bool OpenedTwin() const { return opened_twin_; }  // a loop whose label another one has already
   bool IsSought(const std::string& label) const { return labels_.contains(label); }
 
@@ -52,7 +55,7 @@ class Surroundings {
   std::set<std::string> labels_;
   std::set<std::pair<int, int>> heads_;
   int depth_ = 0, loop_ = 0;
-  bool opened_twin_ = false;
+  bool opened_twin_ = false, in_sub_ = false;
 };
 
 bool CountsDown(const SourceStatement& source, const Surroundings&) {
@@ -67,6 +70,11 @@ bool CountsDownUnseen(const SourceStatement& source, const Surroundings&) {
   const size_t value = std::min(parts->step.find_first_not_of("=( "), parts->step.size());
   const string_view step = string_view(parts->step).substr(value);
   return BeginsWith(step, "0-") || (value > 0 && BeginsWith(step, "-"));
+}
+
+bool HasEmptyStep(const SourceStatement& source, const Surroundings&) {
+  const auto parts = BeginsWith(source.upper, "FOR ") ? ReadFor(source.statement.text) : std::nullopt;
+  return parts && parts->step.empty();
 }
 
 bool IsTwinLoop(const SourceStatement&, const Surroundings& around) {
@@ -168,6 +176,10 @@ bool IsArrayInLoop(const SourceStatement& source, const Surroundings& around) {
   return around.InLoop() && BeginsWith(source.upper, "DIM ") && Holds(source.upper, "()");
 }
 
+bool IsArrayInSub(const SourceStatement& source, const Surroundings& around) {
+  return around.InSub() && !around.InLoop() && BeginsWith(source.upper, "DIM ") && Holds(source.upper, "()");
+}
+
 struct OddRule {
   bool (*applies)(const SourceStatement&, const Surroundings&);
   const char* does;
@@ -179,6 +191,7 @@ constexpr OddRule kRules[] = {
      "count with WHILE: i=start, WHILE i>=limit, i=i-1 as the last statement, WEND"},
     {CountsDownUnseen, "a FOR whose step does not begin with its \"-\" counts up: it runs no pass at all",
      "count with WHILE: i=start, WHILE i>=limit, i=i-1 as the last statement, WEND"},
+    {HasEmptyStep, "a FOR whose STEP has no value never ends", "the value behind STEP, or no STEP"},
     {IsTwinLoop,
      "a loop beside another one inside a loop has the other's label: its end jumps back into that one for ever",
      "put it into a SUB that is defined before the outer loop"},
@@ -206,6 +219,8 @@ constexpr OddRule kRules[] = {
      "STRCOMP(a,b)<0, or >0"},
     {IsArrayInLoop, "DIM of an array in a loop takes another of the twenty arrays at each pass and empties none",
      "DIM before the loop, ERASE of the array in it"},
+    {IsArrayInSub, "DIM of an array in a SUB or FUNCTION takes another of the twenty arrays at each call",
+     "DIM before the SUB, ERASE of the array in it"},
 };
 
 constexpr char kLostToComment[] = "what stands before a /* */ comment is dropped with it";
@@ -213,17 +228,16 @@ constexpr char kBeforeComment[] = "the comment on a line of its own, or behind a
 
 }  // namespace
 
-std::optional<std::vector<OddPlace>> CheckScript(string_view script) {
-  bool has_block = false;
-  const std::vector<SourceStatement> all = SourceStatements(CodePieces(script, has_block));
-  if (!has_block) return std::nullopt;
+std::vector<OddPlace> CheckScript(const ScriptSource& source) {
+  const std::vector<SourceStatement> all = SourceStatements(source.pieces);
   std::vector<OddPlace> places;
   Surroundings around(all);
-  for (const SourceStatement& source : all) {
-    around.Pass(source);
-    if (source.lost_line != 0) places.push_back({source.lost_line, kLostToComment, kBeforeComment});
+  for (const SourceStatement& statement : all) {
+    around.Pass(statement);
+    if (statement.lost_line != 0)
+      places.push_back({source.PlaceOf(statement.lost_line), kLostToComment, kBeforeComment});
     for (const OddRule& rule : kRules)
-      if (rule.applies(source, around)) places.push_back({source.line, rule.does, rule.write});
+      if (rule.applies(statement, around)) places.push_back({source.PlaceOf(statement.line), rule.does, rule.write});
   }
   return places;
 }

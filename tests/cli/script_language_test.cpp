@@ -88,7 +88,7 @@ void Expect(const Example& example) {
   RunScriptFile(script, options, out, errors);
   EXPECT_EQ(Shown(out.str()), Shown(example.Block("output")));
   EXPECT_EQ(Shown(errors.str()), Shown(example.Block("messages")));
-  CheckScriptFile(script, "example.txt", 0, odd, ignored);
+  CheckScriptFile(script, "example.txt", options, odd, ignored);
   EXPECT_EQ(Shown(odd.str()), Shown(example.Block("check")));
 }
 

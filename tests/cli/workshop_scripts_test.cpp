@@ -461,7 +461,7 @@ TEST(WorkshopFolder, EachOfItsScriptsIsTried) {
 TEST(WorkshopFolder, NoScriptHasAnOddPlace) {
   for (const std::string& name : ScriptFiles()) {
     std::ostringstream out, errors;
-    EXPECT_EQ(CheckScriptFile(Text(Data() / "WorkShop" / name), name, 0, out, errors), 0) << out.str() << errors.str();
+    EXPECT_EQ(CheckScriptFile(Text(Data() / "WorkShop" / name), name, {}, out, errors), 0) << out.str() << errors.str();
   }
 }
 

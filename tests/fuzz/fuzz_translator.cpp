@@ -47,7 +47,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   for (size_t cancelled : {RecordedErrors::kNever, size_t{0}, size_t{2}}) Compare(text, cancelled);
   Compare(CodeOfLines(text), RecordedErrors::kNever);
   FlatToText(text);
-  CheckScript(text);
-  Require(CheckScript("CODE{\r\n<%" + text).has_value());
+  const auto nothing = [](const std::string&) { return std::nullopt; };
+  CheckScript(ReadScriptSource(text, nothing));
+  const ScriptSource block = ReadScriptSource("CODE{\r\n<%" + text, nothing);
+  Require(block.has_block);
+  CheckScript(block);
   return 0;
 }

@@ -79,8 +79,7 @@ struct Evaluation {
 };
 
 bool IsFlagged(const std::string& code) {
-  bool has_block = false;
-  for (const SourceStatement& source : SourceStatements(CodePieces("CODE{\r\n<%" + code + "%>\r\n", has_block)))
+  for (const SourceStatement& source : SourceStatements({{code, {1}}}))
     if (HasOddSign(source)) return true;
   return false;
 }

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <map>
 
 #include "runtime/strings.h"
 #include "script/code_pieces.h"
@@ -17,19 +18,32 @@ std::string WithCrLf(const std::string& text) {
   return runtime::Replace(text, "\n", "\r\n");
 }
 
+// Of the files that a script may include.
+ScriptSource SourceOf(const std::string& script, const std::map<std::string, std::string>& files = {}) {
+  return ReadScriptSource(WithCrLf(script), [&](const std::string& name) -> std::optional<IncludedFile> {
+    const auto file = files.find(name);
+    if (file == files.end()) return std::nullopt;
+    return IncludedFile{name, WithCrLf(file->second)};
+  });
+}
+
+std::vector<OddPlace> PlacesIn(const std::string& script) {
+  return CheckScript(SourceOf(script));
+}
+
 // The numbers of the odd lines of a piece of code, which begins in line 2 of its script.
 std::vector<long> OddLines(const std::string& code) {
   std::vector<long> lines;
-  const auto places = CheckScript(WithCrLf("CODE{\n<%" + code + "%>\n}\n")).value();
-  for (const OddPlace& place : places) lines.push_back(place.line);
+  const auto places = PlacesIn("CODE{\n<%" + code + "%>\n}\n");
+  for (const OddPlace& place : places) lines.push_back(place.at.line);
   return lines;
 }
 
 // What the only odd place of [code] does; it is in its first line.
 std::string OddThing(const std::string& code) {
-  const auto places = CheckScript(WithCrLf("CODE{\n<%" + code + "%>\n}\n")).value();
+  const auto places = PlacesIn("CODE{\n<%" + code + "%>\n}\n");
   if (places.size() != 1) return std::to_string(places.size()) + " places";
-  EXPECT_EQ(places[0].line, 2) << code;
+  EXPECT_EQ(places[0].at.line, 2) << code;
   EXPECT_FALSE(places[0].write.empty()) << code;
   return places[0].does;
 }
@@ -172,26 +186,63 @@ TEST(ScriptCheck, ADimOfAnArrayInALoop) {
   EXPECT_THAT(OddLines("DIM AR()\nWHILE a\nDIM BR(), cc\nDIM dd\nWEND\nDIM CR()"), ElementsAre(4));
 }
 
+TEST(ScriptCheck, ADimOfAnArrayInASub) {
+  for (const char* head : {"SUB ss()", "FUNCTION ff()"})
+    EXPECT_THAT(OddLines(std::string(head) + "\nDIM xx\nDIM AR()\nEND " + std::string(head).substr(0, 3) +
+                         (head[0] == 'S' ? "" : "CTION") + "\nDIM BR()"),
+                ElementsAre(4));
+}
+
+TEST(ScriptCheck, AStepWithoutAValue) {
+  for (const char* code : {"FOR ii=1 TO 3 STEP", "for ii=1 to 3 step "})
+    EXPECT_THAT(OddThing(code), HasSubstr("never ends")) << code;
+}
+
 TEST(ScriptCheck, CountsTheLinesOfTheScript) {
-  const auto places =
-      CheckScript(WithCrLf("text\nCODE{\nrow <%x=A(1)%> and <%=B(1)%>\nREM a\n<%\n' note\n\ny=1 ' note\n"
-                           "/* a\nb */\nz=f(1, _\n2)\n%><%=C(1)%>\n}\n<%=D(1)%>"));
   std::vector<long> lines;
-  for (const OddPlace& place : places.value()) lines.push_back(place.line);
+  for (const OddPlace& place : PlacesIn("text\nCODE{\nrow <%x=A(1)%> and <%=B(1)%>\nREM a\n<%\n' note\n\ny=1 ' note\n"
+                                        "/* a\nb */\nz=f(1, _\n2)\n%><%=C(1)%>\n}\n<%=D(1)%>"))
+    lines.push_back(place.at.line);
   EXPECT_THAT(lines, ElementsAre(3, 3, 11, 13));
 }
 
-TEST(ScriptCheck, AScriptWithoutABlockHasNothingToCheck) {
-  EXPECT_EQ(CheckScript("x=A(1)\r\n"), std::nullopt);
-  EXPECT_EQ(CheckScript(""), std::nullopt);
-  EXPECT_THAT(CheckScript("CODE{").value(), IsEmpty());
+TEST(ScriptCheck, ReadsWhatTheScriptIncludes) {
+  const ScriptSource source = SourceOf("FORM{ff\n}\nFILE: one\n<%=C(1)%>\n}\n",
+                                       {{"one", "text\nfile:two\n<%=B(1)%>"}, {"two", "CODE{\n<%=A(1)%>"}});
+  EXPECT_TRUE(source.has_block);
+  std::vector<std::string> places;
+  for (const OddPlace& place : CheckScript(source)) places.push_back(place.at.file + std::to_string(place.at.line));
+  EXPECT_THAT(places, ElementsAre("two2", "one3", "4"));
+}
+
+TEST(ScriptCheck, AFileThatIsNotThereEndsTheReading) {
+  const ScriptSource source = SourceOf("FILE:one\nCODE{\n}\n", {{"one", "\n\nFILE:two"}});
+  EXPECT_FALSE(source.has_block);
+  ASSERT_TRUE(source.failed_include.has_value());
+  EXPECT_EQ(source.failed_include->file, "one");
+  EXPECT_EQ(source.failed_include->line, 3);
+}
+
+TEST(ScriptCheck, AFileThatIncludesItselfEndsTheReading) {
+  EXPECT_TRUE(SourceOf("FILE:one", {{"one", "FILE:one"}}).failed_include.has_value());
+  std::string many;
+  for (int i = 0; i < 100; ++i) many += "FILE:one\n";
+  EXPECT_TRUE(SourceOf(many + "CODE{\n", {{"one", "text"}}).has_block);
+}
+
+TEST(ScriptCheck, AScriptWithoutABlock) {
+  EXPECT_FALSE(SourceOf("x=A(1)\n").has_block);
+  EXPECT_FALSE(SourceOf("x=A(1)\n").has_dialog);
+  EXPECT_FALSE(SourceOf("").has_block);
+  EXPECT_TRUE(SourceOf("CODE{").has_block);
+  for (const char* script : {"FORM{ff\n}\n", "menu{\nCODE{\n}"}) {
+    EXPECT_FALSE(SourceOf(script).has_block) << script;
+    EXPECT_TRUE(SourceOf(script).has_dialog) << script;
+  }
 }
 
 TEST(CodePieces, StandBetweenTheirMarks) {
-  bool has_block = false;
-  const auto pieces =
-      CodePieces("FORM{\r\nCODE{\r\n}\r\n code{ \r\na <%x=1%> b <%y=2\r\nrem c\r\nz=3%>\r\n}\r\n<%no%>", has_block);
-  EXPECT_TRUE(has_block);
+  const auto pieces = SourceOf("FORM{\nCODE{\n}\n code{ \na <%x=1%> b <%y=2\nrem c\nz=3%>\n}\n<%no%>").pieces;
   ASSERT_EQ(pieces.size(), 2u);
   EXPECT_EQ(pieces[0].code, "x=1");
   EXPECT_THAT(pieces[0].lines, ElementsAre(5));
@@ -200,14 +251,12 @@ TEST(CodePieces, StandBetweenTheirMarks) {
 }
 
 TEST(CodePieces, ABraceClosesTheBlockUnlessALiteralEndsBehindIt) {
-  bool has_block = false;
-  EXPECT_EQ(CodePieces("CODE{\r\n}\r\n<%x=1%>\r\n", has_block).size(), 0u);
-  EXPECT_EQ(CodePieces("CODE{\r\n}\r\n<%x=1%>\r\n]]", has_block).size(), 1u);
+  EXPECT_EQ(SourceOf("CODE{\n}\n<%x=1%>\n").pieces.size(), 0u);
+  EXPECT_EQ(SourceOf("CODE{\n}\n<%x=1%>\n]]").pieces.size(), 1u);
 }
 
 TEST(CodePieces, ABraceInOpenCodeClosesTheBlock) {
-  bool has_block = false;
-  const auto pieces = CodePieces("CODE{\r\n<%x=1\r\n}\r\ny=2%>\r\n", has_block);
+  const auto pieces = SourceOf("CODE{\n<%x=1\n}\ny=2%>\n").pieces;
   ASSERT_EQ(pieces.size(), 1u);
   EXPECT_EQ(pieces[0].code, "x=1");
 }
