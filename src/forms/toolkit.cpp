@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <utility>
 
 #include "forms/form.h"
 
@@ -9,6 +10,7 @@ namespace corvane::forms {
 
 void Toolkit::Guard(const std::function<void()>& act) noexcept {
   ++acts_;
+  const long outer = std::exchange(current_act_, ++last_act_);
   std::string fault;
   try {
     act();
@@ -19,6 +21,7 @@ void Toolkit::Guard(const std::function<void()>& act) noexcept {
     fault = "unknown error";
   }
   --acts_;
+  current_act_ = outer;
   try {
     if (!fault.empty() && OnFault) OnFault(fault);
   } catch (...) {

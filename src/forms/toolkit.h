@@ -61,6 +61,8 @@ class Toolkit {
   std::function<void(const std::string& what)> OnFault;
   // Whether an act of the user is running.
   bool IsInAct() const { return acts_ > 0; }
+  // The number of the act that is running, the innermost one; 0 while none is. No two acts have the same.
+  long CurrentAct() const { return current_act_; }
 
   // Visible forms, the active one last.
   const std::vector<Form*>& ShownForms() const { return shown_; }
@@ -78,6 +80,7 @@ class Toolkit {
   std::vector<Form*> shown_, modal_;
   Form* active_ = nullptr;
   int acts_ = 0;
+  long current_act_ = 0, last_act_ = 0;
 };
 
 }  // namespace corvane::forms

@@ -1,6 +1,7 @@
 #include "forms/headless_toolkit.h"
 
 #include <gtest/gtest.h>
+#include <set>
 #include <stdexcept>
 
 #include "tests/forms/error_number.h"
@@ -35,6 +36,24 @@ TEST_F(Headless, GuardKeepsErrorsInAndTellsThem) {
   toolkit.Guard([] { throw 1; });
   EXPECT_EQ(toolkit.Faults(), (Log{runtime::DescriptionOf(9), "broken", "unknown error"}));
   EXPECT_FALSE(toolkit.IsInAct());
+}
+
+TEST_F(Headless, EachActHasANumberOfItsOwnAndTheInnermostIsTheCurrentOne) {
+  std::vector<long> acts;
+  auto note = [&] { acts.push_back(toolkit.CurrentAct()); };
+  toolkit.Guard([&] {
+    note();
+    toolkit.Guard([&] {
+      note();
+      throw Error(9);
+    });
+    note();
+  });
+  toolkit.Guard(note);
+  ASSERT_EQ(acts.size(), 4u);
+  EXPECT_EQ(acts[2], acts[0]);
+  EXPECT_EQ((std::set<long>{0, acts[0], acts[1], acts[3]}.size()), 4u);
+  EXPECT_EQ(toolkit.CurrentAct(), 0);
 }
 
 TEST_F(Headless, GuardSurvivesAFailingReport) {
