@@ -111,6 +111,8 @@ void CodePane::TakeEdit(int at, int added) {
   QTextDocument* document = editor_->document();
   const int blocks = document->blockCount(), before = std::exchange(blocks_, blocks);
   if (following_) return;
+  last_act_ = 0;
+  joins_last_step_ = false;
   const long first = document->findBlock(at).blockNumber();
   const long last = document->findBlock(std::min(at + added, document->characterCount() - 1)).blockNumber();
   std::vector<std::string> lines;
@@ -147,7 +149,7 @@ void CodePane::ReplaceInModule(long first, long removed, const std::vector<std::
   list_timer_.start();
 }
 
-void CodePane::LinesChanged(long start, long removed, long inserted) {
+void CodePane::LinesChanged(long start, long removed, long inserted, long act) {
   list_timer_.start();
   if (leading_) return;
   const QScopedValueRollback<bool> following(following_, true);
@@ -159,7 +161,9 @@ void CodePane::LinesChanged(long start, long removed, long inserted) {
 
   QTextDocument* document = editor_->document();
   QTextCursor cursor(document);
-  joins_last_step_ ? cursor.joinPreviousEditBlock() : cursor.beginEditBlock();
+  const bool joins = joins_last_step_ || (act != 0 && act == last_act_);
+  last_act_ = act;
+  joins ? cursor.joinPreviousEditBlock() : cursor.beginEditBlock();
   if (was_empty || is_empty) {
     cursor.select(QTextCursor::Document);
     cursor.insertText(text);

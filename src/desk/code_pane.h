@@ -23,8 +23,9 @@ class CodePane : public QWidget {
 
   const std::shared_ptr<environment::Module>& ModuleOf() const { return module_; }
   CodeEditor& Editor() { return *editor_; }
-  // The environment's notices. What comes within one turn of the message loop is one step of the user's Undo.
-  void LinesChanged(long start, long removed, long inserted);
+  // The environment's notices. What comes within one turn of the message loop is one step of the user's Undo, and so is
+  // what comes of one act in a window of the add-in, which may let the loop turn: [act] is its number, 0 outside one.
+  void LinesChanged(long start, long removed, long inserted, long act = 0);
   void SelectionSet();
   void ControlsChanged();
   // Puts the cursor on the first procedure of an object; of the whole module for an empty name.
@@ -63,6 +64,7 @@ class CodePane : public QWidget {
   bool following_ = false;        // the document is being changed after the module
   bool leading_ = false;          // the module is being changed after the document
   bool joins_last_step_ = false;  // the next change by code belongs to the step of the one before
+  long last_act_ = 0;             // that of the last change by code
   bool filling_ = false;
 };
 

@@ -54,6 +54,7 @@ void Desk::Begin(std::shared_ptr<environment::Environment> environment) {
   environment_ = std::move(environment);
   if (environment_->CodePage()) runtime::SetAnsiCodePage(environment_->CodePage());
   window_ = std::make_unique<MainWindow>(environment_, services_.Prompts);
+  window_->CurrentAct = [this] { return toolkit_.CurrentAct(); };
   toolkit_.SetParentWindow(window_.get());
   ConnectAct(window_.get(), &MainWindow::OpenWanted, this, &Desk::Open, Qt::QueuedConnection);
   ConnectAct(window_.get(), &MainWindow::AddProjectWanted, this, [this] { AddProject({}); });

@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QMainWindow>
+#include <functional>
 #include <memory>
 #include <set>
 
@@ -51,6 +52,8 @@ class MainWindow : public QMainWindow, public environment::Observer {
   PropertyList& Properties() { return *properties_; }
   QTreeWidget& ProblemList() { return *problems_; }
 
+  // The number of the act that runs in a window of the add-in, 0 for none; may be left empty.
+  std::function<long()> CurrentAct;
   // For the status bar.
   void Told(const QString& message);
   // The project was opened: fills everything, and shows the problems when there are any.

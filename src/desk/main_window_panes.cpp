@@ -142,7 +142,7 @@ void MainWindow::ShowSelectedComponent(const std::shared_ptr<Module>& module) {
 }
 
 void MainWindow::LinesChanged(Module& module, long start, long removed, long inserted) {
-  if (CodePane* pane = PaneOf(module)) pane->LinesChanged(start, removed, inserted);
+  if (CodePane* pane = PaneOf(module)) pane->LinesChanged(start, removed, inserted, CurrentAct ? CurrentAct() : 0);
 }
 
 void MainWindow::PaneShown(Module& module) {
