@@ -5,6 +5,8 @@
 #include "codelist/list_menu.h"
 #include "codelist/reading_commands.h"
 #include "codelist/uc_list_box.h"
+#include "environment/environment.h"
+#include "explorer/frm_add_in.h"
 #include "forms/headless_toolkit.h"
 #include "tests/support/fake_services.h"
 
@@ -105,6 +107,47 @@ class LoadedList {
   long place_ = 0, written_ = 0;
 };
 
+long RowHolding(const forms::ListControl& list, const std::string& text) {
+  for (long row = 0; row < list.ListCount(); ++row)
+    if (list.List(row).find(text) != std::string::npos) return row;
+  throw std::runtime_error("no row holds " + text);
+}
+
+constexpr long kHeaderLine = 5;
+
+// A module with a procedure of [lines] lines that needs formatting.
+std::string LongModule(long lines) {
+  const char* const kBlock[] = {"    For i = 1 To Count", "        If Prices(i) > Limit Then 'too dear",
+                                "            Total = Total + 1", "        End If", "    Next i"};
+  std::string code = "Attribute VB_Name = \"modLong\"\r\nOption Explicit\r\nPrivate Total As Long\r\n\r\n\r\n";
+  code += "Private Sub Add()\r\n";
+  for (long line = 2; line < lines; ++line) code.append(kBlock[line % 5]).append("\r\n");
+  return code + "End Sub\r\n";
+}
+
+// Milliseconds of "Format Code" in the explorer, which writes each line into the module.
+double FormatInExplorer() {
+  tests::FakeServices services;
+  forms::HeadlessToolkit toolkit;
+  const auto environment = environment::Environment::Create(services.files, &services.clipboard);
+  environment->OpenFromModules("Shop", {{"modLong.bas", LongModule(kLines)}});
+  explorer::frmAddIn form(services, toolkit);
+  form.VBInstance = environment;
+  form.Show();
+  form.lbxComp->UserSelect(RowHolding(*form.lbxComp, "modLong"));
+  form.lbxProc->UserSelect(RowHolding(*form.lbxProc, "Add"));
+  if (form.txtCode.ListCount() < kLines - 1) throw std::runtime_error("the procedure is not in view");
+  toolkit.OnPopup("Format Code");
+  const double seconds = Seconds([&] {
+    form.txtCode.pic.UserMouseDown(forms::vbRightButton, 0, 1000, 20);
+    form.txtCode.pic.UserMouseUp(forms::vbRightButton, 0, 1000, 20);
+  });
+  const auto module = environment->ActiveVBProject()->VBComponents()->Item("modLong")->CodeModule();
+  if (module->Lines(kHeaderLine + 2, 1).starts_with("     ") || !services.prompts.messages.empty())
+    throw std::runtime_error("the procedure was not formatted: " + module->Lines(kHeaderLine + 2, 1));
+  return seconds * 1e3;
+}
+
 }  // namespace
 
 void MeasureCommands(const Setting& setting, Table& table) {
@@ -129,6 +172,10 @@ void MeasureCommands(const Setting& setting, Table& table) {
     table.AtMost("\"" + list.Name(each.entry) + "\", " + Count(list.Lines()) + " lines (ms)",
                  Milliseconds(milliseconds / 1e3), "", milliseconds, kMostMilliseconds);
   }
+  std::vector<double> times;
+  for (int round = 0; round < kRounds; ++round) times.push_back(FormatInExplorer());
+  table.AtMost("\"Format Code\" in the explorer, a procedure of " + Count(kLines) + " lines (ms)",
+               Milliseconds(Median(times) / 1e3), "", Median(times), kMostMilliseconds);
 }
 
 }  // namespace corvane::bench
