@@ -1,10 +1,18 @@
 #include "cli/format_command.h"
 
+#include <algorithm>
+#include <filesystem>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <map>
+#include <regex>
 #include <sstream>
+#include <vector>
 
+#include "environment/disk_files.h"
 #include "environment/memory_files.h"
+#include "tests/support/golden.h"
+#include "tests/support/program.h"
 
 namespace corvane::cli {
 namespace {
@@ -115,6 +123,66 @@ TEST_F(FormatCommand, AFileThatCannotBeWrittenIsToldAndStaysAsItIs) {
   EXPECT_THAT(errors_.str(), testing::StartsWith("Main.bas: "));
   EXPECT_EQ(out_.str(), "sub/Item.cls: 1 line indented\n") << "the others are written";
 }
+
+// Files on the disk, all of one folder, by their names.
+using Bytes = std::map<std::string, std::string>;
+
+Bytes BytesBelow(const std::filesystem::path& folder) {
+  Bytes bytes;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(folder))
+    if (entry.is_regular_file())
+      bytes[entry.path().lexically_relative(folder)] = tests::golden::ReadFile(entry.path()).value();
+  return bytes;
+}
+
+// Without the blanks and tabs at the starts of its lines.
+std::string WithoutIndents(const std::string& text) {
+  return std::regex_replace(text, std::regex("(^|\n)[ \t]+"), "$1");
+}
+
+// Every project and group of the samples.
+std::vector<std::string> SampleProjects() {
+  const std::filesystem::path samples = CORVANE_SOURCE_DIR "/samples";
+  std::vector<std::string> projects;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(samples))
+    if (entry.path().extension() == ".vbp" || entry.path().extension() == ".vbg")
+      projects.push_back(entry.path().lexically_relative(samples));
+  std::sort(projects.begin(), projects.end());
+  return projects;
+}
+
+class FormatSample : public testing::TestWithParam<std::string> {};
+
+TEST_P(FormatSample, ChangesNothingButLeadingBlanksAndASecondTimeNothing) {
+  const tests::TemporaryFolder folder;
+  const auto sample = std::filesystem::path(CORVANE_SOURCE_DIR) / "samples" / GetParam();
+  std::filesystem::copy(sample.parent_path(), folder.Path(), std::filesystem::copy_options::recursive);
+  const std::string project = folder / sample.filename();
+  const auto run = [&](FormatOptions options) {
+    std::ostringstream out, errors;
+    RunFormatCommand(project, options, *environment::NewDiskFiles(), out, errors);
+    return out.str();
+  };
+  const Bytes before = BytesBelow(folder.Path());
+  const std::string told = run({0, true, false});
+  EXPECT_EQ(BytesBelow(folder.Path()), before) << "a check writes nothing";
+  run({0, false, true});
+  const Bytes after = BytesBelow(folder.Path());
+  ASSERT_EQ(after.size(), before.size());
+  for (const auto& [name, bytes] : before) {
+    EXPECT_EQ(WithoutIndents(after.at(name)), WithoutIndents(bytes)) << name;
+    if (told.find(name + ": ") == std::string::npos) {
+      EXPECT_EQ(after.at(name), bytes) << name << " was not to be changed";
+    } else {
+      EXPECT_NE(after.at(name), bytes) << name;
+    }
+  }
+  EXPECT_EQ(run({0, true, false}), "");
+  run({0, false, true});
+  EXPECT_EQ(BytesBelow(folder.Path()), after);
+}
+
+INSTANTIATE_TEST_SUITE_P(Projects, FormatSample, testing::ValuesIn(SampleProjects()));
 
 }  // namespace
 }  // namespace corvane::cli
