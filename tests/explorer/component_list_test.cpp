@@ -25,6 +25,18 @@ TEST_F(ComponentList, OpeningTheWindowWithoutACodePaneListsTheProjectWithoutAMes
   EXPECT_EQ(form.lbxComp->ListIndex(), 0);
 }
 
+TEST_F(ComponentList, OpeningTheWindowPaintsOnceBeforeTheProjectIsListed) {
+  Open(kShop);
+  form.VBInstance = environment;
+  form.LoadForm();
+  long paints = 0;
+  services.loop.on_do_events = [&] { paints += Components() == std::vector<std::string>{explorer::kProjectGlobals}; };
+  form.Activate();
+  services.loop.on_do_events = nullptr;
+  EXPECT_EQ(paints, 1);
+  EXPECT_EQ(Components().size(), 7u);
+}
+
 TEST_F(ComponentList, ARowCarriesThePositionOfItsComponent) {
   OpenWindow(kShop);
   EXPECT_EQ(form.lbxComp->ItemData(0), 0);
@@ -261,6 +273,12 @@ TEST_F(ComponentList, AChoiceDuringTheFirstListingDoesNotListTwice) {
   form.Show();
   services.loop.on_do_events = nullptr;
   EXPECT_EQ(Components().size(), 7u);
+}
+
+TEST_F(ComponentList, AListingWithoutProceduresShowsTheHourglassToo) {
+  OpenWindow({Frm("frmA", {"Dim a", ""}), Frm("frmB", {"Dim b", ""})});
+  EXPECT_THAT(services.screen.pointers, Contains(host::vbHourglass));
+  EXPECT_EQ(services.screen.MousePointer(), host::vbDefault);
 }
 
 TEST_F(ComponentList, TheHourglassIsTakenBack) {
