@@ -10,7 +10,6 @@ using namespace runtime;
 
 namespace {
 
-constexpr char kModuleName[] = "ModuleName = ";
 constexpr char kProjectTitle[] = "Project Title";
 constexpr char kWholeProject = 2, kActiveModule = 3;
 
@@ -23,10 +22,7 @@ void frmAddIn::txtCode_DblClick() {
     GoToCode();
     return;
   }
-  long row = txtCode.ListIndex();
-  while (row > 0 && !Holds(txtCode.List(row), kModuleName)) --row;
-  const std::string title = txtCode.List(row);
-  if (row > 0) PassOverErrors([&] { OpenDesigner(Trim(Mid(title, InStr(title, kModuleName) + Len(kModuleName)))); });
+  if (const auto name = NameOfResultAbove()) PassOverErrors([&] { OpenDesigner(*name); });
 }
 
 // The first character tells where to search; without one the control has copied the word.

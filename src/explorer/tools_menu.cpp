@@ -6,7 +6,7 @@ namespace corvane::explorer {
 
 namespace {
 
-// A caption in which "&" is a plain character.
+// A caption in which "&" is a plain character. The entries of a drop-down are captions already.
 std::string Plain(const std::string& text) {
   std::string plain;
   for (char c : text) plain.append(c == '&' ? 2 : 1, c);
@@ -35,11 +35,11 @@ void frmAddIn::AddToolItems(int position, const Tool& tool) {
   const bool acts = Allows(tool.click, tool.enabled);
   const auto click = [this, position] { tlbr_ButtonClick(position); };
   if (entries.empty()) {
-    AddToolItem(mnuTools, tool.tip, enabled && acts, click);
+    AddToolItem(mnuTools, Plain(tool.tip), enabled && acts, click);
     return;
   }
-  forms::Menu& group = AddToolItem(mnuTools, tool.tip, enabled, {});
-  if (acts) AddToolItem(group, tool.tip, true, click);
+  forms::Menu& group = AddToolItem(mnuTools, Plain(tool.tip), enabled, {});
+  if (acts) AddToolItem(group, Plain(tool.tip), true, click);
   if (acts) AddToolItem(group, "-", true, {});
   for (size_t entry = 0; entry < entries.size(); ++entry)
     AddToolItem(group, entries[entry].Text, entries[entry].Enabled,
@@ -49,7 +49,7 @@ void frmAddIn::AddToolItems(int position, const Tool& tool) {
 forms::Menu& frmAddIn::AddToolItem(forms::Menu& parent, const std::string& caption, bool enabled,
                                    std::function<void()> act) {
   const std::string name = "mnuTool" + std::to_string(toolItems.size() + 1);
-  toolItems.push_back(std::make_unique<forms::Menu>(parent, name, Plain(caption)));
+  toolItems.push_back(std::make_unique<forms::Menu>(parent, name, caption));
   forms::Menu& item = *toolItems.back();
   item.SetEnabled(enabled);
   if (act) item.Click = std::move(act);

@@ -141,17 +141,17 @@ void frmAddIn::Form_KeyDown(int& key, int shift) {
       {vbKey0 + 3, vbAltMask, [](frmAddIn& form) { form.ListKind(2); }},
       {vbKey0 + 4, vbAltMask, [](frmAddIn& form) { form.ListKind(4); }},
       {vbKey0 + 5, vbAltMask, [](frmAddIn& form) { form.ListKind(3); }},
-      {vbKeyLeft, vbAltMask, [](frmAddIn& form) { form.StepToPrevious(); }},
-      {vbKeyRight, vbAltMask, [](frmAddIn& form) { form.StepToNext(); }},
-      {vbKeyHome, vbAltMask, [](frmAddIn& form) { form.StepToFirst(); }},
-      {vbKeyEnd, vbAltMask, [](frmAddIn& form) { form.StepToLast(); }},
+      {vbKeyLeft, vbAltMask, [](frmAddIn& form) { form.RunTool(&frmAddIn::StepToPrevious); }},
+      {vbKeyRight, vbAltMask, [](frmAddIn& form) { form.RunTool(&frmAddIn::StepToNext); }},
+      {vbKeyHome, vbAltMask, [](frmAddIn& form) { form.RunTool(&frmAddIn::StepToFirst); }},
+      {vbKeyEnd, vbAltMask, [](frmAddIn& form) { form.RunTool(&frmAddIn::StepToLast); }},
       {vbKeyPageUp, vbAltMask,
        [](frmAddIn& form) {
-         if (form.cmdPrev.Enabled()) form.cmdPrev_Click();
+         if (form.cmdPrev.Enabled()) form.RunTool(&frmAddIn::cmdPrev_Click);
        }},
       {vbKeyPageDown, vbAltMask,
        [](frmAddIn& form) {
-         if (form.cmdNext.Enabled()) form.cmdNext_Click();
+         if (form.cmdNext.Enabled()) form.RunTool(&frmAddIn::cmdNext_Click);
        }},
       {vbKeyA + 19, vbCtrlMask, [](frmAddIn& form) { form.OpenToolsMenu(); }},  // Ctrl+T
       {vbKeyF5, 0, [](frmAddIn& form) { form.Refresh(); }},

@@ -80,7 +80,11 @@ TEST_F(History, AnAmpersandOfTheCodeIsShownInTheDropDown) {
   Module("modMain").ReplaceLine(6, "    Text = a & b");
   Visit("modMain", "Main()", 3);
   Show("frmMain", "Fill()");
-  EXPECT_THAT(Entries(), ElementsAre("modMain:        Text = a && b         ... Public Sub Main()"));
+  const std::string entry = "modMain:        Text = a && b         ... Public Sub Main()";
+  EXPECT_THAT(Entries(), ElementsAre(entry));
+  toolkit.OnPopup("modMain:        Text = a & b         ... Public Sub Main()");
+  form.lbxProc->UserKeyDown(forms::vbKeyA + 19, forms::vbCtrlMask);
+  EXPECT_EQ(View(), "modMain Public Sub Main() 3") << "in the menu of the toolbar's keys too";
 }
 
 TEST_F(History, PreviousComesBackToTheRowThatWasLeft) {
