@@ -7,6 +7,7 @@
 #include "desk/bulleted.h"
 #include "desk/main_window.h"
 #include "desk/project_tree.h"
+#include "desk/property_list.h"
 #include "desk/shown_path.h"
 #include "environment/disk_files.h"
 #include "environment/paths.h"
@@ -96,6 +97,7 @@ bool MainWindow::MayReplace(const std::string& file) {
 }
 
 bool MainWindow::SaveModule(const std::shared_ptr<Module>& module) {
+  properties_->TakeTyped();
   if (!module || asking_) return false;
   const QScopedValueRollback<bool> asking(asking_, true);
   const bool is_new = module->Path().empty();
@@ -140,6 +142,7 @@ void MainWindow::SaveActive() {
 
 // What needs a question is saved one by one; the environment saves the rest, project files last.
 bool MainWindow::SaveAll() {
+  properties_->TakeTyped();
   for (const auto& project : environment_->Projects()) {
     for (const auto& module : project->Modules())
       if (module->IsDirty() && (module->Path().empty() || !ForeignFilesOf(*module).empty()))
@@ -159,6 +162,7 @@ bool MainWindow::SaveAll() {
 }
 
 bool MainWindow::MayLeave() {
+  properties_->TakeTyped();
   if (!environment_->IsDirty()) return true;
   if (asking_) return false;
   long answer = host::vbCancel;

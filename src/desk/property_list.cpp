@@ -1,5 +1,7 @@
 #include "desk/property_list.h"
 
+#include <QAbstractItemDelegate>
+#include <QApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QScopedValueRollback>
@@ -73,7 +75,21 @@ PropertyList::PropertyList(QWidget* parent)
   ConnectAct(table_, &QTableWidget::itemChanged, this, &PropertyList::TakeEdit);
 }
 
+QWidget* PropertyList::Typing() const {
+  QWidget* focus = QApplication::focusWidget();
+  return focus && table_->viewport()->isAncestorOf(focus) ? focus : nullptr;
+}
+
+void PropertyList::TakeTyped() {
+  if (QWidget* field = Typing(); field && !taking_) emit table_->itemDelegate()->commitData(field);
+}
+
+// What is being typed belongs to what was shown.
 void PropertyList::Show(const QString& title, host::Ref<host::Properties> properties) {
+  if (properties != properties_ && !taking_) {
+    TakeTyped();
+    if (QWidget* field = Typing()) emit table_->itemDelegate()->closeEditor(field);
+  }
   title_->setText(title);
   properties_ = std::move(properties);
   Fill();
@@ -117,6 +133,7 @@ void PropertyList::FitNames() {
 
 void PropertyList::TakeEdit(QTableWidgetItem* item) {
   if (filling_ || item->column() != 1 || !properties_) return;
+  const QScopedValueRollback<bool> taking(taking_, true);
   const std::string name = FromLabel(table_->item(item->row(), 0)->text());
   UserAct(
       [&] {

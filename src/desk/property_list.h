@@ -18,6 +18,8 @@ class PropertyList : public QWidget {
   // Nothing empties the list. [title] is "cmdSave  CommandButton".
   void Show(const QString& title, host::Ref<host::Properties> properties);
   QString Title() const;
+  // Takes what is being typed, as Enter does.
+  void TakeTyped();
   // The values anew, when a property was changed elsewhere.
   void ReadAgain();
   QTableWidget& Table() { return *table_; }
@@ -32,13 +34,14 @@ class PropertyList : public QWidget {
   void Told(const QString& message);
 
  private:
+  QWidget* Typing() const;  // the field that is typed in; null: none is
   void Fill();
   void FitNames();
   void TakeEdit(QTableWidgetItem* item);
   QLabel* title_;
   QTableWidget* table_;
   host::Ref<host::Properties> properties_;
-  bool filling_ = false;
+  bool filling_ = false, taking_ = false;
 };
 
 }  // namespace corvane::desk

@@ -143,6 +143,69 @@ TEST_F(DesignerTest, AControlTheAddInAddsAppearsOnTop) {
   EXPECT_EQ(canvas_->LayoutOf().FrontToBack(-1).front(), Find("Check1"));
 }
 
+// A value is being typed into the property list, and nothing has taken it yet.
+class TypingAValue : public DesignerTest {
+ protected:
+  void Type(const char* property, const char* keys) {
+    QTableWidget& table = window_->Properties().Table();
+    QTableWidgetItem* value = table.item(table.findItems(property, Qt::MatchExactly).first()->row(), 1);
+    table.setFocus();
+    table.setCurrentItem(value);
+    Settle();
+    PressKeys(ParseKeys(keys));
+  }
+  std::string Written() { return files_.Read("C:\\Work\\frmStock.frm"); }
+};
+
+TEST_F(TypingAValue, SavingTakesItFirst) {
+  Click("cmdSave");
+  Type("Caption", "Keep");
+  window_->Command("save")->trigger();
+  EXPECT_NE(Written().find("\"Keep\""), std::string::npos);
+  EXPECT_FALSE(module_->IsDirty());
+  Type("Caption", "Store");
+  window_->Command("save-all")->trigger();
+  EXPECT_NE(Written().find("\"Store\""), std::string::npos);
+}
+
+TEST_F(TypingAValue, LeavingAsksAboutIt) {
+  Click("cmdSave");
+  Type("Caption", "Keep");
+  prompts_.answers = {host::vbCancel};
+  EXPECT_FALSE(window_->close());
+  EXPECT_EQ(prompts_.messages.size(), 1u);
+  EXPECT_NE(module_->WriteToText().find("\"Keep\""), std::string::npos);
+}
+
+TEST_F(TypingAValue, ItIsThatOfTheControlItWasTypedFor) {
+  Click("cmdSave");
+  Type("Caption", "Keep");
+  canvas_->Select({Find("fraItem")});
+  Settle();
+  EXPECT_EQ(canvas_->LayoutOf().controls.at(Find("cmdSave")).caption, "Keep");
+  EXPECT_EQ(canvas_->LayoutOf().controls.at(Find("fraItem")).caption, "Item");
+  EXPECT_EQ(window_->Properties().Title(), "fraItem  Frame");
+  Type("Left", "300");
+  window_->OpenCode(Module("modStock"));
+  Settle();
+  EXPECT_EQ(Number("fraItem", "Left"), 300);
+  EXPECT_EQ(window_->Properties().Title(), "modStock  Module");
+}
+
+TEST_F(TypingAValue, ANameThatCannotBeIsToldAndNothingChanges) {
+  QString told;
+  QObject::connect(&window_->Properties(), &PropertyList::Told, [&](const QString& text) { told = text; });
+  canvas_->Select({});
+  for (const char* name : {"modStock~", "1st~", "a b~"}) {
+    told.clear();
+    Type("Name", name);
+    Settle();
+    EXPECT_TRUE(told.startsWith("Name was not set: ")) << name << told.toStdString();
+    EXPECT_EQ(module_->Name(), "frmStock");
+    EXPECT_EQ(module_->WriteToText(), kForm);
+  }
+}
+
 TEST(PropertyValues, AreShownAndReadBackByTheirKind) {
   EXPECT_EQ(PropertyList::Shown("BackColor", runtime::Variant(0xC0C0C0L)), "&H00C0C0C0&");
   EXPECT_EQ(PropertyList::Shown("BackColor", runtime::Variant(-2147483633L)), "&H8000000F&");
