@@ -174,10 +174,10 @@ void CodePane::LinesChanged(long start, long removed, long inserted, long act) {
     const int end = document->characterCount() - 1;
     // Whole lines with their ends: at the end of the text it is the line end in front of them that comes or goes.
     int from = first.isValid() ? first.position() : end;
+    const bool at_start = at_end && from == 0 && first.isValid();
     if (at_end && from > 0 && first.isValid()) --from;
     cursor.setPosition(from);
     cursor.setPosition(at_end ? end : behind.position(), QTextCursor::KeepAnchor);
-    const bool at_start = at_end && from == 0 && first.isValid();
     if (inserted > 0 && !at_start) text = at_end ? '\n' + text : text + '\n';
     cursor.insertText(text);
   }

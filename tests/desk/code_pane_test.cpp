@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QMimeData>
 #include <QTextBlock>
+#include <random>
 
 #include "desk/ansi_text.h"
 #include "desk/qt_services.h"
@@ -105,6 +106,9 @@ TEST_F(CodePaneTest, EveryEditOfTheAddInIsShown) {
       {"all gone", [](host::CodeModule& m) { m.DeleteLines(1, m.CountOfLines()); }},
       {"into nothing", [](host::CodeModule& m) { m.InsertLines(1, "Dim a\r\nDim b"); }},
       {"all but one gone", [](host::CodeModule& m) { m.DeleteLines(2, m.CountOfLines() - 1); }},
+      {"an empty line in front of the only line", [](host::CodeModule& m) { m.InsertLines(1, ""); }},
+      {"the last line by an empty one, behind an empty one", [](host::CodeModule& m) { m.ReplaceLine(2, ""); }},
+      {"all but one empty line gone", [](host::CodeModule& m) { m.DeleteLines(2, 1); }},
       {"the only line by another", [](host::CodeModule& m) { m.ReplaceLine(1, "Dim c"); }},
   };
   for (const AddInEdit& each : edits) {
@@ -252,6 +256,94 @@ TEST_F(CodePaneTest, BytesWithoutACharacterSurviveAnEditOfTheirLine) {
   StandAt(1, 3);
   Type("x");
   EXPECT_EQ(module_->LineView(1), "' x\x81 odd \x01");
+}
+
+// Users, add-ins and undo at random places.
+class RandomEdits : public CodePaneTest {
+ protected:
+  void Open(const std::string& text) {
+    files_.Put("C:\\Work\\modOdd.bas", text);
+    environment_->ActiveVBProject()->VBComponents()->AddFile("C:\\Work\\modOdd.bas");
+    module_ = Module("modOdd");
+    pane_ = window_->OpenCode(module_);
+    Settle();
+  }
+  int Below(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
+  void Select() {
+    QTextCursor cursor(pane_->Editor().document());
+    const int length = pane_->Editor().document()->characterCount();
+    cursor.setPosition(Below(length));
+    if (Below(2)) cursor.setPosition(std::min(length - 1, cursor.position() + Below(60)), QTextCursor::KeepAnchor);
+    pane_->Editor().setTextCursor(cursor);
+  }
+  void TryOut(unsigned seed, const std::string& text);
+  void Step() {
+    const auto held = module_->CodeModule();
+    host::CodeModule& code = *held;
+    const long count = code.CountOfLines(), line = 1 + Below(static_cast<int>(std::max(1L, count)));
+    switch (Below(10)) {
+      case 0:
+        return pane_->Editor().undo();
+      case 1:
+        return pane_->Editor().redo();
+      case 2:
+        return code.InsertLines(1 + Below(static_cast<int>(count + 1)), kTexts[Below(4)]);
+      case 3:
+        if (count > 0) code.DeleteLines(line, 1 + Below(static_cast<int>(std::min(4L, count - line + 1))));
+        return;
+      case 4:
+        if (count > 0) code.ReplaceLine(line, kTexts[Below(4)]);
+        return;
+      case 5:
+        Select();
+        return pane_->Editor().cut();
+      case 6:
+        Select();
+        return pane_->Editor().paste();
+      default:
+        Select();
+        pane_->Editor().insertPlainText(kTyped[Below(4)]);
+    }
+  }
+
+  static constexpr const char* kTexts[] = {"' one", "Dim a\r\nDim b\r\n", "", "Sub New_\xA0()\r\nEnd Sub"};
+  static constexpr const char* kTyped[] = {"x", "\n", "", "Public Sub T()\n\nEnd Sub\n"};
+  std::minstd_rand random_;
+};
+
+TEST_F(RandomEdits, ThePaneAndItsModuleHoldTheSameLinesAndUndoGoesBackToTheFile) {
+  const struct {
+    const char* what;
+    const char* text;
+  } files[] = {
+      {"hidden lines",
+       "Attribute VB_Name = \"modOdd\"\r\nPublic Total As Long\r\nAttribute Total.VB_VarDescription = \"all\"\r\n"
+       "Sub A()\r\nAttribute A.VB_Description = \"does a\"\r\nEnd Sub\r\nSub B()\r\nEnd Sub\r\n"},
+      {"line feeds and no last line end", "Attribute VB_Name = \"modOdd\"\nOption Explicit\n\nSub A()\nEnd Sub"},
+      {"no code", "Attribute VB_Name = \"modOdd\"\r\n"},
+  };
+  for (const auto& file : files) {
+    SCOPED_TRACE(file.what);
+    Open(file.text);
+    for (unsigned seed = 1; seed <= 20 && !HasFailure(); ++seed) TryOut(seed, file.text);
+    environment_->ActiveVBProject()->VBComponents()->Remove(module_);
+    Settle();
+  }
+}
+void RandomEdits::TryOut(unsigned seed, const std::string& text) {
+  SCOPED_TRACE(testing::Message() << "seed " << seed);
+  random_.seed(seed);
+  for (int step = 0; step < 40 && !HasFailure(); ++step) {
+    SCOPED_TRACE(testing::Message() << "step " << step);
+    Step();
+    if (Below(2)) Settle();
+    ExpectSame();
+  }
+  while (pane_->Editor().document()->isUndoAvailable()) pane_->Editor().undo();
+  Settle();
+  ExpectSame();
+  EXPECT_EQ(module_->WriteToText(), text);
+  pane_->Editor().document()->clearUndoRedoStacks();
 }
 
 TEST(VbHighlighter, ColoursKeywordsStringsAndComments) {
