@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cstring>
 
-#include "runtime/strings.h"
-
 namespace corvane::codelist {
 
 namespace {
@@ -14,6 +12,19 @@ constexpr forms::Color levelColors[] = {
     forms::RGB(255, 0, 255), forms::RGB(0, 128, 128), forms::RGB(128, 0, 128), forms::RGB(128, 128, 128),
     forms::RGB(0, 0, 128),   forms::RGB(128, 128, 0), forms::RGB(128, 0, 0),
 };
+
+// Takes [mark] out of [text] wherever it stands, from the left to the right.
+void Remove(std::string& text, std::string_view mark) {
+  size_t found = text.find(mark), to = found;
+  while (found != std::string::npos) {
+    const size_t from = found + mark.size();
+    found = text.find(mark, from);
+    const size_t count = std::min(found, text.size()) - from;
+    std::memmove(text.data() + to, text.data() + from, count);
+    to += count;
+  }
+  if (to != std::string::npos) text.resize(to);
+}
 
 }  // namespace
 
@@ -48,9 +59,11 @@ long SumOfMarks(std::string_view text) {
 
 // One pass for each mark: what a removal brings together is not looked at again by the same pass.
 std::string CleanText(std::string_view text) {
-  std::string clean = FirstMark(text).step == 0
-                          ? std::string(text)
-                          : runtime::Replace(runtime::Replace(text, kLevelUp, ""), kLevelDown, "");
+  std::string clean(text);
+  if (FirstMark(text).step != 0) {
+    Remove(clean, kLevelUp);
+    Remove(clean, kLevelDown);
+  }
   clean.erase(std::remove_if(clean.begin(), clean.end(), IsMarkCharacter), clean.end());
   return clean;
 }
