@@ -1,6 +1,7 @@
 #include "script/ide_target.h"
 
 #include "runtime/strings.h"
+#include "script/function_table.h"
 #include "script/numbers.h"
 
 namespace corvane::script {
@@ -11,10 +12,6 @@ namespace {
 
 constexpr char kElement = '!';
 
-bool SameName(const std::string& left, const std::string& right) {
-  return runtime::UCase(left) == runtime::UCase(right);
-}
-
 std::string TextOf(host::VBControl& control, const char* property) {
   return runtime::ToText(control.Properties()->Item(property)->Value());
 }
@@ -24,12 +21,6 @@ std::string ElementIndex(host::VBControl& control) {
   std::string index;
   host::PassOverErrors([&] { index = TextOf(control, "Index"); });
   return NumberOf(index).value_or(-1) < 0 ? std::string() : index;
-}
-
-Ref<host::VBControl> FindElement(host::VBControls& controls, const std::string& name, const std::string& index) {
-  for (const Ref<host::VBControl>& control : host::Each(controls))
-    if (ElementIndex(*control) == index && SameName(TextOf(*control, "Name"), name)) return control;
-  return nullptr;
 }
 
 }  // namespace
@@ -54,7 +45,7 @@ Ref<host::VBControl> FindControl(host::VBControls& controls, const std::string& 
   const size_t mark = name.find(kElement);
   host::PassOverErrors([&] {
     found = mark == std::string::npos ? controls.Item(name)
-                                      : FindElement(controls, name.substr(0, mark), name.substr(mark + 1));
+                                      : controls.Item(name.substr(0, mark), LongOf(name.substr(mark + 1)));
   });
   return found;
 }

@@ -104,6 +104,15 @@ TEST_F(ProjectProperties, AnElementOfAControlArrayIsNameMarkIndex) {
   EXPECT_EQ(Value("GETPROP(\"frmArticle.lblField!4\",\"Index\")"), "4");
 }
 
+TEST_F(ProjectProperties, TheIndexOfAnElementIsANumber) {
+  EXPECT_EQ(Value("GETPROP(\"frmArticle.LBLFIELD!03\",\"Index\")"), "3");
+  EXPECT_EQ(Errors(), Lines());
+  for (const char* index : {"x", "", "-1", "99999999999"}) {
+    EXPECT_EQ(Value(std::string("GETPROP(\"frmArticle.lblField!") + index + "\",\"Index\")"), "") << index;
+    EXPECT_EQ(Errors(), Lines{std::string("Component does not exists.\nfrmArticle.lblField!") + index});
+  }
+}
+
 TEST_F(ProjectProperties, AnElementThatIsNotThereIsMissing) {
   EXPECT_EQ(Value("GETPROP(\"frmArticle.lblField!9\",\"Caption\")"), "");
   EXPECT_EQ(Errors(), Lines{"Component does not exists.\nfrmArticle.lblField!9"});
