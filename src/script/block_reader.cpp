@@ -92,6 +92,7 @@ void BlockReader::BeginCode() {
   resume_ = text_.Here();
   resume_counters_ = state_.counters;
   found_from_resume_.clear();
+  labels_.Clear(true);
 }
 
 // A "}" is text for as long as a "]]" follows anywhere.
@@ -100,6 +101,7 @@ bool BlockReader::ClosesBlock(std::string_view line) const {
 }
 
 void BlockReader::EndBlock() {
+  labels_.EndReached();
   if (state_.labelSearch == kRestartAtEnd) return Restart();
   if (state_.labelSearch > kNone) {
     std::string label = state_.labelTarget;
@@ -109,11 +111,20 @@ void BlockReader::EndBlock() {
   ended_ = true;
 }
 
+void BlockReader::GoTo(const PieceStart& start) {
+  text_.GoTo(start.behind_line);
+  state_.counters = start.counters;
+  rest_ = start.line->substr(start.at);
+}
+
 // Loops over template text come here again and again: the user's acts come in. A search runs nothing, so that for a
-// label that was found before it need not be made again.
+// label that was met or found before it need not be made.
 void BlockReader::Restart() {
   around_.services.Loop.DoEvents();
   state_.labelSearch = kGoOn;
+  searching_ = false;
+  if (const PieceStart* start = labels_.First(state_.labelTarget)) return GoTo(*start);
+  if (labels_.Whole() && IsLabel(state_.labelTarget)) return EndBlock();
   const auto found = found_from_resume_.find(state_.labelTarget);
   searching_ = found == found_from_resume_.end();
   if (searching_) {
@@ -121,10 +132,19 @@ void BlockReader::Restart() {
     text_.GoTo(resume_);
     state_.counters = resume_counters_;
   } else {
-    text_.GoTo(found->second.behind_line);
-    state_.counters = found->second.counters;
-    rest_ = found->second.rest;
+    GoTo(found->second);
   }
+}
+
+// A search over the pieces to come: straight to the one that holds the label, or to the end. False where they must be
+// read for it.
+bool BlockReader::SearchesOn(const PieceStart& from) {
+  if (state_.labelSearch == kNone || !labels_.Whole() || !IsLabel(state_.labelTarget)) return false;
+  if (const PieceStart* next = labels_.Behind(state_.labelTarget, from))
+    GoTo(*next);
+  else
+    EndBlock();
+  return true;
 }
 
 void BlockReader::PutOut(std::string_view text) {
@@ -138,21 +158,21 @@ void BlockReader::ReadTemplateLine(std::string_view line) {
 }
 
 void BlockReader::ReadPieces(std::string rest) {
-  std::string_view unread = rest;
+  auto line = std::make_shared<const std::string>(std::move(rest));
+  std::string_view unread = *line;
   for (size_t mark; (mark = unread.find(kCodeOpens)) != std::string_view::npos;) {
     PutOut(unread.substr(0, mark));
     unread.remove_prefix(mark);
-    const ScriptText::Place behind_line = text_.Here();
+    const PieceStart start{line, line->size() - unread.size(), text_.Here(), state_.counters};
     Piece piece = ReadPiece(unread.substr(kCodeOpens.size()));
-    if (searching_)
-      RunPieceInSearch(piece, unread, behind_line);
-    else
-      RunPiece(piece);
+    const TranslatedPiece translated = searching_ ? RunPieceInSearch(piece, start) : RunPiece(piece);
     if (state_.stopFlag) return;
+    if (!piece.moves_resume) labels_.Add(start, translated);
     if (piece.many_lines && state_.labelSearch == kRestart) return Restart();
     if (piece.closed) return EndBlock();
+    if (SearchesOn(start)) return;
     if (piece.many_lines)
-      unread = rest = std::move(piece.rest);
+      unread = *(line = std::make_shared<const std::string>(std::move(piece.rest)));
     else
       unread.remove_prefix(kCodeOpens.size() + piece.code.size() + kCodeCloses.size());
   }
@@ -199,26 +219,31 @@ void BlockReader::ReadLines(Piece& piece, std::string_view first) {
 }
 
 // What a piece with an END SUB leaves unread behind that line is not translated again: the counters are those behind
-// the piece.
-void BlockReader::RunPiece(const Piece& piece) {
+// the piece. A restart reads it as template text.
+TranslatedPiece BlockReader::RunPiece(const Piece& piece) {
+  TranslatedPiece translated;
+  engine_.piece = &translated;
   runner_.RunCode(piece.code + ':');
-  if (!piece.moves_resume) return;
+  engine_.piece = nullptr;
+  if (!piece.moves_resume) return translated;
   resume_counters_ = state_.counters;
   found_from_resume_.clear();
+  const std::string_view behind = text_.Since(resume_);
+  labels_.Clear(!runtime::Holds(behind, kCodeOpens) && !BeginsWith(behind, "}") && !runtime::Holds(behind, "\n}"));
   searching_ = false;
+  return translated;
 }
 
-// [unread] is the line from the piece on. What is reported on the way is reported each time.
-void BlockReader::RunPieceInSearch(const Piece& piece, std::string_view unread, const ScriptText::Place& behind_line) {
+// What is reported on the way is reported each time.
+TranslatedPiece BlockReader::RunPieceInSearch(const Piece& piece, const PieceStart& start) {
   std::string label = state_.labelTarget;
-  const Counters counters = state_.counters;
   engine_.label_found = false;
   const long reported = engine_.errors.Reported();
-  RunPiece(piece);
-  if (!engine_.label_found || !searching_) return;
+  const TranslatedPiece translated = RunPiece(piece);
+  if (!engine_.label_found || !searching_) return translated;
   searching_ = false;
-  if (reported == reported_before_)
-    found_from_resume_.emplace(std::move(label), PieceStart{std::string(unread), behind_line, counters});
+  if (reported == reported_before_) found_from_resume_.emplace(std::move(label), start);
+  return translated;
 }
 
 }  // namespace corvane::script

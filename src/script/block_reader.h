@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "script/engine.h"
+#include "script/piece_labels.h"
 #include "script/script_text.h"
 #include "script/surroundings.h"
 
@@ -37,13 +38,6 @@ class BlockReader {
     bool moves_resume = false;  // a SUB ends in it: restarts begin behind that line
   };
 
-  // Where a piece of code begins: the text from its mark to the end of the line, and what is unread behind that line.
-  struct PieceStart {
-    std::string rest;
-    ScriptText::Place behind_line;
-    Counters counters;
-  };
-
   void ReadOutside(std::string_view line);
   void Include(std::string_view line);
   bool IncludesItself();
@@ -52,12 +46,14 @@ class BlockReader {
   void ReadPieces(std::string rest);
   void EndBlock();
   void Restart();
+  bool SearchesOn(const PieceStart& from);
+  void GoTo(const PieceStart& start);
   bool ClosesBlock(std::string_view line) const;
 
   Piece ReadPiece(std::string_view behind_mark);
   void ReadLines(Piece& piece, std::string_view first);
-  void RunPiece(const Piece& piece);
-  void RunPieceInSearch(const Piece& piece, std::string_view unread, const ScriptText::Place& behind_line);
+  TranslatedPiece RunPiece(const Piece& piece);
+  TranslatedPiece RunPieceInSearch(const Piece& piece, const PieceStart& start);
   void PutOut(std::string_view text);
 
   Engine& engine_;
@@ -70,6 +66,7 @@ class BlockReader {
   bool in_code_ = false, ended_ = false, met_block_ = false, failed_ = false, show_ = true;
   ScriptText::Place resume_;                                       // resumeText
   Counters resume_counters_;                                       // with which reading goes on from there
+  PieceLabels labels_;                                             // from resume_ on
   std::string rest_;                                               // of a line that is read next
   bool searching_ = false;                                         // a label, since the block was restarted
   long reported_before_ = 0;                                       // errors, when it was

@@ -14,11 +14,6 @@ constexpr std::string_view kSeparators = ": ";
 constexpr size_t kLongestStatement = 1100;
 constexpr std::string_view kEndIf = "END IF:";
 
-// Whether it can stand in a program only from a mark to the next ":".
-bool IsLabel(std::string_view sought) {
-  return sought.size() >= 2 && sought.front() == labelMark && sought.find(':') == sought.size() - 1;
-}
-
 // Whether more text behind [rest] would belong to its first item.
 bool WouldTakeMore(std::string_view rest, const FlatItem& item) {
   if (item.kind != FlatItem::kStatement) return item.kind != FlatItem::kLabel;
@@ -27,6 +22,10 @@ bool WouldTakeMore(std::string_view rest, const FlatItem& item) {
 }
 
 }  // namespace
+
+bool IsLabel(std::string_view sought) {
+  return sought.size() >= 2 && sought.front() == labelMark && sought.find(':') == sought.size() - 1;
+}
 
 FlatProgram::FlatProgram(std::string text) : text_(std::move(text)), item_at_(text_.size()) {}
 
@@ -62,13 +61,17 @@ size_t FlatProgram::Find(const std::string& sought, size_t from) {
 
 // First place at or behind [from] of [before] with the label behind it.
 size_t FlatProgram::FindLabel(std::string_view label, size_t from, std::string_view before) {
-  if (!labels_known_) CollectLabels();
-  const auto entry = labels_.find(label);
+  const auto entry = Labels().find(label);
   if (entry == labels_.end()) return kNowhere;
   const std::vector<size_t>& places = entry->second;
   for (auto at = std::lower_bound(places.begin(), places.end(), from + before.size()); at != places.end(); ++at)
     if (text_.compare(*at - before.size(), before.size(), before) == 0) return *at - before.size();
   return kNowhere;
+}
+
+const FlatProgram::LabelPlaces& FlatProgram::Labels() {
+  if (!labels_known_) CollectLabels();
+  return labels_;
 }
 
 void FlatProgram::CollectLabels() {

@@ -32,6 +32,9 @@ struct ProgramItem : FlatItem {
   std::optional<IfParts> if_parts;
 };
 
+// Whether [sought] can stand in a program only from a mark to the next ":".
+bool IsLabel(std::string_view sought);
+
 class FlatProgram {
  public:
   static constexpr size_t kNowhere = std::string::npos;
@@ -47,6 +50,9 @@ class FlatProgram {
   ProgramItem& ItemAt(size_t at);
   // First place of [sought] at or behind [from], counted from 0, or kNowhere.
   size_t Find(const std::string& sought, size_t from);
+  // The places of each label, with its mark and ":", rising.
+  using LabelPlaces = std::unordered_map<std::string_view, std::vector<size_t>>;
+  const LabelPlaces& Labels();
 
  private:
   ProgramItem& Decode(size_t at);
@@ -56,8 +62,7 @@ class FlatProgram {
   const std::string text_;
   std::deque<ProgramItem> items_;
   std::vector<uint32_t> item_at_;  // by place: number in items_, from 1
-  // The places of each label, rising, once one is sought.
-  std::unordered_map<std::string_view, std::vector<size_t>> labels_;
+  LabelPlaces labels_;             // once one is sought
   bool labels_known_ = false;
   struct Search {
     std::string sought;

@@ -1,6 +1,7 @@
 #include "script/run_code.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "runtime/strings.h"
 #include "script/marks.h"
@@ -35,7 +36,9 @@ void CodeRun::Run(const std::string& text) {
     return;
   }
   std::shared_ptr<FlatProgram> program;
+  TranslatedPiece* const piece = std::exchange(engine_.piece, nullptr);
   if (!WithinMemory([&] { program = engine_.pieces.Translate(text); })) return OutOfMemory();
+  if (piece != nullptr) *piece = {true, program, engine_.pieces.Reported()};
   if (program != nullptr) RunFlat(std::move(program));
 }
 

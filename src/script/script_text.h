@@ -28,6 +28,8 @@ class ScriptText {
     size_t at = 0;
   };
   Place Here() const { return {text_, at_}; }
+  // What was read since [place].
+  std::string_view Since(const Place& place) const { return std::string_view(*text_).substr(place.at, at_ - place.at); }
   void GoTo(const Place& place);
 
  private:

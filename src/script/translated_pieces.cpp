@@ -49,6 +49,7 @@ void TranslatedPieces::Keep(Kept& kept, std::string key, Translated translated) 
 }
 
 std::shared_ptr<FlatProgram> TranslatedPieces::Translate(const std::string& text) {
+  reported_ = false;
   return TranslateOnce(pieces_, text, [&](ErrorReport& errors) { return PrepareSource(text, errors); });
 }
 
@@ -71,6 +72,7 @@ std::shared_ptr<FlatProgram> TranslatedPieces::TranslateOnce(Kept& kept, const s
   if (source.size() >= kShortestPiece)
     translated.program = std::make_shared<FlatProgram>(TranslateCode(source, state_, errors));
   translated.after = state_.counters;
+  reported_ = errors.reported;
   if (!stopped && !errors.reported) Keep(kept, std::move(key), translated);
   return translated.program;
 }

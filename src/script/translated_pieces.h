@@ -18,6 +18,8 @@ class TranslatedPieces {
 
   // Cleaned and translated; nothing for a piece without content. Moves the counters.
   std::shared_ptr<FlatProgram> Translate(const std::string& text);
+  // Whether the piece that was translated last reports an error.
+  bool Reported() const { return reported_; }
   // A generated statement, which needs no cleaning.
   std::shared_ptr<FlatProgram> TranslateStatement(const std::string& text);
 
@@ -36,6 +38,7 @@ class TranslatedPieces {
   ErrorReport& errors_;
   Kept pieces_, statements_;
   size_t kept_size_ = 0;
+  bool reported_ = false;
 };
 
 }  // namespace corvane::script

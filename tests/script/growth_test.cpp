@@ -55,6 +55,16 @@ INSTANTIATE_TEST_SUITE_P(
         Growth{"PiecesUnderCountersOfTheirOwn",
                [](int n) { return "CODE{\n<%dim i1%>\n" + Repeated("<%for i1=1 to 1:next%><%=1%>\n", n) + "}\n"; },
                6000},
+        Growth{
+            "LoopsOverTemplateText",
+            [](int n) { return "CODE{\n<%dim ii%>\n" + Repeated("<%for ii=1 to 2%>\nrow\n<%\nnext\n%>\n", n) + "}\n"; },
+            1000},
+        Growth{"JumpsBackOverTemplateText",
+               [](int n) {
+                 return "CODE{\n<%dim jj%>\n" +
+                        Numbered("<%\nlab#:\njj++\n%>\nrow\n<%\nif jj<2 then goto lab#\njj=0\n%>\n", n) + "}\n";
+               },
+               1000},
         Growth{"JumpsDeepInCalls",
                [](int n) {
                  return "CODE{\n<%\ndim k1\nsub deep(nn)\nagain1:\nif nn>0 then\ncall deep(nn-1)\nelse\nk1++\nif k1<" +

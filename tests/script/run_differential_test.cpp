@@ -28,9 +28,12 @@ class Generator {
  private:
   // Its end restarts the block.
   std::string OverTemplateText() {
-    static const char* const kHeads[] = {"for ii=1 to 3\n", "while aa<3\naa++\n", "lab3:\nbb++\n"};
-    const int kind = Pick(0, 2);
-    const std::string end = kind == 0 ? "next\n" : kind == 1 ? "wend\n" : "if bb<6 then goto lab3\n";
+    static const char* const kHeads[] = {"for ii=1 to 3\n", "while aa<3\naa++\n", "lab3:\nbb++\n",
+                                         "if aa<3 then goto lab4\n", "lab5:\naa++\n"};
+    static const char* const kEnds[] = {"next\n", "wend\n", "if bb<6 then goto lab3\n", "lab4:\n",
+                                        "if aa<8 then goto lab5\n"};
+    const int kind = Pick(0, 4);
+    const std::string end = kEnds[kind];
     const std::string head = (Chance(4) ? "before <%=bb%> <%\n" : "<%\n") + std::string(kHeads[kind]);
     return head + (Chance(3) ? Statements(1, 1) : "") + "%> behind\nin <%=" + Value() + "%>\n" +
            (Chance(4) ? "<%" + OneLine() + "%>\n" : "") + "<%\n" + end + "%>" + (Chance(4) ? "=<%=aa%>\n" : "\n");
@@ -89,7 +92,7 @@ class Generator {
 };
 
 TEST(RunDifferential, GeneratedScriptsRunAsInThePlainForm) {
-  constexpr unsigned kScripts = 600;
+  constexpr unsigned kScripts = 900;
   size_t with_boxes = 0, with_output = 0;
   for (unsigned seed = 1; seed <= kScripts; ++seed) {
     const std::string script = Generator(seed).Script();
