@@ -1,4 +1,5 @@
 // Code panes and designers: opened by the user or by the add-in, and what the environment tells of them.
+#include <QApplication>
 #include <QDockWidget>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -210,6 +211,9 @@ void MainWindow::ComponentsChanged() {
 void MainWindow::ImmediateChanged(bool shown) {
   immediate_dock_->setVisible(shown);
   if (!shown) return;
+  // Keys that follow at once must go there, not into the window of the add-in that asked for it.
+  activateWindow();
+  QApplication::setActiveWindow(this);
   immediate_dock_->raise();
   immediate_->setFocus();
 }

@@ -1,4 +1,6 @@
 // What the explorer changes is in the code pane at once, and each act of the user there is one step of its Undo.
+#include <QDockWidget>
+#include <QPlainTextEdit>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -134,6 +136,17 @@ TEST_F(EditThroughExplorer, ACommentOfAProcedureIsOneStep) {
   EXPECT_TRUE(Text().contains("\n' What a bin is.\nPublic Function ParseBin"));
   EXPECT_FALSE(Text().contains("Reads what BinText writes"));
   ExpectOneStep();
+}
+
+TEST_F(EditThroughExplorer, ClearingTheImmediateWindowEmptiesItAndNothingElse) {
+  auto* immediate = desk_->Window().findChild<QDockWidget*>("immediate")->findChild<QPlainTextEdit*>();
+  ASSERT_TRUE(immediate);
+  immediate->setPlainText("? 1 + 1\n 2\n");
+  Act([&] { form_->txtFind.SetText("mod"); });
+  Act([&] { form_->tlbr.UserButtonClick(form_->tlbr.PositionOf("pImmed")); });
+  EXPECT_EQ(immediate->toPlainText(), QString());
+  EXPECT_EQ(form_->txtFind.Text(), "mod");
+  EXPECT_EQ(Text(), before_);
 }
 
 TEST_F(EditThroughExplorer, WhatTheUserTypesBetweenTwoChangesOfOneActIsAStepOfItsOwn) {
