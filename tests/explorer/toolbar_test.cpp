@@ -84,6 +84,32 @@ TEST_F(ToolTables, APressOfAKeyEndsASearchOfPropertiesAndPutsThePointerBack) {
   EXPECT_EQ(services.screen.MousePointer(), host::vbDefault);
 }
 
+TEST_F(ToolTables, WithoutAnEnvironmentEveryKeyAndEntryEndsQuietly) {
+  OpenWindow(kShop);
+  ChooseComponent("modMain");
+  ChooseProcedure("Public Sub Main()");
+  form.SetTools({nullptr, [](const std::string&) { return std::string("copied"); },
+                 [](const std::string&, const std::string&) {}, [](long, const host::Ref<host::VBE>&) { return true; },
+                 [](const host::Ref<host::VBProject>&) { return true; },
+                 [](const host::Ref<host::VBComponents>&, const std::string&) {}});
+  form.VBInstance = nullptr;
+  for (const Tool& tool : explorer::Tools()) {
+    if (tool.IsSeparator() || std::string_view(tool.key) == "pExit") continue;
+    const int position = form.tlbr.PositionOf(tool.key);
+    if (std::string_view(tool.key) == "About") toolkit.OnModal("frmAbout", [](forms::Form& about) { about.Unload(); });
+    toolkit.Guard([&] { form.tlbr.UserButtonClick(position); });
+    const int entries = static_cast<int>(form.tlbr.Button(position).ButtonMenus.size());
+    for (int entry = 1; entry <= entries; ++entry)
+      toolkit.Guard([&] { form.tlbr.UserButtonMenuClick(position, entry); });
+    EXPECT_EQ(services.screen.MousePointer(), host::vbDefault) << tool.key;
+  }
+  EXPECT_THAT(toolkit.Faults(), IsEmpty());
+  // No list is left filling.
+  form.VBInstance = environment;
+  form.tlbr.UserButtonClick(form.tlbr.PositionOf("Refresh"));
+  EXPECT_THAT(Components(), Contains("modMain"));
+}
+
 TEST_F(ToolTables, RefreshListsTheProjectAnewOutOfTheCurrentCode) {
   Open(kShop);
   Caret("modMain", 1);
@@ -125,6 +151,29 @@ TEST_F(OtherWindows, WithoutASelectedComponentAllPanesClose) {
   ASSERT_EQ(environment->SelectedVBComponent(), nullptr);
   Press("CloseWnd");
   EXPECT_THAT(OpenPanes(), IsEmpty());
+}
+
+TEST_F(OtherWindows, DesignersCloseButTheSelectedComponents) {
+  Open({Frm("frmMain", {"Option Explicit", ""}), Frm("frmTill", {"Option Explicit", ""}),
+        Bas("modMain", {"Public a", "Public b"})});
+  for (const char* name : {"frmMain", "frmTill"}) Component(name)->DesignerWindow()->SetVisible(true);
+  OpenWindow();
+  environment->SelectComponent(Component("frmTill"));
+  Press("CloseWnd");
+  EXPECT_FALSE(Component("frmMain")->HasOpenDesigner());
+  EXPECT_TRUE(Component("frmTill")->HasOpenDesigner());
+}
+
+TEST_F(OtherWindows, ASelectedComponentOfTwoLettersKeepsItsPaneAlone) {
+  Open({Frm("fA", {"Option Explicit", ""}), Bas("modMain", {"Public a", "Public b"})});
+  Component("fA")->DesignerWindow()->SetVisible(true);
+  Caret("fA", 1);
+  Caret("modMain", 1);
+  OpenWindow();
+  environment->SelectComponent(Component("fA"));
+  Press("CloseWnd");
+  EXPECT_FALSE(Component("fA")->HasOpenDesigner());
+  EXPECT_THAT(OpenPanes(), ElementsAre("fA"));
 }
 
 TEST_F(OtherWindows, ClearingTheImmediateWindowTypesItsKeysInOrder) {

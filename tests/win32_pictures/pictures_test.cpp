@@ -16,6 +16,7 @@
 #include "toolkit_win32/services.h"
 #include "toolkit_win32/texts.h"
 #include "toolkit_win32/toolkit.h"
+#include "workshop/frm_result.h"
 
 namespace corvane::toolkit_win32 {
 namespace {
@@ -129,6 +130,16 @@ TEST_F(Pictures, About) {
   about.cmdSysInfo.UserClick();
   Keep(about, "about-read-me");
   about.Unload();
+}
+
+TEST_F(Pictures, Comment) {
+  workshop::frmResult result(toolkit);
+  result.SetCaption("Comments for a Procedure");
+  result.lblText.SetCaption("Type comments for a Procedure");
+  result.txtRes.SetText(" Reads what people write: \"a3/11\", \"A 3 11\", \"a-3-11\".\r\n False if it is no bin.\r\n");
+  result.Show();
+  Keep(result, "comment");
+  result.Unload();
 }
 
 TEST_F(Pictures, MessageBox) {
