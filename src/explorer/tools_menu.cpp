@@ -6,6 +6,8 @@ namespace corvane::explorer {
 
 namespace {
 
+constexpr char kSeparator[] = "-";
+
 // A caption in which "&" is a plain character. The entries of a drop-down are captions already.
 std::string Plain(const std::string& text) {
   std::string plain;
@@ -21,7 +23,7 @@ void frmAddIn::OpenToolsMenu() {
   for (const Tool& tool : Tools()) {
     ++position;
     if (tool.IsSeparator())
-      AddToolItem(mnuTools, "-", true, {});
+      AddToolItem(mnuTools, kSeparator, true, {});
     else
       AddToolItems(position, tool);
   }
@@ -40,7 +42,7 @@ void frmAddIn::AddToolItems(int position, const Tool& tool) {
   }
   forms::Menu& group = AddToolItem(mnuTools, Plain(tool.tip), enabled, {});
   if (acts) AddToolItem(group, Plain(tool.tip), true, click);
-  if (acts) AddToolItem(group, "-", true, {});
+  if (acts) AddToolItem(group, kSeparator, true, {});
   for (size_t entry = 0; entry < entries.size(); ++entry)
     AddToolItem(group, entries[entry].Text, entries[entry].Enabled,
                 [this, position, entry] { tlbr_ButtonMenuClick(position, static_cast<int>(entry) + 1); });

@@ -1,4 +1,5 @@
 // What the explorer changes is in the code pane at once, and each act of the user there is one step of its Undo.
+#include <QApplication>
 #include <QDockWidget>
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
@@ -142,7 +143,12 @@ TEST_F(EditThroughExplorer, ClearingTheImmediateWindowEmptiesItAndNothingElse) {
   auto* immediate = desk_->Window().findChild<QDockWidget*>("immediate")->findChild<QPlainTextEdit*>();
   ASSERT_TRUE(immediate);
   immediate->setPlainText("? 1 + 1\n 2\n");
-  Act([&] { form_->txtFind.SetText("mod"); });
+  desk_->ExplorerWindow()->activateWindow();
+  Act([&] {
+    form_->txtFind.SetText("mod");
+    form_->txtFind.SetFocus();
+  });
+  ASSERT_EQ(QApplication::activeWindow(), desk_->ExplorerWindow());
   Act([&] { form_->tlbr.UserButtonClick(form_->tlbr.PositionOf("pImmed")); });
   EXPECT_EQ(immediate->toPlainText(), QString());
   EXPECT_EQ(form_->txtFind.Text(), "mod");

@@ -72,14 +72,15 @@ TEST(Icons, AreDrawnOnOneGridInOnePalette) {
 }
 
 // Icons are asked for by Icon("name") or by a row of a table: of buttons, whose name stands in front of their flags, or
-// of commands, where it stands in front of the key and the handler.
+// of commands, where it stands in front of the key and the handler, or of tools, behind key and tip.
 TEST(Icons, ThatTheSourcesAskForAreThere) {
   static const std::regex kAsked(R"re(Icon\(\s*"([a-z0-9-]+)"\)|, "([a-z0-9-]+)", (?:true|false)\b)re"
-                                 R"re(|"([a-z0-9-]+)",\s+"[^"]*",\s+&\w+::)re");
+                                 R"re(|"([a-z0-9-]+)",\s+"[^"]*",\s+&\w+::)re"
+                                 R"re(|\{"\w+", "[^"]*", "([a-z0-9-]+)", (?:&|nullptr))re");
   size_t found = 0;
   for (const auto& source : Sources("src"))
     for (std::sregex_iterator it(source.text.begin(), source.text.end(), kAsked), end; it != end; ++it, ++found) {
-      const std::string name = (*it)[1].str() + (*it)[2].str() + (*it)[3].str();
+      const std::string name = (*it)[1].str() + (*it)[2].str() + (*it)[3].str() + (*it)[4].str();
       EXPECT_TRUE(Exists("data/icons/" + name + ".svg")) << source.path << ": " << name;
     }
   EXPECT_GT(found, 20u) << "the pattern no longer finds them";
