@@ -95,6 +95,12 @@ void CodePane::Load() {
   }
   editor_->setPlainText(text);
   blocks_ = editor_->document()->blockCount();
+  TakeEmptiness();
+}
+
+// An empty document is a module without lines or with an empty one, whichever it was before.
+void CodePane::TakeEmptiness() {
+  if (editor_->document()->isEmpty()) lines_when_empty_ = code_->CountOfLines();
 }
 
 void CodePane::LoadAgainLater() {
@@ -131,6 +137,7 @@ void CodePane::ReplaceInModule(long first, long removed, const std::vector<std::
   removed = std::clamp(removed, 0L, std::max(0L, count - first + 1));
   if (count == 0 && lines.size() == 1 && lines[0].empty()) return;
   size_t begin = 0, end = lines.size();
+  if (editor_->document()->isEmpty() && lines_when_empty_ == 0) end = 0;
   while (begin < end && removed > 0 && module_->LineView(first) == lines[begin]) ++begin, ++first, --removed;
   while (begin < end && removed > 0 && module_->LineView(first + removed - 1) == lines[end - 1]) --end, --removed;
   if (begin == end && removed == 0) return;
@@ -186,6 +193,7 @@ void CodePane::LinesChanged(long start, long removed, long inserted, long act) {
     joins_last_step_ = true;
     QTimer::singleShot(0, this, [this] { joins_last_step_ = false; });
   }
+  TakeEmptiness();
   if (std::max(1L, count) != blocks_) LoadAgainLater();
 }
 

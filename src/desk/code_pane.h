@@ -47,6 +47,7 @@ class CodePane : public QWidget {
   void TakeEdit(int at, int added);
   void ReplaceInModule(long first, long removed, const std::vector<std::string>& lines);
   void LoadAgainLater();
+  void TakeEmptiness();
   void TakeSelection();
   void FillObjects();
   void FillProcedures();
@@ -60,6 +61,7 @@ class CodePane : public QWidget {
   QComboBox *objects_, *procedures_;
   QTimer list_timer_;
   std::vector<Procedure> known_;
+  long lines_when_empty_ = 1;
   int blocks_ = 1;                // of the document before its last change
   bool following_ = false;        // the document is being changed after the module
   bool leading_ = false;          // the module is being changed after the document

@@ -258,6 +258,22 @@ TEST_F(CodePaneTest, BytesWithoutACharacterSurviveAnEditOfTheirLine) {
   EXPECT_EQ(module_->LineView(1), "' x\x81 odd \x01");
 }
 
+TEST_F(CodePaneTest, AnEmptyPaneIsWhatTheModuleWas) {
+  for (const char* file : {"Attribute VB_Name = \"modOdd\"\r\n", "Attribute VB_Name = \"modOdd\"\r\n\r\n"}) {
+    files_.Put("C:\\Work\\modOdd.bas", file);
+    environment_->ActiveVBProject()->VBComponents()->AddFile("C:\\Work\\modOdd.bas");
+    module_ = Module("modOdd");
+    pane_ = window_->OpenCode(module_);
+    Type("Dim x~Dim y");
+    EXPECT_EQ(CodeText(), "Dim x\r\nDim y");
+    while (pane_->Editor().document()->isUndoAvailable()) pane_->Editor().undo();
+    EXPECT_EQ(module_->WriteToText(), file);
+    ExpectSame();
+    environment_->ActiveVBProject()->VBComponents()->Remove(module_);
+    Settle();
+  }
+}
+
 // Users, add-ins and undo at random places.
 class RandomEdits : public CodePaneTest {
  protected:
@@ -306,7 +322,7 @@ class RandomEdits : public CodePaneTest {
     }
   }
 
-  static constexpr const char* kTexts[] = {"' one", "Dim a\r\nDim b\r\n", "", "Sub New_\xA0()\r\nEnd Sub"};
+  static constexpr const char* kTexts[] = {"' one", "Dim m\r\nDim n\r\n", "", "Sub New_\xA0()\r\nEnd Sub"};
   static constexpr const char* kTyped[] = {"x", "\n", "", "Public Sub T()\n\nEnd Sub\n"};
   std::minstd_rand random_;
 };
@@ -320,7 +336,6 @@ TEST_F(RandomEdits, ThePaneAndItsModuleHoldTheSameLinesAndUndoGoesBackToTheFile)
        "Attribute VB_Name = \"modOdd\"\r\nPublic Total As Long\r\nAttribute Total.VB_VarDescription = \"all\"\r\n"
        "Sub A()\r\nAttribute A.VB_Description = \"does a\"\r\nEnd Sub\r\nSub B()\r\nEnd Sub\r\n"},
       {"line feeds and no last line end", "Attribute VB_Name = \"modOdd\"\nOption Explicit\n\nSub A()\nEnd Sub"},
-      {"no code", "Attribute VB_Name = \"modOdd\"\r\n"},
   };
   for (const auto& file : files) {
     SCOPED_TRACE(file.what);
