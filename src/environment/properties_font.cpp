@@ -78,8 +78,8 @@ void SetMember(FontValues& font, std::string_view member, const Variant& value) 
     font.underline = runtime::ToBoolean(value);
   else
     font.weight = runtime::ToLong(value);
-  const bool fits = !font.name.empty() && !NeedsSibling(font.name) && font.size > 0 &&
-                    font.size <= 2160 && font.charset >= 0 && font.charset <= 255;
+  const bool fits = !font.name.empty() && !NeedsSibling(font.name) && font.size > 0 && font.size <= 2160 &&
+                    font.charset >= 0 && font.charset <= 255;
   if (!fits) throw host::Error(runtime::kInvalidPropertyValue);
 }
 

@@ -2,6 +2,7 @@
 #include "explorer/frm_add_in.h"
 #include "explorer/project_access.h"
 #include "explorer/rows.h"
+#include "explorer/search_module.h"
 #include "runtime/strings.h"
 
 namespace corvane::explorer {
@@ -10,7 +11,6 @@ using namespace runtime;
 
 namespace {
 
-constexpr char kProjectTitle[] = "Project Title";
 constexpr char kWholeProject = 2, kActiveModule = 3;
 
 }  // namespace

@@ -24,6 +24,7 @@ bool IsCommentOrBlank(const std::string& row) {
 }  // namespace
 
 void frmAddIn::lbxProc_Click() {
+  searching = false;
   if (busy) return;
   savedPosition = 0;
   firstLineShown = 0;

@@ -12,7 +12,6 @@ using host::Ref;
 
 namespace {
 
-constexpr char kModuleName[] = "ModuleName = ";
 constexpr char kBold = '\x02';
 constexpr long kShortestName = 2;
 

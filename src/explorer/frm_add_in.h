@@ -242,6 +242,7 @@ class frmAddIn : public forms::Form {
   void BindComponentEvents();
   void BindProcedureEvents();
   void BindCodeEvents();
+  void BindSearchEvents();
   void Form_Load();
   void Form_Activate();
   void Form_Unload();
@@ -333,6 +334,28 @@ class frmAddIn : public forms::Form {
   void txtCode_Search(const std::string& text);
   void ShowClipBook();
   void mnuIDETitle_Click();
+
+  // project_search.cpp
+  void cbSearch_Click();
+  void cmbSearch_Click();
+  void cmbSearch_KeyPress(int& key);
+  void mnuSearchMod_Click();
+  void SayInSearch(const char* message);
+  std::string SelectedModule() const;
+  void RememberSearchText(const std::string& text);
+  void BeginResults();
+  void ListHits(std::string module);
+  std::string ModuleToSearch();
+  void ListHitsOf(host::VBComponent& component, const std::string& only, const std::string& project);
+  void ShowFirstResult();
+  void RestoreComponentRow(const std::string& text, long itemData);
+
+  // property_search.cpp
+  void SearchProperties();
+  long ListPropertyHits(const std::string& text, long fill);
+  void BeginPropertyHits();
+  void AddHeading(const std::string& name);
+  void AddResult(const std::string& row);
 
   // list_pairs.cpp
   void SwitchPair(int to);

@@ -138,7 +138,7 @@ void frmAddIn::DesignButtons() {
       {cmdNext, "", "next", false},
       {cmGo, "", "go-designer", true},
       {cmdColor, "Off", "color", true},
-      {cbSearch, "Search", "search", false},
+      {cbSearch, "Search", "search", true},
   };
   for (const auto& button : kButtons) {
     button.control.SetCaption(button.caption);

@@ -11,7 +11,7 @@ class MenuTable {
   using F = frmAddIn;
   static constexpr MenuEntry kEntries[] = {
       {&F::mnuSearch, "Search Procedure", &F::mnuSearch_Click},
-      {&F::mnuSearchMod, "Search CodeModule", nullptr},
+      {&F::mnuSearchMod, "Search CodeModule", &F::mnuSearchMod_Click},
       {&F::mnuGoDesign, "Goto Designer", &F::mnuGoDesign_Click},
       {&F::mnuComnt, "Comment Procedure", &F::mnuComnt_Click},
       {&F::mnuCop, "Copy into ClipBoard", nullptr, nullptr, true},

@@ -15,6 +15,7 @@ inline constexpr char kTailMark[] = " +|";         // the component's index foll
 inline constexpr char kBookmarkMark[] = " \\+\\";  // a module's name, a tab and a line follow
 inline constexpr char kLabelEnd[] = ":    ";       // ends the label in front of a row
 inline constexpr char kCurrentLine[] = "A current line";
+inline constexpr char kModuleName[] = "ModuleName = ";            // heads the hits of a designer; its name follows
 inline constexpr char kSearchResult[] = "    < Search Result >";  // title of the code view
 
 // Title of a standard module in the code view of " Project Globals".

@@ -25,7 +25,7 @@ class ToolTable {
       {"Favorites", "Add\\Remove Project Favorites", "favorite", nullptr, nullptr, true},
       {"BookMarks", "Get BookMarks", "bookmark", nullptr, nullptr, true},
       {"CloseWnd", "Close All Windows except current", "close-windows", &F::CloseOtherWindows},
-      {"Find", "Searching in Designers", "search", nullptr},
+      {"Find", "Searching in Designers", "search", &F::SearchProperties},
       {},
       {"Actions", "Additional Actions", "clone", &F::CloneCurrent, nullptr, true},
       {"aCopy", "Copy Component Properties", "copy", &F::CopyProperties, &F::CanCopy},

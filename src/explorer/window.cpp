@@ -1,6 +1,7 @@
 // The window itself: loading, activation, unloading, keys, the toolbar.
 #include "explorer/frm_add_in.h"
 #include "explorer/project_access.h"
+#include "explorer/search_module.h"
 #include "runtime/strings.h"
 
 namespace corvane::explorer {
@@ -10,7 +11,6 @@ using namespace runtime;
 namespace {
 
 constexpr long kShortestHelpPath = 12;
-constexpr char kFirstSearchEntry[] = "Project Title";
 constexpr forms::Twips kMenuX = 3500, kMenuY = 2000;
 
 }  // namespace
@@ -28,9 +28,11 @@ void frmAddIn::BindEvents() {
   Resize = [this] { Form_Resize(); };
   UnloadEvent = [this](bool&) { Form_Unload(); };
   KeyDown = [this](int& key, int shift) { Form_KeyDown(key, shift); };
+  Click = [this] { searching = false; };
   BindComponentEvents();
   BindProcedureEvents();
   BindCodeEvents();
+  BindSearchEvents();
 }
 
 void frmAddIn::BindComponentEvents() {
@@ -69,6 +71,7 @@ void frmAddIn::BindProcedureEvents() {
 }
 
 void frmAddIn::BindCodeEvents() {
+  txtCode.Click = [this] { searching = false; };
   txtCode.TextDone = [this] { txtCode_TextDone(); };
   txtCode.DblClick = [this] { txtCode_DblClick(); };
   txtCode.GoProc = [this](const std::string& text) { txtCode_GoProc(text); };
@@ -83,11 +86,17 @@ void frmAddIn::BindCodeEvents() {
   cmdColor.Click = [this] { cmdColor_Click(); };
 }
 
+void frmAddIn::BindSearchEvents() {
+  cbSearch.Click = [this] { cbSearch_Click(); };
+  cmbSearch.Click = [this] { cmbSearch_Click(); };
+  cmbSearch.KeyPress = [this](int& key) { cmbSearch_KeyPress(key); };
+}
+
 void frmAddIn::Form_Load() {
   ResetToDesign();
   Move(200, 200);
   cmbSearch.Clear();
-  cmbSearch.AddItem(kFirstSearchEntry);
+  cmbSearch.AddItem(kProjectTitle);
   cmbSearch.SetText(CurrentWord(VBInstance));
   for (int i = 0; i < kPairs; ++i) {
     pairLine[i] = 0;

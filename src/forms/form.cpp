@@ -126,6 +126,10 @@ void Form::UserKeyUp(int key_code, int shift) {
   if (visible_ && !toolkit_.IsBlocked(*this)) KeyUp(key_code, shift);
 }
 
+void Form::UserClick() {
+  if (visible_ && !toolkit_.IsBlocked(*this)) Click();
+}
+
 bool Form::ShowsMenuBar() const {
   return std::any_of(menus_.begin(), menus_.end(), [](const Menu* menu) { return menu->Visible(); });
 }

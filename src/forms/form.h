@@ -112,6 +112,7 @@ class Form : public Container {
   void PopupMenu(Menu& menu, Twips x, Twips y);
 
   Event<> Load, Activate, Deactivate, Resize;
+  Event<> Click;                // on the surface itself
   Event<> GotFocus, LostFocus;  // only of a form without a control that can take the focus
   Event<bool&, UnloadMode> QueryUnload;
   Event<bool&> UnloadEvent;
@@ -132,6 +133,7 @@ class Form : public Container {
   bool UserKeyDown(int key_code, int shift);
   bool UserKeyPress(int key_ascii);
   void UserKeyUp(int key_code, int shift);
+  void UserClick();
   // Keys that a window takes before its controls see them: shortcuts of menus, access keys (Alt and a letter; those of
   // the menu bar are the toolkit's), Tab and Shift+Tab, Enter and Esc for buttons. True when the key was used up.
   bool UserDialogKey(int key_code, int shift);

@@ -9,19 +9,27 @@ namespace corvane::runtime {
 
 inline constexpr char kCrLf[] = "\r\n";
 
-inline long Len(std::string_view text) { return static_cast<long>(text.size()); }
+inline long Len(std::string_view text) {
+  return static_cast<long>(text.size());
+}
 
 // First place of [find] in [text] at or behind [start]; 0 if there is none. An empty [find] gives [start],
 // an empty [text] or a start behind its end 0.
 long InStr(long start, std::string_view text, std::string_view find);
-inline long InStr(std::string_view text, std::string_view find) { return InStr(1, text, find); }
+inline long InStr(std::string_view text, std::string_view find) {
+  return InStr(1, text, find);
+}
 
 // Last place of [find] that ends at or before [start] (-1: the end of the text); 0 if there is none.
 long InStrRev(std::string_view text, std::string_view find, long start = -1);
 
 // Whether [find] occurs in [text].
-inline bool Holds(std::string_view text, std::string_view find) { return text.find(find) != std::string_view::npos; }
-inline bool BeginsWith(std::string_view text, std::string_view start) { return text.substr(0, start.size()) == start; }
+inline bool Holds(std::string_view text, std::string_view find) {
+  return text.find(find) != std::string_view::npos;
+}
+inline bool BeginsWith(std::string_view text, std::string_view start) {
+  return text.substr(0, start.size()) == start;
+}
 
 std::string Mid(std::string_view text, long start);
 std::string Mid(std::string_view text, long start, long count);
@@ -49,8 +57,12 @@ double Val(std::string_view text);
 
 // A number as text, as CStr gives it, with "." as decimal sign: at most 15 digits, trailing zeros dropped.
 std::string CStr(double number);
-inline std::string CStr(long number) { return std::to_string(number); }
-inline std::string CStr(int number) { return std::to_string(number); }
+inline std::string CStr(long number) {
+  return std::to_string(number);
+}
+inline std::string CStr(int number) {
+  return std::to_string(number);
+}
 
 // [number] with a picture of digits: 0 and # places, an optional point, and literals behind ("00#   " gives at
 // least three digits, as a # behind a 0 counts as one, and three blanks). See format.cpp for the places understood.

@@ -22,7 +22,7 @@ using Variant = std::variant<std::monostate, bool, long, double, std::string, Pi
 std::string ToText(const Variant& value);
 // The value as a number; texts by CDbl's rules. Throws Error 13 where CDbl would.
 double ToNumber(const Variant& value);
-long ToLong(const Variant& value);      // rounds half to even
-bool ToBoolean(const Variant& value);   // any number but 0 is True; "True" and "False" in any case
+long ToLong(const Variant& value);     // rounds half to even
+bool ToBoolean(const Variant& value);  // any number but 0 is True; "True" and "False" in any case
 
 }  // namespace corvane::runtime

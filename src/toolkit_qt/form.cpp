@@ -79,6 +79,9 @@ class FormWindow : public QWidget {
   void keyReleaseEvent(QKeyEvent* event) override {
     if (peer_) peer_->KeyReleased(*event);
   }
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    if (peer_ && event->button() == Qt::LeftButton) peer_->Clicked();
+  }
 
  private:
   FormWindowPeer* peer_;
@@ -251,6 +254,10 @@ void FormWindowPeer::KeyReleased(const QKeyEvent& event) {
   const int code = KeyCodeOf(event);
   if (code == 0 || event.isAutoRepeat() || form_.ActiveControl()) return;
   toolkit_.Guard([&] { form_.UserKeyUp(code, ShiftOf(event.modifiers())); });
+}
+
+void FormWindowPeer::Clicked() {
+  toolkit_.Guard([this] { form_.UserClick(); });
 }
 
 bool OpenMenuByKey(forms::Form& form, int key_code, int shift) {

@@ -39,6 +39,7 @@ class FormWindowPeer : public forms::FormPeer {
   void CloseAsked();
   bool KeyPressed(const QKeyEvent& event);
   void KeyReleased(const QKeyEvent& event);
+  void Clicked();
 
  private:
   void ShowPlace();

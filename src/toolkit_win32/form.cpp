@@ -248,6 +248,9 @@ LRESULT FormWindowPeer::OnMessage(Window& window, const Message& message) {
     case WM_CHAR:
       if (CharacterTyped(static_cast<wchar_t>(message.w))) return 0;
       break;
+    case WM_LBUTTONUP:
+      toolkit_.Guard([this] { form_.UserClick(); });
+      return 0;
     case WM_KEYUP:
     case WM_SYSKEYUP: {
       const Life self = life_;

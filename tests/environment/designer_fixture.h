@@ -169,8 +169,17 @@ End
 // Its List holds "one", "two" with the data 7 and 0.
 inline std::string StockSibling() {
   constexpr char kBytes[] =
-      "\2\0\3\0" "\1\0" "7" "\1\0" "0" "\0\0\0\0"  // ItemData
-      "\2\0\3\0" "\3\0" "one" "\3\0" "two";          // List
+      "\2\0\3\0"
+      "\1\0"
+      "7"
+      "\1\0"
+      "0"
+      "\0\0\0\0"  // ItemData
+      "\2\0\3\0"
+      "\3\0"
+      "one"
+      "\3\0"
+      "two";  // List
   return std::string(kBytes, sizeof kBytes - 1);
 }
 

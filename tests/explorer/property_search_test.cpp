@@ -1,0 +1,112 @@
+// The search of designers: hits in the properties of controls and components.
+#include "tests/explorer/explorer_fixture.h"
+
+namespace corvane::tests {
+namespace {
+
+environment::SourceFile FormWithControls(const std::string& name, const std::string& caption, const std::string& inner) {
+  return {name + ".frm", "VERSION 5.00\r\nBegin VB.Form " + name + " \r\n   Caption         =   \"" + caption +
+                             "\"\r\n" + inner + "End\r\nAttribute VB_Name = \"" + name + "\"\r\nSub A()\r\nEnd Sub\r\n"};
+}
+
+std::string Label(const std::string& name, const std::string& caption) {
+  return "   Begin VB.Label " + name + " \r\n      Caption         =   \"" + caption + "\"\r\n   End\r\n";
+}
+
+class PropertyOfDesigners : public ExplorerTest {
+ protected:
+  PropertyOfDesigners() {
+    OpenWindow({
+        FormWithControls("frmOne", "Orders", Label("lblA", "Order number") + Label("lblB", "ORDER date")),
+        Bas("modOrder", {"Public Order As Long", "Sub B()", "End Sub"}),
+        FormWithControls("frmTwo", "Order two", Label("lblC", "Name")),
+    });
+  }
+  void SearchFor(const std::string& text) {
+    services.prompts.inputs.push_back(text);
+    form.tlbr.UserButtonClick(form.tlbr.PositionOf("Find"));
+  }
+};
+
+TEST_F(PropertyOfDesigners, HitsStandBelowTheNameOfTheirDesigner) {
+  SearchFor("order");
+  EXPECT_THAT(CodeRows(),
+              ElementsAre("ModuleName = frmOne", "  Component = lblA  Caption = Order number",
+                          "  Component = lblB  Caption = ORDER date", " ", "ModuleName = frmTwo",
+                          "  Caption = Order two"));
+  EXPECT_EQ(form.txtCode.StoredText(1), "ModuleName = \2frmOne");
+  EXPECT_EQ(form.txtCode.StoredText(2), "  Component = /+\\/+\\lblA/-\\/-\\  /+\\Caption = Order number/-\\");
+  EXPECT_EQ(form.txtCode.StoredText(6), "  /+\\Caption = Order two/-\\");
+  EXPECT_EQ(form.lblSub.Caption(), explorer::kSearchResult);
+  EXPECT_EQ(form.txtCode.ListIndex(), 1);
+  EXPECT_TRUE(form.txtCode.pic.HasFocus());
+  EXPECT_EQ(services.prompts.input_boxes.back().prompt, "Type SubString for Searching in Properties");
+  EXPECT_EQ(services.screen.MousePointer(), host::vbDefault);
+}
+
+TEST_F(PropertyOfDesigners, TheFirstPropertyOfAControlIsReportedAlone) {
+  SearchFor("lab");  // the name of a control is no property here
+  EXPECT_THAT(Messages(), ElementsAre("Components Properties are not found."));
+}
+
+TEST_F(PropertyOfDesigners, AFormIsFoundByItsOwnName) {
+  SearchFor("frmtwo");
+  EXPECT_THAT(CodeRows(), ElementsAre("ModuleName = frmTwo", "  Name = frmTwo"));
+}
+
+TEST_F(PropertyOfDesigners, ATextOfOneCharacterIsNotSought) {
+  const auto before = CodeRows();
+  SearchFor("o");
+  EXPECT_EQ(CodeRows(), before);
+  EXPECT_THAT(Messages(), IsEmpty());
+}
+
+TEST_F(PropertyOfDesigners, WithoutAHitItSaysSoAndKeepsTheView) {
+  const auto before = CodeRows();
+  SearchFor("nowhere at all");
+  EXPECT_THAT(Messages(), ElementsAre("Components Properties are not found."));
+  EXPECT_EQ(CodeRows(), before);
+}
+
+TEST_F(PropertyOfDesigners, ADoubleClickOnAHitShowsItsDesigner) {
+  SearchFor("two");
+  form.txtCode.SetStrPos(2);
+  form.txtCode.DblClick();
+  EXPECT_TRUE(Component("frmTwo")->HasOpenDesigner());
+}
+
+TEST_F(PropertyOfDesigners, AClickStopsItAndKeepsTheHits) {
+  services.loop.on_do_events = [this] {
+    if (form.txtCode.ListCount() > 0 && form.lblSub.Caption() == explorer::kSearchResult) form.txtCode.Click();
+  };
+  SearchFor("order");
+  EXPECT_THAT(CodeRows(), Contains("ModuleName = frmOne"));
+  EXPECT_THAT(CodeRows(), Not(Contains("ModuleName = frmTwo")));
+}
+
+TEST_F(PropertyOfDesigners, AClickOnTheWindowOrTheProceduresStopsItToo) {
+  for (int way = 0; way < 2; ++way) {
+    bool clicked = false;
+    services.loop.on_do_events = [&] {
+      if (std::exchange(clicked, true)) return;
+      if (way == 0)
+        form.Click();
+      else
+        form.lbxProc->Click();
+    };
+    SearchFor("order");
+    EXPECT_THAT(CodeRows(), Not(Contains("ModuleName = frmTwo"))) << way;
+    services.loop.on_do_events = nullptr;
+  }
+}
+
+TEST_F(PropertyOfDesigners, TheListBeforeComesBack) {
+  ChooseComponent("frmOne");
+  SearchFor("order");
+  form.cmdPrev.Click();
+  EXPECT_THAT(Components(), Contains("frmOne"));
+  EXPECT_NE(form.lblSub.Caption(), explorer::kSearchResult);
+}
+
+}  // namespace
+}  // namespace corvane::tests
