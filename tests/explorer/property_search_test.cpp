@@ -4,9 +4,10 @@
 namespace corvane::tests {
 namespace {
 
-environment::SourceFile FormWithControls(const std::string& name, const std::string& caption, const std::string& inner) {
-  return {name + ".frm", "VERSION 5.00\r\nBegin VB.Form " + name + " \r\n   Caption         =   \"" + caption +
-                             "\"\r\n" + inner + "End\r\nAttribute VB_Name = \"" + name + "\"\r\nSub A()\r\nEnd Sub\r\n"};
+environment::SourceFile Form(const std::string& name, const std::string& caption, const std::string& inner) {
+  const std::string head = "VERSION 5.00\r\nBegin VB.Form " + name + " \r\n";
+  const std::string tail = "End\r\nAttribute VB_Name = \"" + name + "\"\r\nSub A()\r\nEnd Sub\r\n";
+  return {name + ".frm", head + "   Caption         =   \"" + caption + "\"\r\n" + inner + tail};
 }
 
 std::string Label(const std::string& name, const std::string& caption) {
@@ -17,9 +18,9 @@ class PropertyOfDesigners : public ExplorerTest {
  protected:
   PropertyOfDesigners() {
     OpenWindow({
-        FormWithControls("frmOne", "Orders", Label("lblA", "Order number") + Label("lblB", "ORDER date")),
+        Form("frmOne", "Orders", Label("lblA", "Order number") + Label("lblB", "ORDER date")),
         Bas("modOrder", {"Public Order As Long", "Sub B()", "End Sub"}),
-        FormWithControls("frmTwo", "Order two", Label("lblC", "Name")),
+        Form("frmTwo", "Order two", Label("lblC", "Name")),
     });
   }
   void SearchFor(const std::string& text) {
