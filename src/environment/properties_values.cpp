@@ -59,9 +59,11 @@ bool IsControlByte(unsigned char c) {
   return c < ' ';
 }
 
-long ChoiceNumber(const Variant& value) {
+// One of the property's own list, where that is known.
+long ChoiceNumber(std::string_view choices, const Variant& value) {
   const long number = runtime::ToLong(value);
-  if (number < 0) throw runtime::Error(runtime::kInvalidPropertyValue);
+  if (number < 0 || (!choices.empty() && ChoiceText(choices, number).empty()))
+    throw runtime::Error(runtime::kInvalidPropertyValue);
   return number;
 }
 
@@ -161,7 +163,7 @@ std::string WriteValue(PropertyKind kind, std::string_view choices, const Varian
     case PropertyKind::Colour:
       return WriteColour(runtime::ToLong(value));
     case PropertyKind::Choice: {
-      const long number = ChoiceNumber(value);
+      const long number = ChoiceNumber(choices, value);
       const std::string_view text = ChoiceText(choices, number);
       return runtime::CStr(number) + (text.empty() ? "" : "  '" + std::string(text));
     }

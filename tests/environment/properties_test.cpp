@@ -279,7 +279,6 @@ const Writing kWritings[] = {
     {"Image", "      Picture         =   \"gone.frx\":0000\n", "Picture", PictureRef(),
      "      Picture         =   \"gone.frx\":0000\n"},
     {"Label", "", "MousePointer", 99L, "      MousePointer    =   99  'Custom\n"},
-    {"Label", "", "MousePointer", 77L, "      MousePointer    =   77\n"},
     {"Label", "", "BackColor", 255L, "      BackColor       =   &H000000FF&\n"},
     {"Label", "", "ForeColor", -2147483640L, "      ForeColor       =   &H80000008&\n"},
     {"Label", "      BackColor       =   &H000000FF&\n", "BackColor", -2147483633L, ""},
@@ -487,6 +486,31 @@ TEST(Properties, APartThatWasNotUnderstoodRefusesEdits) {
   }
 }
 
+TEST(Properties, AChoiceTakesTheValuesOfItsOwnListAlone) {
+  const auto error = [](const std::string& control, const std::string& property, const Variant& value) {
+    OpenDesigner open(kStockForm);
+    const long number = ErrorOf([&] {
+      const auto of = control.empty() ? open.Of(property) : open.Of(control, property);
+      of->SetValue(value);
+    });
+    EXPECT_EQ(open.Text() == kStockForm, number != 0) << property;
+    return number;
+  };
+  EXPECT_EQ(error("", "BorderStyle", std::string("99")), 380);
+  EXPECT_EQ(error("", "BorderStyle", 6L), 380);
+  EXPECT_EQ(error("", "BorderStyle", 5L), 0);
+  EXPECT_EQ(error("", "MousePointer", 16L), 380);
+  EXPECT_EQ(error("", "MousePointer", 99L), 0);
+  EXPECT_EQ(error("", "DrawMode", 0L), 380);
+  EXPECT_EQ(error("", "DrawMode", 16L), 0);
+  EXPECT_EQ(error("", "WindowState", -1L), 380);
+  EXPECT_EQ(error("", "WindowState", std::string("2")), 0);
+  EXPECT_EQ(error("fraKind", "BorderStyle", 2L), 380);
+  EXPECT_EQ(error("txtNote", "Alignment", 3L), 380);
+  EXPECT_EQ(error("txtNote", "ScrollBars", 4L), 380);
+  EXPECT_EQ(error("sldSize", "DragMode", 2L), 380) << "of its container";
+}
+
 TEST(ControlClasses, EveryClassIsComplete) {
   EXPECT_EQ(ControlClasses().size(), 27u);
   for (const ControlClass& known : ControlClasses()) {
@@ -498,6 +522,9 @@ TEST(ControlClasses, EveryClassIsComplete) {
     }));
     for (const PropertyRow& row : known.properties) {
       const std::string where = std::string(known.prog_id) + "." + std::string(row.name);
+      if (row.kind == PropertyKind::Choice) {
+        EXPECT_FALSE(row.choices.empty()) << where;
+      }
       if (row.kind == PropertyKind::Choice && !row.default_value.empty()) {
         EXPECT_FALSE(ChoiceText(row.choices, std::stol(std::string(row.default_value))).empty()) << where;
       }
