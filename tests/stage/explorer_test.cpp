@@ -88,8 +88,7 @@ TEST_F(Exploring, ADoubleClickInTheCodeGoesToThatLine) {
   ASSERT_EQ(ProcedureNames()[1], "Private Property Get CellHeight() As Single");
   ASSERT_EQ(environment->ActiveCodePane(), nullptr);
   const auto double_click = [this](int y) {
-    const HWND code = ControlAt(ControlAt(Explorer(), 75, 3510), 0, 0);
-    PostDoubleClick(code, 60, y);
+    PostDoubleClick(CodeView(), 60, y);
     window.Settle();
   };
   double_click(6);
@@ -106,12 +105,12 @@ TEST_F(Exploring, TheDesignerOfAComponentIsOpened) {
   Choose("BinMap");
   const auto component = environment->ActiveVBProject()->VBComponents()->Item("BinMap");
   ASSERT_FALSE(component->HasOpenDesigner());
-  ClickAt(10275, 3150);
+  ClickOn(DesignerButton());
   EXPECT_TRUE(component->HasOpenDesigner());
   EXPECT_EQ(stage.ledger.Calls("Window.SetFocus"), 1);
   EXPECT_THAT(boxes.Boxes(), IsEmpty());
   Choose("modApi");
-  ClickAt(10275, 3150);
+  ClickOn(DesignerButton());
   EXPECT_THAT(boxes.Boxes(), ElementsAre("Current component has not a designer.\r\nDesigner is not available."));
 }
 

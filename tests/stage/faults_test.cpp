@@ -93,6 +93,36 @@ TEST_F(Faults, DisconnectionWhileAMessageBoxIsOpen) {
   EXPECT_EQ(FindOnBar("Add-Ins", kMenuItem), nullptr);
 }
 
+// The question for a clone's name. Whatever is answered once the add-in is gone comes to nothing.
+TEST_F(Faults, DisconnectionWhileAnInputBoxIsOpen) {
+  for (const WORD answer : {IDOK, IDCANCEL}) {
+    ASSERT_EQ(host.StartUp(), S_OK);
+    Click("Standard", kButton);
+    ASSERT_NE(Explorer(), nullptr);
+    Press(Components(), {VK_HOME, VK_DOWN});
+    const long before = environment->ActiveVBProject()->VBComponents()->Count();
+    bool was_open = false, was_disabled = false;
+    boxes.instead = [&](HWND box) {
+      const std::vector<HWND> fields = Below(box, "edit");
+      was_open = fields.size() == 1;
+      was_disabled = !IsWindowEnabled(window.Handle()) && !IsWindowEnabled(Explorer());
+      if (was_open) SetWindowTextW(fields[0], L"modClone");
+      EXPECT_EQ(host.UnloadByUser(), S_OK);
+      PostMessageW(box, WM_COMMAND, answer, 0);
+    };
+    PressTool(14);
+    EXPECT_TRUE(window.PumpUntil([&] { return was_open; }));
+    EXPECT_TRUE(was_disabled);
+    window.Settle();
+    EXPECT_EQ(FindShownOfClass("#32770"), nullptr);
+    EXPECT_EQ(Explorer(), nullptr);
+    EXPECT_TRUE(IsWindowEnabled(window.Handle()));
+    EXPECT_EQ(environment->ActiveVBProject()->VBComponents()->Count(), before);
+    EXPECT_EQ(environment->ActiveVBProject()->VBComponents()->Item(1L)->Name(), "modMain");
+    EXPECT_THAT(boxes.Take(), IsEmpty()) << answer;
+  }
+}
+
 // Stories with libraries of their own: the usual one stands aside.
 class OtherPlaces : public Story {
  protected:

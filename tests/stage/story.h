@@ -42,6 +42,8 @@ class Story : public testing::Test {
   HWND Procedures() const { return ControlAt(Explorer(), 75, 1635); }
   HWND ComponentFilter() const { return ControlAt(Explorer(), 7140, 900); }
   HWND ProcedureFilter() const { return ControlAt(Explorer(), 75, 2775); }
+  HWND CodeView() const { return ControlAt(ControlAt(Explorer(), 75, 3510), 0, 0); }
+  HWND DesignerButton() const { return ControlAt(Explorer(), 10275, 3150); }
   // The user presses keys in a control.
   void Press(HWND control, std::initializer_list<WORD> keys);
   // The same where the focus is, with other keys held down.
