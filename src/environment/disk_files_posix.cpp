@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "environment/disk_files.h"
-#include "environment/folder_names_posix.h"
+#include "environment/disk_folder_names_posix.h"
 #include "environment/paths.h"
 #include "environment/wildcard.h"
 #include "runtime/code_page.h"

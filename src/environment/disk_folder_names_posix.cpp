@@ -1,4 +1,4 @@
-#include "environment/folder_names_posix.h"
+#include "environment/disk_folder_names_posix.h"
 
 #include <algorithm>
 #include <ctime>
