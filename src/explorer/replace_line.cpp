@@ -1,4 +1,6 @@
 // A line that was edited in the code view goes into its module.
+#include <algorithm>
+
 #include "explorer/frm_add_in.h"
 #include "explorer/project_access.h"
 #include "explorer/rows.h"
@@ -14,6 +16,17 @@ namespace {
 constexpr char kCannotEdit[] = "Can't edit this line.";
 constexpr char kChangedBefore[] = "Can not Replace line because line was changed before";
 
+size_t BlanksAtEnd(std::string_view text) {
+  return text.size() - (text.find_last_not_of(' ') + 1);
+}
+
+// The list shows some keywords with a blank behind them that the line of the module has not.
+std::string WithoutBlanksOfTheList(std::string text, const std::string& row, const std::string& line) {
+  const size_t shown = BlanksAtEnd(row), own = BlanksAtEnd(line);
+  if (shown > own) text.resize(text.size() - std::min(shown - own, BlanksAtEnd(text)));
+  return text;
+}
+
 }  // namespace
 
 void frmAddIn::ReplaceCodeLine(long row, const std::string& text) {
@@ -27,7 +40,7 @@ void frmAddIn::ReplaceCodeLine(long row, const std::string& text) {
   }
   if (line > module->CountOfLines() || Trim(txtCode.List(row)) != Trim(module->Lines(line, 1)))
     return SayChangedBefore();
-  module->ReplaceLine(line, text);
+  module->ReplaceLine(line, WithoutBlanksOfTheList(text, txtCode.List(row), module->Lines(line, 1)));
   txtCode.ReplaceItem(row, module->Lines(line, 1));
   DoEvents();
 }

@@ -21,6 +21,16 @@ TEST_F(ReplaceLine, TheRowShowsWhatTheModuleHolds) {
   EXPECT_THAT(CodeRows(), Not(Contains(HasSubstr("(none)"))));
 }
 
+TEST_F(ReplaceLine, ABlankThatTheListShowsBehindAKeywordStaysOutOfTheModule) {
+  Show("modFormat", "Public Function ParseBin");
+  const long row = RowOf(CodeRows(), "Loop") + 1;
+  ASSERT_EQ(form.txtCode.List(row), "    Loop ");
+  form.txtCode.UpdateString(row, "  Loop ");
+  EXPECT_EQ(form.txtCode.List(row), "  Loop ");
+  EXPECT_THAT(ChangedFiles(), ElementsAre("modFormat.bas"));
+  EXPECT_EQ(File("modFormat.bas"), Edited("modFormat.bas", "    Loop\r\n", "  Loop\r\n"));
+}
+
 TEST_F(ReplaceLine, BehindATwinOfTheLineTheRightOneIsReplaced) {
   OpenAnew(
       {Bas("modTwins", {"Sub Main()", "If a Then", "  Beep", "End If", "If b Then", "  Beep", "End If", "End Sub"})});
