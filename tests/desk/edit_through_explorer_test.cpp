@@ -1,6 +1,7 @@
 // What the explorer changes is in the code pane at once, and each act of the user there is one step of its Undo.
 #include <QApplication>
 #include <QDockWidget>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -153,6 +154,21 @@ TEST_F(EditThroughExplorer, ClearingTheImmediateWindowEmptiesItAndNothingElse) {
   EXPECT_EQ(immediate->toPlainText(), QString());
   EXPECT_EQ(form_->txtFind.Text(), "mod");
   EXPECT_EQ(Text(), before_);
+}
+
+TEST_F(EditThroughExplorer, TheToolbarOpensAsAMenu) {
+  int entries = 0;
+  QTimer::singleShot(0, [&] {
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_TRUE(menu);
+    for (QAction* action : menu->actions()) {
+      if (!action->isSeparator()) ++entries;
+      if (action->text() == "Clear Immediate window") action->trigger();
+    }
+    menu->close();
+  });
+  Act([&] { form_->UserKeyDown('T', forms::vbCtrlMask); });
+  EXPECT_EQ(entries, 20);
 }
 
 TEST_F(EditThroughExplorer, WhatTheUserTypesBetweenTwoChangesOfOneActIsAStepOfItsOwn) {

@@ -55,11 +55,9 @@ TEST_F(RewriteLines, UncommentedTheFileIsAsItWas) {
   Show("modFormat", "Public Function ParseBin");
   Select({"bin.Shelf = numbers", "bin.Place = numbers"});
   Choose(ListEntry::mnuComnt);
-  Select({"bin.Shelf = numbers", "bin.Place = numbers"});
-  for (const char* line : {"bin.Shelf = numbers", "bin.Place = numbers"}) {
-    const long row = RowOf(CodeRows(), line) + 1;
-    if (!form.txtCode.IsSelected(row)) Select({line});
-  }
+  EXPECT_THAT(ChangedFiles(), ElementsAre("modFormat.bas"));
+  for (const char* line : {"bin.Shelf = numbers", "bin.Place = numbers"})
+    if (!form.txtCode.IsSelected(RowOf(CodeRows(), line) + 1)) Select({line});
   Choose(ListEntry::mnuUncomnt);
   EXPECT_THAT(ChangedFiles(), IsEmpty());
 }
