@@ -11,6 +11,7 @@
 #include "cli/plain_services.h"
 #include "cli/run_script.h"
 #include "cli/script_command.h"
+#include "cli/search_command.h"
 #include "cli/shown_path.h"
 #include "cli/view_command.h"
 #include "environment/disk_files.h"
@@ -22,7 +23,7 @@ namespace corvane::cli {
 
 namespace {
 
-enum Status : int { kDone = 0, kInputProblem = 1, kWrongUsage = 2 };
+enum Status : int { kDone = 0, kInputProblem = 1, kNothingFound = 1, kWrongUsage = 2 };
 
 // What a command is given: streams, files, and the code page chosen for all of them.
 struct Command {
@@ -101,6 +102,7 @@ class CommandLine {
     app_.require_subcommand(0, 1);
     DefineDesk();
     DefineList();
+    DefineSearch();
     DefineView();
     DefineCheck();
     DefineFormat();
@@ -167,6 +169,28 @@ class CommandLine {
     AddWord(list, "--kind", list_.filter.kind, KindWords());
     AddWord(list, "--visibility", list_.filter.visibility, VisibilityWords());
     list->add_option("--filter", filter_, "only procedures whose row holds this text");
+  }
+
+  void DefineSearch() {
+    CLI::App* search = DefineOnProject("search", "lines that hold a text, or properties that do", [this] {
+      bool any = false;
+      const int status = WithProject(command_, path_, [&](auto& environment) {
+        search_.search.text = runtime::AnsiCodePage().FromUtf8(sought_);
+        search_.module = runtime::AnsiCodePage().FromUtf8(module_);
+        any = RunSearchCommand(environment, search_, command_.out);
+        TellOtherProjects(environment, path_, command_.errors);
+      });
+      return status == kDone && !any ? kNothingFound : status;
+    });
+    search->add_option("TEXT", sought_, "in any case; \"project title\" finds the lines marked as favourites")
+        ->required()
+        ->check(CLI::Validator([](const std::string& text) { return text.empty() ? "nothing is sought" : ""; }, ""));
+    search->add_flag("--whole", search_.search.wholeWord, "whole words; the text is a pattern then: ? * # [list]");
+    search->add_flag("--subs", search_.search.headersOnly, "only headers of procedures and events");
+    search->add_flag("--comments", search_.search.withComments, "lines that are comments, too");
+    search->add_option("--module", module_, "only in the component of this name");
+    search->add_flag("--properties", search_.properties,
+                     "in the properties of designers: component, control, property, value");
   }
 
   void DefineView() {
@@ -269,10 +293,11 @@ class CommandLine {
   Command command_;
   CLI::App app_{"Corvane, a project explorer for Visual Basic 6"};
   DeskOptions desk_;
+  SearchOptions search_;
   ListOptions list_;
   FormatOptions format_;
   ScriptOptions script_;
-  std::string path_, filter_, mode_, messages_, fold_;
+  std::string path_, filter_, sought_, module_, mode_, messages_, fold_;
   bool html_ = false, check_ = false;
   int role_ = 0;
   std::function<int()> run_;

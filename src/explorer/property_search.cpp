@@ -9,7 +9,6 @@
 namespace corvane::explorer {
 
 using namespace runtime;
-using host::ComponentType;
 using host::Ref;
 
 namespace {
@@ -17,10 +16,6 @@ namespace {
 constexpr char kAsk[] = "Type SubString for Searching in Properties";
 constexpr char kNothingFound[] = "Components Properties are not found.";
 constexpr long kShortestText = 2;
-
-bool HasDesigner(ComponentType type) {
-  return type != ComponentType::StdModule && type != ComponentType::ClassModule;
-}
 
 std::string RowOfHit(const PropertyHit& hit) {
   const std::string value = "/+\\" + hit.property + " = " + hit.value + "/-\\";

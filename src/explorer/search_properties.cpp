@@ -56,6 +56,10 @@ std::string ValueOf(host::Property& property, const std::string& name) {
 
 }  // namespace
 
+bool HasDesigner(host::ComponentType type) {
+  return type != host::ComponentType::StdModule && type != host::ComponentType::ClassModule;
+}
+
 PropertySearch::PropertySearch(const std::string& target, std::function<bool()> goesOn, std::function<void()> yield)
     : target_(UCase(target)), goesOn_(std::move(goesOn)), yield_(std::move(yield)) {}
 

@@ -8,6 +8,9 @@
 
 namespace corvane::explorer {
 
+// Whether components of this kind have a designer that is searched.
+bool HasDesigner(host::ComponentType type);
+
 struct PropertyHit {
   std::string control;  // empty: the component itself
   std::string property, value;

@@ -287,6 +287,27 @@ TEST(CommandLine, AWordThatIsNotOfferedIsRefusedWithThoseThatAre) {
   EXPECT_THAT(visibility.errors, StartsWith("--visibility: \"1\" is none of all, public, private, static\n"));
 }
 
+TEST(CommandLine, SearchTakesItsOptionsAndEndsWithOneWhereNothingIsFound) {
+  const Ended hits = RunCorvane({"search", kProject, "TOTAL", "--subs", "--whole", "--module", "clsOrder"});
+  EXPECT_EQ(hits.out, "clsOrder\t97\tPublic Property Get Total() As Currency\n");
+  EXPECT_EQ(hits.status, 0);
+  const Ended comments = RunCorvane({"search", kProject, "articles, bins", "--comments"});
+  EXPECT_THAT(comments.out, StartsWith("modMain\t"));
+  const Ended properties = RunCorvane({"search", kProject, "frmorders", "--properties"});
+  EXPECT_THAT(properties.out, HasSubstr("frmOrders\t\tName\tfrmOrders\n"));
+  const Ended none = RunCorvane({"search", kProject, "articles, bins"});
+  EXPECT_EQ(none.out, "");
+  EXPECT_EQ(none.status, 1);
+}
+
+TEST(CommandLine, SearchWantsATextAndAModuleThatIsThere) {
+  EXPECT_EQ(RunCorvane({"search", kProject, ""}).status, 2);
+  EXPECT_EQ(RunCorvane({"search", kProject}).status, 2);
+  const Ended gone = RunCorvane({"search", kProject, "total", "--module", "modGone"});
+  EXPECT_THAT(gone.errors, HasSubstr("no component is named modGone"));
+  EXPECT_EQ(gone.status, 1);
+}
+
 TEST(CommandLine, ListFiltersProceduresByVisibility) {
   const size_t all = RunCorvane({"list", kProject, "--procedures", "--visibility", "all"}).OutLines().size();
   EXPECT_THAT(RunCorvane({"list", kProject, "--procedures"}).OutLines(), SizeIs(all));
