@@ -155,6 +155,7 @@ void MainWindow::RaiseProblems() {
 
 void MainWindow::ShowProject() {
   tree_->FillAgain();
+  ShowWindowTitles();
   ShowProblems();
   problem_dock_->hide();
   if (problems_->topLevelItemCount() > 0) RaiseProblems();

@@ -108,6 +108,7 @@ class MainWindow : public QMainWindow, public environment::Observer {
   QAction* NewControlAction(const environment::BarControl& control, QObject* owner);
   void UpdateCommands();
   void ShowTitle();
+  void ShowWindowTitles();
   void ShowStatus();
   void ShowProperties();
   void ShowProblems();
@@ -115,6 +116,7 @@ class MainWindow : public QMainWindow, public environment::Observer {
   void FollowProblems();
   void WorkOn(const std::shared_ptr<environment::Project>& project);
   void ShowSelectedComponent(const std::shared_ptr<environment::Module>& module);
+  QString TitleOf(environment::Module& module) const;
   QMdiSubWindow* Show(QWidget& inside, const QString& title, const QString& icon);
   std::shared_ptr<environment::Module> Shared(environment::Module& module) const;
   std::string AskForFile(environment::Module& module);  // a path; empty: none was chosen

@@ -2,6 +2,7 @@
 #include <QFileDialog>
 #include <QScopedValueRollback>
 #include <QStatusBar>
+#include <set>
 
 #include "desk/ansi_text.h"
 #include "desk/bulleted.h"
@@ -75,6 +76,9 @@ std::vector<std::string> MainWindow::UnsavedFiles() const {
       if (module->IsDirty()) files.push_back(module->Path().empty() ? module->Name() : Shown(module->Path()));
     if (project->IsDirty()) files.push_back(Shown(project->FileName()));
   }
+  // Projects may share a file: it is named once.
+  std::set<std::string> named;
+  std::erase_if(files, [&](const std::string& file) { return !named.insert(file).second; });
   return files;
 }
 

@@ -58,6 +58,13 @@ std::shared_ptr<Module> MainWindow::ActiveModule() const {
   return nullptr;
 }
 
+// Two projects may have a component of one name, or share one.
+QString MainWindow::TitleOf(Module& module) const {
+  const auto project = module.ProjectOf();
+  const bool is_one_of_many = project && environment_->Projects().size() > 1;
+  return (is_one_of_many ? ToLabel(project->Name()) + " - " : QString()) + ToLabel(module.Name());
+}
+
 QMdiSubWindow* MainWindow::Show(QWidget& inside, const QString& title, const QString& icon) {
   inside.setWindowTitle(title);
   QMdiSubWindow* frame = area_->addSubWindow(&inside);
@@ -88,7 +95,7 @@ CodePane* MainWindow::OpenCode(const std::shared_ptr<Module>& module) {
     });
     for (const auto& available : {&QPlainTextEdit::undoAvailable, &QPlainTextEdit::redoAvailable})
       ConnectAct(&pane->Editor(), available, this, &MainWindow::UpdateCommands);
-    Show(*pane, ToLabel(module->Name()) + tr(" (Code)"), IconNameOf(module->Type()));
+    Show(*pane, TitleOf(*module) + tr(" (Code)"), IconNameOf(module->Type()));
     pane->SelectionSet();
   }
   module->UserActivatePane();
@@ -119,7 +126,7 @@ DesignerWindow* MainWindow::OpenDesigner(const std::shared_ptr<Module>& module) 
     ConnectAct(&canvas, &DesignerCanvas::CodeWanted, this, [this, module](const QString& object) {
       if (CodePane* pane = OpenCode(module)) pane->GoToObject(FromLabel(object));
     });
-    Show(*designer, ToLabel(module->Name()), IconNameOf(module->Type()));
+    Show(*designer, TitleOf(*module), IconNameOf(module->Type()));
   }
   module->UserOpenDesigner(true);
   ShowSelectedComponent(module);
@@ -190,6 +197,11 @@ void MainWindow::ModuleReadAgain(Module& module) {
   UpdateCommands();
 }
 
+void MainWindow::ShowWindowTitles() {
+  for (CodePane* pane : panes_) pane->setWindowTitle(TitleOf(*pane->ModuleOf()) + tr(" (Code)"));
+  for (DesignerWindow* designer : designers_) designer->setWindowTitle(TitleOf(*designer->ModuleOf()));
+}
+
 void MainWindow::ComponentsChanged() {
   tree_->FillAgain();
   std::set<const Module*> present;
@@ -201,8 +213,7 @@ void MainWindow::ComponentsChanged() {
   };
   close_lost(panes_);
   close_lost(designers_);
-  for (CodePane* pane : panes_) pane->setWindowTitle(ToLabel(pane->ModuleOf()->Name()) + tr(" (Code)"));
-  for (DesignerWindow* designer : designers_) designer->setWindowTitle(ToLabel(designer->ModuleOf()->Name()));
+  ShowWindowTitles();
   ShowTitle();
   ShowProperties();
   UpdateCommands();

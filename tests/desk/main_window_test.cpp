@@ -415,6 +415,22 @@ TEST_F(MainWindowTest, TheProjectOfWhatIsChosenInTheTreeOrShownInFrontIsTheActiv
   EXPECT_EQ(window_->windowTitle(), "Stock[*] - Corvane");
 }
 
+TEST_F(MainWindowTest, AWindowOfOneOfSeveralProjectsNamesItsProjectAndASharedFileIsAskedAboutOnce) {
+  EXPECT_EQ(window_->OpenCode(Module("modStock"))->windowTitle(), "modStock (Code)");
+  files_.Put("C:\\Work\\Odd.vbp", "Type=Exe\r\nModule=modStock; modStock.bas\r\nName=\"Odd\"\r\n");
+  environment_->Open("C:\\Work\\Odd.vbp");
+  window_->ShowProject();
+  const auto shared = environment_->Projects()[1]->Modules()[0];
+  EXPECT_EQ(window_->OpenCode(shared)->windowTitle(), "Odd - modStock (Code)");
+  EXPECT_EQ(window_->PaneOf(*Module("modStock"))->windowTitle(), "Stock - modStock (Code)");
+  EXPECT_EQ(window_->OpenDesigner(Module("frmStock"))->windowTitle(), "Stock - frmStock");
+  Module("modStock")->CodeModule()->InsertLines(1, "' one");
+  shared->CodeModule()->InsertLines(1, "' two");
+  prompts_.answers = {host::vbCancel};
+  EXPECT_FALSE(window_->MayLeave());
+  EXPECT_EQ(prompts_.messages.at(0).prompt, "Save the changes to these files?\r\n\r\n    C:\\Work\\modStock.bas");
+}
+
 TEST_F(MainWindowTest, FindProposesWhatIsSelectedInOneLine) {
   CodePane* pane = window_->OpenCode(Module("modStock"));
   Settle();
