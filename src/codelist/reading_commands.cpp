@@ -148,7 +148,9 @@ void ReadingCommands::RewriteLines(const std::function<std::optional<std::string
   {
     Raised guard(list.formatting);
     Hourglass pointer(list.services.Screen);
-    for (long line = 1; line <= list.store.Count(); ++line)
+    // The container may yield: another text that comes then was not meant.
+    const long clears = list.clears;
+    for (long line = 1; line <= list.store.Count() && clears == list.clears; ++line)
       runtime::PassOverErrors([&] {
         if (const auto text = rewritten(line)) list.UpdateString(line, *text);
       });

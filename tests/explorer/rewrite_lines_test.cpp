@@ -99,6 +99,19 @@ TEST_F(RewriteLines, FormattingTheWholeSampleChangesLeadingBlanksAloneAndTwiceNo
   EXPECT_THAT(Messages(), IsEmpty());
 }
 
+TEST_F(RewriteLines, AProcedureChosenMeanwhileIsNotFormatted) {
+  OpenAnew({Bas("modMain", {"Option Explicit", "Public a", "Public b", "Sub One()", "If a Then", "Beep", "End If",
+                            "End Sub", "Sub Two()", "If a Then", "Beep", "End If", "End Sub"})});
+  Show("modMain", "Sub One()");
+  services.loop.on_do_events = [this] {
+    services.loop.on_do_events = nullptr;
+    ChooseProcedure("Sub Two()");
+  };
+  Choose(ListEntry::mnuFormat);
+  ASSERT_EQ(form.txtCode.List(1), "Sub Two()");
+  EXPECT_EQ(Module("modMain").Lines(9, 5), "Sub Two()\r\nIf a Then\r\nBeep\r\nEnd If\r\nEnd Sub");
+}
+
 TEST_F(RewriteLines, ALineThatChangedMeanwhileIsLeftAlone) {
   Show("modFormat", "Public Function ParseBin");
   host::CodeModule& module = Module("modFormat");
