@@ -25,6 +25,7 @@ class CodePoints {
 
   long Count() const { return static_cast<long>(points_.size()); }
   const CodePoint& At(long index) const { return points_[static_cast<size_t>(index)]; }  // from 0
+  const CodePoint* Current() const { return IsPastNewest() ? nullptr : &At(index_); }    // null past the newest
   // What a menu shows of it: at most 95 characters, without the tail.
   std::string Caption(long index) const;
 

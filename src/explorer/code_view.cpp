@@ -94,7 +94,7 @@ bool frmAddIn::ShowProcedure(host::CodeModule& module, long line) {
   if (body > line) return false;
   if (!Holds(UCase(module.Lines(body, 1)), UCase(name)) && Len(module.Lines(body + 1, 1)) < 2) ++body;
   textOffset = line - body + 1;
-  if (navigating) savedPosition = points.At(points.Index()).row;
+  if (const CodePoint* point = navigating ? points.Current() : nullptr) savedPosition = point->row;
   if (textOffset == 0) {
     --body;
     textOffset = 1;

@@ -65,6 +65,7 @@ void frmAddIn::ResetHistoryButtons() {
 void frmAddIn::ForgetHistory() {
   points.Clear();
   nextPoint = {};
+  navigating = false;  // a step that is under way ends
   tlbr.SetButtonMenus(tlbr.PositionOf("History"), {});
   ShowHistoryStates();
 }
@@ -134,14 +135,14 @@ void frmAddIn::ShowPoint() {
   nextPoint = {};
   ShowHistoryStates();
   DoEvents();
-  lbxProc_Click();
+  if (navigating) lbxProc_Click();
 }
 
 // Selects the row of the point, which is listed again where it is not listed any more.
 void frmAddIn::RestoreHistoryPoint() {
-  if (optCurMod.Value()) FillComponentList();
-  if (points.Index() >= points.Count()) return;
-  const CodePoint point = points.At(points.Index());
+  if (points.Current() && optCurMod.Value()) FillComponentList();
+  if (!points.Current()) return;
+  const CodePoint point = *points.Current();
   const std::string text = RowOfPoint(point.text);
   SetWhile filling(busy);
   long row = ListedRow(text, point.line);
@@ -170,7 +171,6 @@ long frmAddIn::ListedRow(const std::string& text, long line) const {
 
 void frmAddIn::txtCode_CodeLostFocus(long row) {
   if (row < 0) return RecordCurrentPoint();
-  if (nextPoint.row < 1) return;
   nextPoint.row = row;
   PushHistoryPoint();
 }

@@ -129,6 +129,7 @@ void frmAddIn::Form_Activate() {
 void frmAddIn::Form_Unload() {
   activated = false;
   loadedOnce = false;
+  navigating = false;
   ForgetChoices();
 }
 

@@ -159,6 +159,46 @@ TEST_F(GoProc, AWordThatIsNowhereEndsWithoutAMessage) {
   EXPECT_THAT(toolkit.Faults(), IsEmpty());
 }
 
+TEST_F(GoProc, ClassesAreNotLookedThroughForABareWord) {
+  OpenWindow(kShop);
+  Read("frmMain", "Form_Load");
+  form.txtCode.GoProc("Fill");
+  EXPECT_EQ(View(), "frmMain Private Sub Form_Load()");
+}
+
+TEST_F(GoProc, AVariableOfAnotherClassIsNotTheObject) {
+  OpenWindow(kShop);
+  Read("clsTimer", "Helper()");
+  form.txtCode.GoProc("MSTORE.Fill");
+  EXPECT_EQ(View(), "clsTimer Public Sub Helper()");
+}
+
+TEST_F(GoProc, WithoutAComponentInViewTheRowsAreLookedThrough) {
+  OpenWindow(kShop);
+  form.txtCode.SetStrPos(1);
+  ASSERT_EQ(form.GoToCode(), 0) << "on a title";
+  form.txtCode.GoProc("Main");
+  EXPECT_EQ(View(), "modMain Public Sub Main()");
+  form.tlbr.UserButtonClick(form.tlbr.PositionOf("Refresh"));
+  form.txtCode.SetStrPos(1);
+  const long rows = form.lbxProc->ListCount();
+  form.txtCode.GoProc("Nowhere");
+  EXPECT_EQ(form.lbxProc->ListCount(), rows);
+}
+
+TEST_F(GoProc, ThePlaceThatIsLeftIsRememberedBeforeTheYield) {
+  OpenWindow(kShop);
+  Read("frmMain", "Form_Load");
+  form.txtCode.CodeLostFocus(-1);
+  long remembered = -1;
+  services.loop.on_do_events = [&] {
+    if (remembered < 0) remembered = form.points.Count();
+  };
+  form.txtCode.GoProc("Helper");
+  services.loop.on_do_events = nullptr;
+  EXPECT_EQ(remembered, 1);
+}
+
 TEST_F(GoProc, TheListBeforeItIsCopied) {
   OpenWindow(kShop);
   Read("frmMain", "Form_Load");

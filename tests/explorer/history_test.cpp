@@ -375,5 +375,54 @@ TEST_F(History, AMovedProcedureIsFoundAgain) {
   EXPECT_EQ(form.lbxProc->ItemData(form.lbxProc->ListIndex()), 12);
 }
 
+// What the user does in the yield of a step.
+class HistoryDuringAStep : public History {
+ protected:
+  void StepBack(const std::function<void()>& act) {
+    bool done = false;
+    services.loop.on_do_events = [&] {
+      if (!std::exchange(done, true)) act();
+    };
+    Key("Previous");
+    services.loop.on_do_events = nullptr;
+    EXPECT_TRUE(done);
+  }
+};
+
+TEST_F(HistoryDuringAStep, AnotherStepIsNotTaken) {
+  Visit("modMain", "Main()", 4);
+  Visit("modMain", "Done()", 2);
+  for (const char* key : {"Previous", "Next", "First", "Last"}) {
+    Show("frmMain", "Fill()");
+    StepBack([&] { Key(key); });
+    EXPECT_EQ(View(), "modMain Public Sub Done() 2") << key;
+  }
+  Show("frmMain", "Fill()");
+  StepBack([this] { Choose(static_cast<int>(Entries().size())); });
+  EXPECT_EQ(View(), "modMain Public Sub Done() 2");
+}
+
+TEST_F(HistoryDuringAStep, NothingIsPushed) {
+  Visit("modMain", "Main()", 4);
+  Show("frmMain", "Fill()");
+  StepBack([this] {
+    form.txtCode.CodeLostFocus(-2);
+    form.txtCode.CodeLostFocus(2);
+  });
+  EXPECT_EQ(form.points.Count(), 2);
+  EXPECT_EQ(form.points.Index(), 0);
+}
+
+TEST_F(HistoryDuringAStep, TheWindowMayBeClosed) {
+  Visit("modMain", "Main()", 4);
+  Show("frmMain", "Fill()");
+  StepBack([this] {
+    form.Unload();
+    OpenWindow();
+  });
+  EXPECT_THAT(toolkit.Faults(), IsEmpty());
+  EXPECT_THAT(Enabled(), IsEmpty());
+}
+
 }  // namespace
 }  // namespace corvane::tests

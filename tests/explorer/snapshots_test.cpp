@@ -242,5 +242,75 @@ TEST_F(Snapshots, AreForgottenWithTheWindow) {
   EXPECT_EQ(form.lstSave.ListCount(), 0);
 }
 
+TEST_F(Snapshots, FromTheCurrentCodeTheyLeadIntoTheProject) {
+  OpenParts(1, 2);
+  Caret("clsPart4", 4);
+  form.optCurMod.UserClick();
+  ASSERT_TRUE(form.optCurMod.Value());
+  form.cmdPrev.Click();
+  EXPECT_EQ(Listed(), Part(2));
+  EXPECT_TRUE(form.optProj.Value());
+  ChooseComponent("Project Globals");
+  EXPECT_THAT(Components(), Contains(Part(8)));
+}
+
+TEST_F(Snapshots, AListOfTheCurrentCodeOpensItsComponentAgain) {
+  Caret("clsPart4", 4);
+  form.optCurMod.UserClick();
+  form.optProj.UserClick();
+  form.cmdPrev.Click();
+  EXPECT_EQ(Listed(), Part(4));
+  EXPECT_EQ(form.lbxComp->ItemData(form.lbxComp->ListIndex()), 4);
+}
+
+TEST_F(Snapshots, NextBehindAListOfTheProjectListsItAgain) {
+  OpenParts(1, 2);
+  form.cmdPrev.Click();
+  form.cmdNext.Click();
+  ChooseComponent("Project Globals");
+  form.cmdNext.Click();
+  EXPECT_EQ(Listed(), " Project Globals");
+  form.cmdPrev.Click();
+  EXPECT_EQ(Listed(), Part(2));
+}
+
+TEST_F(Snapshots, WhatWasPendingIsRememberedBeforeAListOfResults) {
+  ChooseComponent(Part(1));
+  form.txtCode.Clear();
+  form.lblSub.SetCaption(explorer::kSearchResult);
+  form.txtCode.AddItem("ModuleName = clsPart1");
+  ChooseComponent(Part(2));
+  ChooseProcedure("Second2");
+  form.txtCode.DblClick();
+  form.cmdPrev.Click();
+  ASSERT_EQ(form.points.Count(), 1);
+  EXPECT_EQ(form.points.Caption(0), "clsPart2:    Public Sub Second2()");
+}
+
+TEST_F(Snapshots, AListingDuringTheYieldHasItsWay) {
+  OpenParts(1, 2);
+  bool done = false;
+  services.loop.on_do_events = [&] {
+    if (!std::exchange(done, true)) form.axModules.Click();
+  };
+  form.cmdPrev.Click();
+  services.loop.on_do_events = nullptr;
+  EXPECT_EQ(Listed(), "modMain");
+  EXPECT_THAT(CodeRows(), ElementsAre("Public Total As Long"));
+}
+
+TEST_F(Snapshots, AreNotTouchedWhileAListIsFilled) {
+  OpenParts(1, 2);
+  bool done = false;
+  services.loop.on_do_events = [&] {
+    if (std::exchange(done, true)) return;
+    form.cmdPrev.Click();
+    form.cmdNext.Click();
+  };
+  ChooseComponent(Part(5));
+  services.loop.on_do_events = nullptr;
+  EXPECT_EQ(Listed(), Part(5));
+}
+
 }  // namespace
 }  // namespace corvane::tests

@@ -123,7 +123,7 @@ TEST_F(SoughtWords, TypesOfVariables) {
 }
 
 TEST_F(SoughtWords, OnlyTheFirstPlaceTellsAType) {
-  EXPECT_EQ(TypeIn({"Public a ' Store As clsStore", "Public Store As clsStore"}), "");
+  EXPECT_EQ(TypeIn({"Public Price As Currency ' Store As clsStore", "Public Store As clsStore"}), "");
   EXPECT_EQ(TypeIn({"Public a", "", "Sub Main()", "Dim Store As clsStore", "End Sub"}), "");
   EXPECT_EQ(TypeIn({"Public a"}), "");
 }
