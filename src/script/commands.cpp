@@ -125,7 +125,7 @@ constexpr CommandRow kCommands[] = {
     {"MOUSEPOINTER", "wait", "The wait cursor, or the normal one.", MousePointer},
     {"DELETECODE", "component, first, count", "Deletes lines of code.",
      [](CommandUse& use) { use.around.changes.DeleteCode(use.engine.errors, use.value); }},
-    {"WRITE", "[component], [line]", "Inserts the result text into the code.",
+    {"WRITE", "component, [line]", "Inserts the result text into the code.",
      [](CommandUse& use) {
        use.around.changes.WriteResult(use.engine.errors, use.value, State(use).resultText.Get());
      }},

@@ -13,6 +13,8 @@ class CodeRun {
  public:
   // Each run of a function inside an expression takes a part of the stack, which is 1 MB in the environment.
   static constexpr int kDeepestRun = 200;
+  // A call of a SUB takes no stack, but an endless recursion must end.
+  static constexpr int kDeepestCall = 4000;
   // Statements over all runs: those that are each too short to yield may follow one another without end.
   static constexpr long kMostUnyielded = 15'000;
   static constexpr uint32_t kLongestUnyielded = 100;  // milliseconds

@@ -9,8 +9,6 @@ namespace {
 
 constexpr char kCallingSubError[] = "Calling Sub Error.";
 constexpr int kRunsOut = -1;
-// A call takes no stack, but an endless recursion must end.
-constexpr int kDeepestCall = 4000;
 
 std::string BetweenBrackets(std::string_view text, size_t close) {
   const size_t open = text.find('(');
