@@ -406,8 +406,9 @@ TEST_F(HistoryDuringAStep, NothingIsPushed) {
   Visit("modMain", "Main()", 4);
   Show("frmMain", "Fill()");
   StepBack([this] {
-    form.txtCode.CodeLostFocus(-2);
-    form.txtCode.CodeLostFocus(2);
+    form.txtCode.SetStrPos(3);
+    form.txtCode.CodeLostFocus(-3);
+    form.txtCode.CodeLostFocus(3);
   });
   EXPECT_EQ(form.points.Count(), 2);
   EXPECT_EQ(form.points.Index(), 0);

@@ -291,25 +291,32 @@ TEST_F(Snapshots, AListingDuringTheYieldHasItsWay) {
   OpenParts(1, 2);
   bool done = false;
   services.loop.on_do_events = [&] {
-    if (!std::exchange(done, true)) form.axModules.Click();
+    if (std::exchange(done, true)) return;
+    ChooseComponent(Part(3));
+    ChooseProcedure("Second3");
+    form.txtCode.SetStrPos(2);
   };
   form.cmdPrev.Click();
   services.loop.on_do_events = nullptr;
-  EXPECT_EQ(Listed(), "modMain");
-  EXPECT_THAT(CodeRows(), ElementsAre("Public Total As Long"));
+  EXPECT_EQ(Listed(), Part(3));
+  EXPECT_EQ(form.lblSub.Caption(), "Public Sub Second3()");
+  EXPECT_EQ(form.txtCode.ListIndex(), 2) << "nothing is loaded again";
 }
 
 TEST_F(Snapshots, AreNotTouchedWhileAListIsFilled) {
   OpenParts(1, 2);
-  bool done = false;
-  services.loop.on_do_events = [&] {
-    if (std::exchange(done, true)) return;
-    form.cmdPrev.Click();
-    form.cmdNext.Click();
-  };
-  ChooseComponent(Part(5));
-  services.loop.on_do_events = nullptr;
-  EXPECT_EQ(Listed(), Part(5));
+  for (codelist::CvButton* key : {&form.cmdPrev, &form.cmdNext}) {
+    bool done = false;
+    services.loop.on_do_events = [&] {
+      if (!std::exchange(done, true)) key->Click();
+    };
+    ChooseComponent(Part(5));
+    services.loop.on_do_events = nullptr;
+    EXPECT_TRUE(done);
+    EXPECT_EQ(Listed(), Part(5));
+    EXPECT_THAT(Procedures(), Contains("Public Sub First5()"));
+    ChooseComponent(Part(2));
+  }
 }
 
 }  // namespace
