@@ -25,37 +25,81 @@ bool IsIn(string_view set, char c) {
   return set.find(c) != string_view::npos;
 }
 
-// What the statements before a statement leave behind, as the translator's counters have it.
+bool OpensLoop(const SourceStatement& source) {
+  return BeginsWith(source.upper, "WHILE ") || (BeginsWith(source.upper, "FOR ") && ReadFor(source.statement.text));
+}
+
+bool ClosesLoop(const SourceStatement& source) {
+  for (const char* closer : {"NEXT ", "NEXT:", "WEND:", "LOOP:"})
+    if (BeginsWith(source.upper, closer)) return true;
+  return false;
+}
+
+bool OpensIf(const SourceStatement& source) {
+  return !source.is_one_line_if && (BeginsWith(source.upper, "IF ") || BeginsWith(source.upper, "IF("));
+}
+
+// The names of a DIM, without brackets.
+std::vector<std::string> NamesOf(const SourceStatement& source) {
+  std::vector<std::string> names;
+  if (!BeginsWith(source.upper, "DIM ")) return names;
+  std::string list = source.upper.substr(4);
+  for (char& c : list)
+    if (IsIn(":() ", c)) c = ',';
+  for (size_t end; !list.empty(); list.erase(0, end == std::string::npos ? end : end + 1)) {
+    end = list.find(',');
+    if (end > 0) names.push_back(list.substr(0, end));
+  }
+  return names;
+}
+
+// What the statements before a statement leave behind, as the translator's counters have it, and what stands anywhere.
 class Surroundings {
  public:
   explicit Surroundings(const std::vector<SourceStatement>& all) {
-    for (const SourceStatement& source : all)
+    int open = 0;
+    for (const SourceStatement& source : all) {
       if (BeginsWith(source.upper, "GOTO ")) labels_.insert(source.upper.substr(5));
+      for (std::string& name : NamesOf(source)) names_.insert(std::move(name));
+      if (OpensLoop(source) || OpensIf(source)) ++open;
+      if (ClosesLoop(source) || BeginsWith(source.upper, "END IF")) open = std::max(open - 1, 0);
+      open_behind_.resize(source.piece + 1);
+      open_behind_.back() = open > 0;
+    }
   }
 
   void Pass(const SourceStatement& source) {
     const string_view text = source.upper;
-    opened_twin_ = false;
-    if (BeginsWith(text, "WHILE ") || (BeginsWith(text, "FOR ") && ReadFor(source.statement.text))) {
-      if (++depth_ == 1) ++loop_;
-      opened_twin_ = !heads_.insert({loop_, depth_}).second;
+    opened_twin_ = closed_twin_ = false;
+    if (OpensLoop(source)) {
+      openers_.push_back(source.piece);
+      if (openers_.size() == 1) ++loop_;
+      opened_twin_ = !heads_.insert({loop_, openers_.size()}).second;
     }
-    for (const char* closer : {"NEXT ", "NEXT:", "WEND:", "LOOP:"})
-      if (BeginsWith(text, closer) && depth_ > 0) --depth_;
+    if (ClosesLoop(source) && !openers_.empty()) {
+      if (openers_.back() != source.piece) closed_twin_ = !closing_.insert(source.piece).second;
+      openers_.pop_back();
+    }
     if (BeginsWith(text, "SUB ") || BeginsWith(text, "FUNCTION ")) in_sub_ = true;
     if (BeginsWith(text, "END SUB") || BeginsWith(text, "END FUNCTION")) in_sub_ = false;
   }
 
-  bool InLoop() const { return depth_ > 0; }
+  bool InLoop() const { return !openers_.empty(); }
   bool InSub() const { return in_sub_; }
   bool OpenedTwin() const { return opened_twin_; }  // a loop whose label another one has already
+  bool ClosedTwin() const { return closed_twin_; }  // a loop over text, where its piece has closed another one
+  bool StaysOpen(size_t piece) const { return open_behind_[piece]; }
   bool IsSought(const std::string& label) const { return labels_.contains(label); }
+  bool IsName(const std::string& name) const { return names_.contains(name); }
 
  private:
-  std::set<std::string> labels_;
-  std::set<std::pair<int, int>> heads_;
-  int depth_ = 0, loop_ = 0;
-  bool opened_twin_ = false, in_sub_ = false;
+  std::set<std::string> labels_, names_;
+  std::set<std::pair<int, size_t>> heads_;
+  std::vector<size_t> openers_;    // the pieces of the loops that are open
+  std::set<size_t> closing_;       // pieces that closed a loop over text
+  std::vector<bool> open_behind_;  // by piece: a loop or an IF
+  int loop_ = 0;
+  bool opened_twin_ = false, closed_twin_ = false, in_sub_ = false;
 };
 
 bool CountsDown(const SourceStatement& source, const Surroundings&) {
@@ -172,6 +216,22 @@ bool ComparesTexts(const SourceStatement& source, const Surroundings&) {
   return false;
 }
 
+bool IsTwinEnd(const SourceStatement&, const Surroundings& around) {
+  return around.ClosedTwin();
+}
+
+bool IsSubInOpenPiece(const SourceStatement& source, const Surroundings& around) {
+  return BeginsWithOneOf(source.upper, {"END SUB", "END FUNCTION"}) && around.StaysOpen(source.piece);
+}
+
+// An assignment to the end of a name, behind its "_", finds the name.
+bool HidesAnotherName(const SourceStatement& source, const Surroundings& around) {
+  for (const std::string& name : NamesOf(source))
+    for (size_t at = name.find('_'); at != std::string::npos; at = name.find('_', at + 1))
+      if (around.IsName(name.substr(at + 1))) return true;
+  return false;
+}
+
 bool IsArrayInLoop(const SourceStatement& source, const Surroundings& around) {
   return around.InLoop() && BeginsWith(source.upper, "DIM ") && Holds(source.upper, "()");
 }
@@ -219,6 +279,12 @@ constexpr OddRule kRules[] = {
      "STRCOMP(a,b)<0, or >0"},
     {IsArrayInLoop, "DIM of an array in a loop takes another of the twenty arrays at each pass and empties none",
      "DIM before the loop, ERASE of the array in it"},
+    {IsTwinEnd, "two loops over text that are closed in one piece of code never end",
+     "each end of a loop in a piece of its own"},
+    {IsSubInOpenPiece, "a SUB or FUNCTION in a piece of code that leaves an IF or a loop open reports an error",
+     "it in a piece of its own, before the others"},
+    {HidesAnotherName, "an assignment to what stands behind the \"_\" of this name sets this one",
+     "names without \"_\""},
     {IsArrayInSub, "DIM of an array in a SUB or FUNCTION takes another of the twenty arrays at each call",
      "DIM before the SUB, ERASE of the array in it"},
 };

@@ -131,7 +131,11 @@ class Collecting {
 
 std::vector<SourceStatement> SourceStatements(const std::vector<CodePiece>& pieces) {
   std::vector<SourceStatement> all;
-  for (const CodePiece& piece : pieces) Collecting(all).Piece(piece);
+  for (size_t number = 0; number < pieces.size(); ++number) {
+    const size_t first = all.size();
+    Collecting(all).Piece(pieces[number]);
+    for (size_t i = first; i < all.size(); ++i) all[i].piece = number;
+  }
   return all;
 }
 

@@ -16,6 +16,7 @@ struct SourceStatement {
   std::string upper;            // its text in upper case, double quotes in place of strings and literals; of a one-line
                                 // IF up to its THEN
   bool more_on_line = false;    // another statement stands behind its ":" in the same line
+  size_t piece = 0;             // number of the piece of code that it stands in
   bool is_one_line_if = false;  // the statement behind its THEN comes next
 };
 

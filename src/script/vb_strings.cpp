@@ -12,7 +12,8 @@ constexpr size_t kCutAtBlank = 55;  // columns of a piece from which a blank or 
 constexpr size_t kCutAnyway = 66;
 constexpr size_t kLongestName = 16;
 
-// What is mended in the whole output, in this order.
+// What is mended in the whole output, in this order. The third row takes the "+" in front of what follows a name of a
+// text with it, so that such a name is joined well at the end of the text alone. Scripts know these results.
 constexpr struct {
   std::string_view found, replacement;
 } kTidying[] = {

@@ -193,6 +193,35 @@ TEST(ScriptCheck, ADimOfAnArrayInASub) {
                 ElementsAre(4));
 }
 
+TEST(ScriptCheck, TwoLoopsOverTextClosedInOnePiece) {
+  const auto lines = [](const std::string& ends) {
+    std::vector<long> found;
+    for (const OddPlace& place :
+         PlacesIn("CODE{\n<%for ii=1 to 2%>\na\n<%for jj=1 to 2%>\nb\n<%\n" + ends + "\n%>\n}\n"))
+      found.push_back(place.at.line);
+    return found;
+  };
+  EXPECT_THAT(lines("next\nnext"), ElementsAre(8));
+  EXPECT_THAT(lines("next\n%>\n<%\nnext"), IsEmpty());
+  EXPECT_THAT(lines("for kk=1 to 2\nnext\nnext\n%>\n<%\nnext"), IsEmpty());
+}
+
+TEST(ScriptCheck, ASubInAPieceThatLeavesALoopOpen) {
+  const std::string sub = "CODE{\n<%\nsub aa()\nend sub\n";
+  for (const char* open : {"for ii=1 to 2\n%>\na\n<%\nnext", "if 1=1 then\n%>\na\n<%\nend if"}) {
+    const auto places = PlacesIn(sub + open + "\n%>\n}\n");
+    ASSERT_EQ(places.size(), 1u) << open;
+    EXPECT_EQ(places[0].at.line, 4);
+  }
+  EXPECT_THAT(PlacesIn(sub + "if 1=1 then\nend if\nif 1=1 then =2\n%>\n<%\nfor ii=1 to 2\nnext\n%>\n}\n"), IsEmpty());
+}
+
+TEST(ScriptCheck, ANameThatEndsInAnother) {
+  EXPECT_THAT(OddLines("DIM first_name,text\nDIM name"), ElementsAre(2));
+  EXPECT_THAT(OddLines("DIM name\nDIM list_of_name()\nDIM a_b"), ElementsAre(3));
+  EXPECT_THAT(OddLines("DIM first_name,names"), IsEmpty());
+}
+
 TEST(ScriptCheck, AStepWithoutAValue) {
   for (const char* code : {"FOR ii=1 TO 3 STEP", "for ii=1 to 3 step "})
     EXPECT_THAT(OddThing(code), HasSubstr("never ends")) << code;
