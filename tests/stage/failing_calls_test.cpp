@@ -9,7 +9,7 @@ using testing::ElementsAreArray;
 using testing::IsEmpty;
 using Texts = std::vector<std::string>;
 
-enum class Told { Nothing, ItsText, NoControl };
+enum class Told { Nothing, ItsText, NoControl, NoDesigner };
 
 // The steps of a connection, by the call that ends each.
 struct Step {
@@ -45,6 +45,11 @@ std::vector<Told> ToldOf(const Texts& calls) {
   return told;
 }
 
+// Where the name of a collection's Item cannot be looked up, its default member is called.
+bool HasOtherWay(const Texts& calls, size_t at) {
+  return calls[at].ends_with(".GetIDsOfNames") && at + 1 < calls.size() && calls[at + 1].ends_with(".Item");
+}
+
 std::string DescriptionOf(HRESULT code) {
   return com::ErrorOf(code).Description();
 }
@@ -61,8 +66,9 @@ std::string TextOf(const std::string& call, const Failure& failure) {
 
 class FailingCalls : public FailingStory {
  protected:
-  // Tells the story once for each call that it makes.
-  void FailEachCall(const Failure& failure, const std::function<void()>& tell) {
+  enum class Which { All, InTheWindow };
+  // Tells the story once for each call that it makes, or for each that the user's acts in the open window make.
+  void FailEachCall(const Failure& failure, Which which, const std::function<void()>& tell) {
     tell();
     stage.ledger.ClearCalls();
     stage.ledger.keeps_order = true;
@@ -70,9 +76,12 @@ class FailingCalls : public FailingStory {
     stage.ledger.keeps_order = false;
     ASSERT_THAT(boxes.Take(), IsEmpty());
     const Texts calls = stage.ledger.order;
-    const std::vector<Told> told = ToldOf(calls);
+    std::vector<Told> told = ToldOf(calls);
+    for (size_t i = designer_calls_.first; i < designer_calls_.second; ++i)
+      if (!HasOtherWay(calls, i)) told[i] = Told::NoDesigner;
+    const auto [first, behind] = which == Which::All ? std::pair(size_t{0}, calls.size()) : in_window_;
     long failed = 0, boxes_shown = 0;
-    for (size_t i = 0; i < calls.size() && !HasFailure(); ++i) {
+    for (size_t i = first; i < behind && !HasFailure(); ++i) {
       stage.ledger.FailCall(static_cast<long>(i) + 1, failure);
       tell();
       const std::string call = stage.ledger.Failed();
@@ -80,22 +89,29 @@ class FailingCalls : public FailingStory {
       Texts expected;
       if (told[i] == Told::ItsText) expected = {TextOf(call, failure)};
       if (told[i] == Told::NoControl) expected = {"Object variable or With block variable not set"};
+      if (told[i] == Told::NoDesigner) expected = {kNoDesigner};
       boxes_shown += static_cast<long>(expected.size());
       EXPECT_THAT(boxes.Take(), ElementsAreArray(expected)) << call << ", call " << i + 1;
       ExpectClean(call);
     }
-    std::printf("%zu calls, %ld of them failed, %ld message boxes\n", calls.size(), failed, boxes_shown);
-    EXPECT_GT(failed, static_cast<long>(calls.size()) * 9 / 10)
+    std::printf("%zu calls, %ld of them failed, %ld message boxes\n", behind - first, failed, boxes_shown);
+    EXPECT_GT(failed, static_cast<long>(behind - first) * 9 / 10)
         << "some stories are shorter than the one without a failure";
   }
 };
 
 TEST_F(FailingCalls, EachOfAStoryFailsOnceWithAnError) {
-  FailEachCall(Failure::Error(1004, "The environment refused"), [this] { Tell(); });
+  FailEachCall(Failure::Error(1004, "The environment refused"), Which::All, [this] { Tell(); });
+}
+
+TEST_F(FailingCalls, EachOfTheActsInTheWindowFailsOnceWithAnError) {
+  FailEachCall(Failure::Error(1004, "The environment refused"), Which::InTheWindow, [this] { TellOfTheWindow(); });
+  for (const char* call : {"VBComponent.DesignerWindow", "Window.Visible", "Window.SetFocus", "CodePane.SetSelection"})
+    EXPECT_GT(stage.ledger.Calls(call), 0) << call;
 }
 
 TEST_F(FailingCalls, EachOfAConnectionFailsOnceWithABareCode) {
-  FailEachCall(Failure::Code(RPC_E_DISCONNECTED), [this] {
+  FailEachCall(Failure::Code(RPC_E_DISCONNECTED), Which::All, [this] {
     StillAlive();
     EXPECT_EQ(host.StartUp(), S_OK);
     EXPECT_EQ(host.ShutDown(), S_OK);
