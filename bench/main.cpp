@@ -48,6 +48,7 @@ constexpr Measurement kMeasurements[] = {
     {"search", bench::MeasureSearch, true},     {"memory", bench::MeasureMemory, true},
     {"painting", bench::MeasurePainting, true}, {"commands", bench::MeasureCommands, true},
     {"scripts", bench::MeasureScripts, false},  {"declaration", bench::MeasureDeclaration, true},
+    {"results", bench::MeasureResults, true},
 };
 
 bool IsMeasurement(std::string_view name) {

@@ -42,6 +42,9 @@ void MeasurePainting(const Setting& setting, Table& table);
 // The commands of a loaded list that walk over all its lines, on a window that nobody draws.
 void MeasureCommands(const Setting& setting, Table& table);
 
+// The hits of a search as rows of the explorer, and steps in long lists of them.
+void MeasureResults(const Setting& setting, Table& table);
+
 // The explorer's search of the whole project for a word that is nowhere.
 void MeasureDeclaration(const Setting& setting, Table& table);
 
