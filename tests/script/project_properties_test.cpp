@@ -39,6 +39,15 @@ TEST_F(ProjectProperties, ComponentsOfAnythingSkipsRelatedDocuments) {
   EXPECT_FALSE(runtime::Holds(Value("COMPONENTS()"), "notes"));
 }
 
+TEST_F(ProjectProperties, ComponentsOfOtherKindsHaveTheirWords) {
+  const std::string designer = "VERSION 5.00\r\nBegin {C0E45035-5775-11D0-B388-00A0C9055D8E} envData \r\nEnd\r\n",
+                    document = "VERSION 5.00\r\nBegin VB.UserDocument docMain \r\nEnd\r\n";
+  vbe->OpenFromTexts("", "Type=Exe\r\nDesigner=envData.dsr\r\nUserDocument=docMain.dob\r\nName=\"Other\"\r\n",
+                     {{"envData.dsr", designer + "Attribute VB_Name = \"envData\"\r\n"},
+                      {"docMain.dob", document + "Attribute VB_Name = \"docMain\"\r\n"}});
+  EXPECT_EQ(Value("COMPONENTS(\"x\")"), "ActiveXDesigner.envData|DocObject.docMain|");
+}
+
 TEST_F(ProjectProperties, ComponentsOfMeIsTheSelectedOne) {
   Select("modCsv");
   EXPECT_EQ(Value("COMPONENTS(Me)"), "StdModule.modCsv|");
