@@ -189,8 +189,9 @@ class DiskFiles : public host::Files {
     FlushFolder(native);
   }
 
+  // By the code page of now alone: whether a name is there in a code page tells which one it was written in.
   uint32_t Attributes(const std::string& path) override {
-    std::string native = PlaceOf(path);
+    std::string native = Resolve(path);
     struct stat info;
     if (native.empty() || ::stat(native.c_str(), &info) != 0) return host::kNoSuchFile;
     if (S_ISDIR(info.st_mode)) return host::kDirectory;

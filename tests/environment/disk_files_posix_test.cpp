@@ -261,6 +261,20 @@ TEST_F(DiskFilesTest, AModuleSavedUnderANameOfThisMachineIsListedInTheCodePage) 
   EXPECT_EQ(Entries(), 3u);
 }
 
+// What was read under the code page of before does not hide which one the names are in.
+TEST_F(DiskFilesTest, AProjectOfAnotherCodePageOpensAsOftenAsOneLikes) {
+  const std::string cyrillic = "\xD0\xA1\xD0\xBA\xD0\xBB\xD0\xB0\xD0\xB4.bas";  // of five letters, in UTF-8
+  Put("P.vbp", "Type=Exe\r\nModule=Main; \xD1\xEA\xEB\xE0\xE4.bas\r\n");
+  Put(cyrillic, "Attribute VB_Name = \"Main\"\r\n");
+  for (int time = 1; time <= 3; ++time) {
+    auto environment = Environment::Create(*files_);
+    environment->Open(Path("P.vbp"));
+    EXPECT_TRUE(environment->Problems().empty()) << time;
+    ASSERT_EQ(environment->Projects()[0]->Modules().size(), 1u) << time;
+    EXPECT_EQ(environment->CodePage(), 1251) << time;
+  }
+}
+
 TEST_F(DiskFilesTest, AFormSavedUnderANameOfThisMachineNamesItsBinaryFileInTheCodePage) {
   const std::string folder = "j\xC3\xB6/", items("\x01\0\x03\0\x02\0ab", 8);
   Put(folder + "P.vbp", "Type=Exe\r\nForm=F.frm\r\n");
