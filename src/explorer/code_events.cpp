@@ -2,7 +2,6 @@
 #include "explorer/frm_add_in.h"
 #include "explorer/project_access.h"
 #include "explorer/rows.h"
-#include "explorer/search_module.h"
 #include "runtime/strings.h"
 
 namespace corvane::explorer {
@@ -37,12 +36,6 @@ void frmAddIn::txtCode_Search(const std::string& text) {
 
 void frmAddIn::ShowClipBook() {
   PassOverErrors([&] { txtClip.SetText(services.Clipboard.GetText()); });
-}
-
-void frmAddIn::mnuIDETitle_Click() {
-  cmbSearch.SetText(kProjectTitle);
-  optFndAll.SetValue(true);
-  cbSearch.Click();
 }
 
 }  // namespace corvane::explorer

@@ -26,6 +26,7 @@ void frmAddIn::ComponentAction(ComponentAct action) {
   if (!name) return;
   if (Len(*name) < kShortestName) return SayNoDesigner();
   if (action == ComponentAct::Map) return tools.ShowMap(ActiveComponents(VBInstance), lblSub.Caption());
+  if (action == ComponentAct::AddToFavorites) return AddFavoriteDesigner(*name);
   std::string newName;
   if (action == ComponentAct::Clone) {
     newName = services.Prompts.InputBox("Type New name for cloning Component \" " + *name + " \"");

@@ -11,7 +11,9 @@
 #include "codelist/cv_button.h"
 #include "codelist/uc_list_box.h"
 #include "explorer/add_in_object.h"
+#include "explorer/bookmarks.h"
 #include "explorer/code_points.h"
+#include "explorer/favorite_designers.h"
 #include "explorer/form_acts.h"
 #include "explorer/list_snapshots.h"
 #include "explorer/procedure_scan.h"
@@ -132,6 +134,17 @@ class frmAddIn : public forms::Form {
   CodePoints points;
   CodePoint nextPoint;  // recorded, and pushed at the next navigation
 
+  // bookmark_list.cpp
+  void RememberCaretLine();  // of the active code pane, in Label5 and the two below
+  void PutBookmark();        // on the line that is remembered
+  Bookmarks bookmarks;
+  std::string caretModule;
+  long caretLine = 0;
+
+  // favorite_designers.cpp
+  void AddFavoriteDesigner(const std::string& name);
+  FavoriteDesigners favoriteDesigners;
+
   // snapshots.cpp
   // To be called before the lists are emptied: notes the component row and copies what is listed for it. False where
   // that is the project itself, or nothing.
@@ -202,6 +215,8 @@ class frmAddIn : public forms::Form {
   void PasteProperties();
   void ShowMap();
   void ShowNotes();
+  void DeclareAtCaret();
+  void mnuIDEDeclare_Click();
   long ComponentOfPane();
 
   // component_action.cpp
@@ -231,6 +246,30 @@ class frmAddIn : public forms::Form {
   bool KeepMenu(const std::string& result);
   void StartWizard();
   void OpenWorkshop();
+
+  // bookmark_list.cpp
+  void PutCaretLine();
+  void ShowBookmarks();
+  void ShowFirstBookmark();
+  void ForgetPlaces();
+
+  // favorites.cpp
+  void ToggleFavorite();
+  void ShowFavorites();
+
+  // favorite_designers.cpp
+  void AddCurrentDesigner();
+  void ShowFavoriteDesigners();
+
+  // favorite_wizards.cpp
+  void LoadWizardFavorites();
+  void StartFavorite(int entry);
+
+  // copy_menu.cpp
+  void CopyToClipBook(const std::string& text);
+  void mnuCopy_Click();
+  void mnuCopyAdd_Click();
+  void mnuCopyPLB_Click();
 
   // windows_of_environment.cpp
   void CloseOtherWindows();
@@ -333,7 +372,6 @@ class frmAddIn : public forms::Form {
   void txtCode_DblClick();
   void txtCode_Search(const std::string& text);
   void ShowClipBook();
-  void mnuIDETitle_Click();
 
   // project_search.cpp
   void cbSearch_Click();

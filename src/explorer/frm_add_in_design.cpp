@@ -133,7 +133,7 @@ void frmAddIn::DesignButtons() {
       {axControls, "Controls", "controls", true},
       {axClasses, "Classes", "classes", true},
       {axModules, "", "modules", true},
-      {axLastComp, "", "favorite", false},
+      {axLastComp, "", "favorite", true},
       {cmdPrev, "", "previous", false},
       {cmdNext, "", "next", false},
       {cmGo, "", "go-designer", true},

@@ -15,15 +15,15 @@ class MenuTable {
       {&F::mnuGoDesign, "Goto Designer", &F::mnuGoDesign_Click},
       {&F::mnuComnt, "Comment Procedure", &F::mnuComnt_Click},
       {&F::mnuCop, "Copy into ClipBoard", nullptr, nullptr, true},
-      {&F::mnuCopy, "Copy Procedure", nullptr},
-      {&F::mnuCopyAdd, "Add Procedure", nullptr},
-      {&F::mnuCopyPLB, "Copy whole PLB", nullptr},
+      {&F::mnuCopy, "Copy Procedure", &F::mnuCopy_Click},
+      {&F::mnuCopyAdd, "Add Procedure", &F::mnuCopyAdd_Click},
+      {&F::mnuCopyPLB, "Copy whole PLB", &F::mnuCopyPLB_Click},
       {&F::mnuExec, "&Exec Template", nullptr},
       {&F::mnuIDECurrent, "&Current Code", &F::optCurMod_Click},
-      {&F::mnuIDEPrev, "&Back to previous line", nullptr},
+      {&F::mnuIDEPrev, "&Back to previous line", &F::ShowBookmarks},
       {&F::mnuIDESearch, "&Search current word", &F::mnuIDESearch_Click},
-      {&F::mnuIDEDeclare, "&Declare variable", nullptr},
-      {&F::mnuIDETitle, "Project &Title", &F::mnuIDETitle_Click},
+      {&F::mnuIDEDeclare, "&Declare variable", &F::mnuIDEDeclare_Click, &F::CanDeclare},
+      {&F::mnuIDETitle, "Project &Title", &F::ShowFavorites},
   };
 };
 

@@ -34,7 +34,7 @@ void frmAddIn::ReplaceCodeLine(long row, const std::string& text) {
   long line = 0;
   Ref<host::CodeModule> module = IsGlobalsText() ? ModuleUnderTitle(row, line) : ModuleInView(row, line);
   if (!module) return;
-  if (line < 1) {
+  if (line < 1 || lblSub.Caption() == kSearchResult) {
     services.Prompts.MsgBox(kCannotEdit);
     return;
   }

@@ -52,11 +52,11 @@ std::string LabelOf(std::string_view row) {
 }
 
 bool IsBookmark(std::string_view row) {
-  return InStr(row, kBookmarkMark) >= kFirstTailPosition;
+  return InStrRev(row, kBookmarkMark) >= kFirstTailPosition;
 }
 
 Bookmark ReadBookmark(std::string_view row) {
-  long mark = InStr(row, kBookmarkMark);
+  long mark = InStrRev(row, kBookmarkMark);
   std::string place = Mid(row, mark + Len(kBookmarkMark));
   size_t tab = std::min(place.find('\t'), place.size());
   return {Left(row, mark - 1), place.substr(0, tab), static_cast<long>(Val(std::string_view(place).substr(tab)))};

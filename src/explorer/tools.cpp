@@ -51,6 +51,17 @@ void frmAddIn::ShowNotes() {
   if (!tools.ShowNotes(ActiveProject(VBInstance))) SetVisible(false);
 }
 
+void frmAddIn::DeclareAtCaret() {
+  RememberCaretLine();
+  if (!tools.DeclareVar(ComponentOfPane(), VBInstance)) return;
+  PutBookmark();
+  Leave();
+}
+
+void frmAddIn::mnuIDEDeclare_Click() {
+  if (tools.DeclareVar(ComponentOfPane(), VBInstance)) PutBookmark();
+}
+
 // Without an active pane the window opens all the same.
 long frmAddIn::ComponentOfPane() {
   long component = 0;

@@ -46,6 +46,7 @@ void frmAddIn::BindComponentEvents() {
   axControls.Click = [this] { ListKind(2); };
   axModules.Click = [this] { ListKind(3); };
   axClasses.Click = [this] { ListKind(4); };
+  axLastComp.Click = [this] { RunTool(&frmAddIn::ShowFavoriteDesigners); };
   txtFind.KeyPress = [this](int& key) { txtFind_KeyPress(key); };
   optProj.Click = [this] { optProj_Click(); };
   optCurMod.Click = [this] { optCurMod_Click(); };
@@ -131,6 +132,7 @@ void frmAddIn::Form_Unload() {
   loadedOnce = false;
   navigating = false;
   ForgetChoices();
+  ForgetPlaces();
 }
 
 void frmAddIn::ForgetChoices() {
@@ -151,6 +153,7 @@ void frmAddIn::Form_KeyDown(int& key, int shift) {
       {vbKey0 + 3, vbAltMask, [](frmAddIn& form) { form.ListKind(2); }},
       {vbKey0 + 4, vbAltMask, [](frmAddIn& form) { form.ListKind(4); }},
       {vbKey0 + 5, vbAltMask, [](frmAddIn& form) { form.ListKind(3); }},
+      {vbKey0 + 6, vbAltMask, [](frmAddIn& form) { form.axLastComp.Click(); }},
       {vbKeyLeft, vbAltMask, [](frmAddIn& form) { form.RunTool(&frmAddIn::StepToPrevious); }},
       {vbKeyRight, vbAltMask, [](frmAddIn& form) { form.RunTool(&frmAddIn::StepToNext); }},
       {vbKeyHome, vbAltMask, [](frmAddIn& form) { form.RunTool(&frmAddIn::StepToFirst); }},

@@ -50,6 +50,13 @@ TEST(Rows, ABookmarkKeepsItsModuleAndLine) {
   EXPECT_TRUE(IsBookmark("abcd \\+\\modMain\t12"));
 }
 
+TEST(Rows, ABookmarksTextMayHoldTheMarkItself) {
+  const Bookmark bookmark = ReadBookmark(BookmarkRow("a \\+\\b\tc", "modMain", 12));
+  EXPECT_EQ(runtime::RTrim(bookmark.text), "a \\+\\b\tc");
+  EXPECT_EQ(bookmark.module, "modMain");
+  EXPECT_EQ(bookmark.line, 12);
+}
+
 TEST(Rows, TheLabelStandsInFrontOfTheColon) {
   EXPECT_EQ(LabelOf("frmMain:    001   x"), "frmMain");
   EXPECT_EQ(LabelOf("Sub A()"), "");
