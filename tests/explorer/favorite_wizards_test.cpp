@@ -66,7 +66,11 @@ class FavoriteWizards : public ExplorerTest {
   static constexpr char kBesideLibrary[] = "C:\\Corvane\\FavrList.txt";
   static constexpr char kBesideProject[] = "Z:\\samples\\stockroom\\FavrList.txt";
 
-  void OpenUnsaved() { OpenWindow({Bas("modMain", {"Public a", "Public b"})}); }
+  void OpenUnsaved() {
+    environment->OpenFromTexts("", "Type=Exe\r\nName=\"Shop\"\r\nModule=modMain; modMain.bas\r\n",
+                               {Bas("modMain", {"Public a", "Public b"})});
+    OpenWindow();
+  }
   void OpenSaved() {
     PutSample("stockroom", services.files);
     environment->Open("Z:\\samples\\stockroom\\Stockroom.vbp");
