@@ -1,6 +1,8 @@
 // The favourite wizards: the drop-down of the key that starts wizards.
 #include "explorer/favorite_wizards.h"
 
+#include <algorithm>
+
 #include "explorer/frm_add_in.h"
 #include "explorer/project_access.h"
 #include "runtime/strings.h"
