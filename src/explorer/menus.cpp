@@ -18,7 +18,7 @@ class MenuTable {
       {&F::mnuCopy, "Copy Procedure", &F::mnuCopy_Click},
       {&F::mnuCopyAdd, "Add Procedure", &F::mnuCopyAdd_Click},
       {&F::mnuCopyPLB, "Copy whole PLB", &F::mnuCopyPLB_Click},
-      {&F::mnuExec, "&Exec Template", nullptr},
+      {&F::mnuExec, "&Exec Template", &F::StartWizard, &F::HasLibrary},
       {&F::mnuIDECurrent, "&Current Code", &F::optCurMod_Click},
       {&F::mnuIDEPrev, "&Back to previous line", &F::ShowBookmarks},
       {&F::mnuIDESearch, "&Search current word", &F::mnuIDESearch_Click},

@@ -40,6 +40,12 @@ TEST_F(ToolTables, EachKeyHasATipAndItsPlaceOnTheBar) {
   }
 }
 
+TEST_F(ToolTables, EachKeyAndEntryHasSomethingToDo) {
+  for (const Tool& tool : explorer::Tools()) EXPECT_TRUE(tool.IsSeparator() || tool.click || tool.choose) << tool.key;
+  for (const ToolEntry& entry : explorer::ToolEntries()) EXPECT_TRUE(entry.act) << entry.text;
+  for (const MenuEntry& entry : explorer::MenuEntries()) EXPECT_TRUE(entry.opens || entry.act) << entry.caption;
+}
+
 TEST_F(ToolTables, EachFixedEntryStandsUnderAKeyThatDropsDown) {
   std::set<std::string> texts;
   for (const ToolEntry& entry : explorer::ToolEntries()) {
@@ -47,14 +53,6 @@ TEST_F(ToolTables, EachFixedEntryStandsUnderAKeyThatDropsDown) {
     int position = form.tlbr.PositionOf(entry.key);
     ASSERT_GT(position, 0) << entry.key;
     EXPECT_TRUE(explorer::Tools()[static_cast<size_t>(position) - 1].drops) << entry.key;
-  }
-}
-
-TEST_F(ToolTables, AKeyWithNothingToDoIsDisabled) {
-  OpenWindow(kShop);
-  for (const Tool& tool : explorer::Tools()) {
-    if (tool.IsSeparator() || tool.click || tool.choose || tool.drops) continue;
-    EXPECT_FALSE(form.tlbr.Button(form.tlbr.PositionOf(tool.key)).Enabled) << tool.key;
   }
 }
 
@@ -70,11 +68,12 @@ TEST_F(ToolTables, EachMenuEntryStandsOnceAndCarriesItsCaption) {
     for (forms::Menu* item : menu->Items()) EXPECT_TRUE(names.contains(item->Name())) << item->Name();
 }
 
-TEST_F(ToolTables, AMenuEntryWithNothingToDoIsDisabled) {
-  for (const MenuEntry& entry : explorer::MenuEntries()) {
-    if (entry.act || entry.opens) continue;
-    EXPECT_FALSE((form.*entry.item).Enabled()) << entry.caption;
-  }
+TEST_F(ToolTables, WithoutTheirToolsTheEntriesOfTheMenuAreDisabled) {
+  OpenWindow(kShop);
+  form.PopupMenu(form.mnuIDE, 0, 0);
+  EXPECT_THAT(toolkit.Popups().back(), Contains("(Exec Template)"));
+  EXPECT_THAT(toolkit.Popups().back(), Contains("(Declare variable)"));
+  EXPECT_THAT(toolkit.Popups().back(), Contains("Current Code"));
 }
 
 TEST_F(ToolTables, APressOfAKeyEndsASearchOfPropertiesAndPutsThePointerBack) {
