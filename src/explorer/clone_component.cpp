@@ -1,5 +1,7 @@
 // A second component from the current one: the environment does not hold two of one name, so the present one becomes
 // the clone, and comes back from the file it was saved in.
+#include <vector>
+
 #include "explorer/frm_add_in.h"
 #include "explorer/project_access.h"
 #include "runtime/strings.h"
@@ -19,6 +21,14 @@ constexpr char kProjectReadOnly[] = "Can not clone current Component. Project's 
 constexpr char kCanNot[] = "Can not clone current Component. ";
 constexpr long kShortestFile = 3;
 
+// The binary file that stands beside a component's own, by the extension of that.
+struct FileBeside {
+  const char* extension;
+  const char* beside;
+};
+constexpr FileBeside kFilesBeside[] = {{"frm", "frx"}, {"ctl", "ctx"}, {"pag", "pgx"},
+                                       {"dob", "dox"}, {"dsr", "dsx"}, {"dsr", "dca"}};
+
 std::string FileOf(host::VBComponent& component) {
   std::string file;
   PassOverErrors([&] { file = component.FileNames(1); });
@@ -31,6 +41,16 @@ std::string FolderOf(const std::string& path) {
 
 std::string ExtensionOf(const std::string& path) {
   return Mid(path, InStrRev(path, ".") + 1);
+}
+
+// The first file that a component saved as [stem] and [extension] would overwrite; empty text if there is none.
+std::string FileInTheWay(host::Files& files, const std::string& stem, const std::string& extension) {
+  std::vector<std::string> written = {stem + extension};
+  for (const FileBeside& pair : kFilesBeside)
+    if (LCase(extension) == pair.extension) written.push_back(stem + pair.beside);
+  for (const std::string& path : written)
+    if (files.Attributes(path) != host::kNoSuchFile) return path;
+  return {};
 }
 
 }  // namespace
@@ -56,11 +76,12 @@ void frmAddIn::CloneComponent(host::VBComponent& component, const std::string& n
   try {
     component.SaveAs(file);
     if (IsReadOnly(project)) return SayNotCloned(kProjectReadOnly);
-    const std::string path = FolderOf(project) + name + "." + ExtensionOf(file);
-    // No other file may be lost.
-    if (services.Files.Attributes(path) != host::kNoSuchFile) return SayNotCloned(kCanNot + path + " already exists.");
+    const std::string stem = FolderOf(project) + name + ".", extension = ExtensionOf(file);
+    // No other file may be lost, and nothing is renamed before that is sure.
+    const std::string inTheWay = FileInTheWay(services.Files, stem, extension);
+    if (!inTheWay.empty()) return SayNotCloned(kCanNot + inTheWay + " already exists.");
     Object(component.Properties()).Item("Name")->SetValue(name);
-    component.SaveAs(path);
+    component.SaveAs(stem + extension);
   } catch (const host::Error& error) {
     return SayWhyNotCloned(error);
   }

@@ -141,6 +141,26 @@ TEST_F(CloneComponent, AnotherFileOfThatNameIsNotLost) {
   EXPECT_THAT(Names(), Not(Contains("modTsv")));
 }
 
+TEST_F(CloneComponent, AnotherBinaryFileOfThatNameIsNotLost) {
+  services.files.Put(std::string(kFolder) + "frmCredits.frx", "precious");
+  std::vector<std::string> names = Names();
+  Clone("frmAbout", "frmCredits");
+  EXPECT_THAT(Messages(),
+              ElementsAre("Can not clone current Component. Z:\\samples\\stockroom\\frmCredits.frx already exists."));
+  EXPECT_EQ(Names(), names);
+  EXPECT_EQ(Component("frmAbout")->FileNames(1), std::string(kFolder) + "frmAbout.frm");
+  EXPECT_THAT(ChangedFiles(), ElementsAre("frmCredits.frx"));
+  EXPECT_EQ(File("frmCredits.frx"), "precious");
+}
+
+TEST_F(CloneComponent, ABinaryFileOfAnotherKindIsNotInTheWay) {
+  for (const char* file : {"frmCredits.ctx", "modTsv.frx"}) services.files.Put(std::string(kFolder) + file, "precious");
+  Clone("frmAbout", "frmCredits");
+  Clone("modCsv", "modTsv");
+  EXPECT_THAT(Messages(), IsEmpty());
+  EXPECT_THAT(Names(), ::testing::AllOf(Contains("frmCredits"), Contains("modTsv")));
+}
+
 TEST_F(CloneComponent, AFullDiskIsTold) {
   services.files.FailWrites(std::string(kFolder) + "modTsv.bas", 61);
   Clone("modCsv", "modTsv");
