@@ -73,6 +73,8 @@ void frmAddIn::CloneComponent(host::VBComponent& component, const std::string& n
   const std::string file = FileOf(component), project = ActiveProject(VBInstance)->FileName();
   if (file.empty()) return SayNotCloned(kNotAvailable);
   if (IsReadOnly(file)) return SayNotCloned(kFileReadOnly);
+  // Its own name is in use as well: the clone would take the place of the first component.
+  if (FindComponentIndex(VBInstance, name) != 0) return SayNotCloned(kCanNot + ("\"" + name + "\" is in use already."));
   try {
     component.SaveAs(file);
     if (IsReadOnly(project)) return SayNotCloned(kProjectReadOnly);

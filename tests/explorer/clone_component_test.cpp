@@ -161,6 +161,31 @@ TEST_F(CloneComponent, ABinaryFileOfAnotherKindIsNotInTheWay) {
   EXPECT_THAT(Names(), ::testing::AllOf(Contains("frmCredits"), Contains("modTsv")));
 }
 
+TEST_F(CloneComponent, UnderItsOwnNameIsRefusedWhereverItsFileLies) {
+  services.files.Put("Z:\\common\\modShared.bas", "Attribute VB_Name = \"modShared\"\r\nPublic a\r\nPublic b\r\n");
+  environment->ActiveVBProject()->VBComponents()->AddFile("Z:\\common\\modShared.bas");
+  Press("Refresh");
+  ASSERT_THAT(ChangedFiles(), ElementsAre("Stockroom.vbp"));
+  const std::string project = File("Stockroom.vbp");
+  const long writes = services.files.writes;
+  for (const char* name : {"modShared", "MODSHARED"}) Clone("modShared", name);
+  EXPECT_THAT(Messages(), ElementsAre("Can not clone current Component. \"modShared\" is in use already.",
+                                      "Can not clone current Component. \"MODSHARED\" is in use already."));
+  EXPECT_THAT(Styles(), ElementsAre(host::vbExclamation, host::vbExclamation));
+  EXPECT_EQ(Component("modShared")->FileNames(1), "Z:\\common\\modShared.bas");
+  EXPECT_EQ(services.files.writes, writes);
+  EXPECT_THAT(ChangedFiles(), ElementsAre("Stockroom.vbp"));
+  EXPECT_EQ(File("Stockroom.vbp"), project);
+}
+
+TEST_F(CloneComponent, TheNameOfAnotherComponentIsRefusedInAnyCase) {
+  std::vector<std::string> names = Names();
+  Clone("modCsv", "FRMABOUT");
+  EXPECT_THAT(Messages(), ElementsAre("Can not clone current Component. \"FRMABOUT\" is in use already."));
+  EXPECT_EQ(services.files.writes, 0);
+  EXPECT_EQ(Names(), names);
+}
+
 TEST_F(CloneComponent, AFullDiskIsTold) {
   services.files.FailWrites(std::string(kFolder) + "modTsv.bas", 61);
   Clone("modCsv", "modTsv");
