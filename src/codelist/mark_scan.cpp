@@ -5,13 +5,14 @@
 namespace corvane::codelist {
 
 bool MarkScan::Next() {
-  const size_t up = text_.find(kLevelUp, at_), down = text_.find(kLevelDown, at_);
-  if (up == down) return false;  // there is neither
-  opens_ = up < down;
-  const size_t mark = opens_ ? up : down, other = opens_ ? down : up;
-  if (other != mark + kLevelUp.size()) level_ += opens_ ? 1 : -1;
+  const Mark mark = FirstMark(text_, at_);
+  if (mark.step == 0) return false;
+  opens_ = mark.step > 0;
+  const size_t behind = mark.place + kLevelUp.size();
+  const bool followed = text_.substr(behind).starts_with(opens_ ? kLevelDown : kLevelUp);
+  if (!followed) level_ += mark.step;
   sought_ = at_ + 1;
-  at_ = mark + kLevelUp.size() + (step_ == Step::kJumping ? at_ : 0);
+  at_ = behind + (step_ == Step::kJumping ? at_ : 0);
   return true;
 }
 
