@@ -1,9 +1,11 @@
 #include "cli/view_command.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <string_view>
 
 #include "cli/headless_list.h"
+#include "codelist/line_analysis.h"
 #include "codelist/reading_commands.h"
 #include "runtime/code_page.h"
 #include "runtime/strings.h"
@@ -144,6 +146,19 @@ size_t StartOfCode(std::string_view text) {
   return at;
 }
 
+// Position behind the line that ends the procedure at [from], else of the end: a level that is left open in one
+// procedure says nothing about the next.
+size_t EndOfProcedure(std::string_view code, size_t from) {
+  codelist::AnalysisState state;
+  codelist::LineBuffer buffer;
+  while (from < code.size() && !state.endOfProc) {
+    const size_t end = std::min(code.find("\r\n", from), code.size());
+    codelist::AnalyseLine(codelist::Language::Vb, state, code.substr(from, end - from), buffer);
+    from = std::min(end + 2, code.size());
+  }
+  return from;
+}
+
 bool IsSql(const std::string& file_name) {
   return runtime::UCase(runtime::Right(file_name, 4)) == ".SQL";
 }
@@ -170,7 +185,14 @@ int ViewFile(const std::string& file_bytes, const ViewOptions& options, std::ost
       if (list->IsLineVisible(line)) viewer.ShowLine(list->StoredText(line), list->LineLevel(line));
   };
   show(text.substr(0, code), "TEXT", codelist::kTextList);
-  show(text.substr(code), mode == codelist::kSqlList ? "SQL" : "VB", mode);
+  if (!options.fold || mode != codelist::kVbList) {
+    show(text.substr(code), mode == codelist::kSqlList ? "SQL" : "VB", mode);
+  } else {
+    for (size_t at = code, end = 0; at < text.size(); at = end) {
+      end = EndOfProcedure(text, at);
+      show(text.substr(at, end - at), "VB", mode);
+    }
+  }
   style.End();
   return 0;
 }

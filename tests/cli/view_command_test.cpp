@@ -11,6 +11,7 @@ namespace corvane::cli {
 namespace {
 
 using testing::HasSubstr;
+using testing::Not;
 
 std::string View(const std::string& bytes, bool html = false, const std::string& name = "a.bas", bool fold = false) {
   std::ostringstream out;
@@ -58,6 +59,16 @@ TEST(ViewFile, FoldedShowsTheSkeletonOfTheCode) {
   EXPECT_EQ(PlainText(View(code, false, "a.bas", true)),
             "Sub a()\nIf b Then\nFor i = 1 To 2\nNext i\nEnd If\ne = 3\nEnd Sub\n");
   EXPECT_EQ(PlainText(View(code)), code);
+}
+
+TEST(ViewFile, ALevelLeftOpenInAProcedureFoldsNothingOfTheNext) {
+  const std::string code =
+      "Dim m\n\nSub a()\nIf x Then If y Then c\nb\nEnd Sub\n\nSub b()\nFor i = 1 To 2\nd\nNext i\nEnd Sub\nSub c()\nEnd "
+      "Sub\n";
+  const std::string shown = PlainText(View(code, false, "a.bas", true));
+  for (const char* line : {"Sub a()\n", "Sub b()\nFor i = 1 To 2\nNext i\nEnd Sub\n", "Sub c()\nEnd Sub\n"})
+    EXPECT_THAT(shown, HasSubstr(line));
+  EXPECT_THAT(shown, Not(HasSubstr("d\n")));
 }
 
 TEST(ViewFile, FoldingLeavesTheHeadOfAModuleWhole) {
