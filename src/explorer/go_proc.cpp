@@ -17,7 +17,8 @@ void frmAddIn::txtCode_GoProc(const std::string& text) {
   PassOverErrors([&] {
     TakeSnapshotOfView();
     const SoughtWord word = SoughtIn(text);
-    long component = word.dotted ? ComponentOfObject(word.object) : GoToCode();
+    long component = 0;  // where it cannot be told, the rows of all are looked through
+    PassOverErrors([&] { component = word.dotted ? ComponentOfObject(word.object) : GoToCode(); });
     long row = RowOfWord(word, component);
     if (row < 0) {
       const bool listed = component > 0 && ListWord(word, component);

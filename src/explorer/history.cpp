@@ -171,6 +171,7 @@ long frmAddIn::ListedRow(const std::string& text, long line) const {
 
 void frmAddIn::txtCode_CodeLostFocus(long row) {
   if (row < 0) return RecordCurrentPoint();
+  if (row == 0 || lblSub.Caption() == kSearchResult) return;  // a row of results is none of the pending point
   nextPoint.row = row;
   PushHistoryPoint();
 }

@@ -116,9 +116,9 @@ void frmAddIn::ListHits(std::string module) {
 
 // The module that the options and the code view narrow the search to; empty for all. Error 91 without a code pane.
 std::string frmAddIn::ModuleToSearch() {
-  const bool ofPane = searchScope == kActiveModule || (searchScope == 0 && !optFndAll.Value());
-  const std::string module = ofPane ? Object(ActiveModule(VBInstance)).Name() : std::string();
-  return optGroup.Value() && searchScope == 0 ? std::string() : module;
+  const bool narrowed = !optFndAll.Value() && !optGroup.Value();
+  const bool ofPane = searchScope == kActiveModule || (searchScope == 0 && narrowed);
+  return ofPane ? Object(ActiveModule(VBInstance)).Name() : std::string();
 }
 
 // [project] is named in the rows unless it is empty.
@@ -133,9 +133,8 @@ void frmAddIn::ListHitsOf(host::VBComponent& component, const std::string& only,
                             .wholeWord = chkWhole.Value() == 1,
                             .headersOnly = chkSub.Value() == 1,
                             .withComments = chkComnt.Value() != 0};
-  SearchModule(module, search, [&](long line, const std::string& text, long number) {
-    AddProcedureText(text, line, label, number);
-  });
+  SearchModule(module, search,
+               [&](long line, const std::string& text, long number) { AddProcedureText(text, line, label, number); });
 }
 
 void frmAddIn::ShowFirstResult() {

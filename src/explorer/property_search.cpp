@@ -19,7 +19,7 @@ constexpr long kShortestText = 2;
 
 std::string RowOfHit(const PropertyHit& hit) {
   const std::string value = "/+\\" + hit.property + " = " + hit.value + "/-\\";
-  return hit.control.empty() ? "  " + value : "  Component = /+\\/+\\" + hit.control + "/-\\/-\\  " + value;
+  return !hit.ofControl ? "  " + value : "  Component = /+\\/+\\" + hit.control + "/-\\/-\\  " + value;
 }
 
 }  // namespace
@@ -30,7 +30,8 @@ void frmAddIn::SearchProperties() {
   if (Len(text) < kShortestText) return;
   services.Screen.SetMousePointer(host::vbHourglass);
   TakeSnapshotOfView();
-  const long fill = fills;
+  const long fill = BeginFill();  // what was being filled ends, another search too
+  busy = false;
   long hits = 0;
   {
     SetWhile guard(searching);
@@ -38,6 +39,7 @@ void frmAddIn::SearchProperties() {
   }
   services.Screen.SetMousePointer(host::vbDefault);
   if (fill != fills) return;
+  if (hits > 0 && lblSub.Caption() != kSearchResult) return;  // a click on a procedure shows that
   if (hits == 0) {
     services.Prompts.MsgBox(kNothingFound);
     return;
@@ -60,7 +62,10 @@ long frmAddIn::ListPropertyHits(const std::string& text, long fill) {
       Label5.SetCaption(name);
       bool first = true;
       search.Search(*component, [&](const PropertyHit& hit) {
-        if (hits++ == 0) BeginPropertyHits();
+        if (hits++ == 0) {
+          ResetHistoryButtons();
+          BeginPropertyHits();
+        }
         if (std::exchange(first, false)) AddHeading(name);
         AddResult(RowOfHit(hit));
       });

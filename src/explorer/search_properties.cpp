@@ -70,7 +70,7 @@ void PropertySearch::Search(host::VBComponent& component, const std::function<vo
   PassOverErrors([&] { controls = Object(component.Designer()).VBControls(); });
   ForEach(controls, [&](host::VBControl& control) {
     if (SearchControl(control, hit)) {
-      any = true;
+      any = hit.ofControl = true;
       found(hit);
     }
     return goesOn_();
@@ -96,6 +96,7 @@ bool PropertySearch::SearchControl(host::VBControl& control, PropertyHit& hit) {
 }
 
 bool PropertySearch::SearchComponent(host::VBComponent& component, PropertyHit& hit) {
+  hit.ofControl = false;
   hit.control.clear();
   bool fits = false;
   Ref<host::Properties> properties;

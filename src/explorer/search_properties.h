@@ -12,7 +12,8 @@ namespace corvane::explorer {
 bool HasDesigner(host::ComponentType type);
 
 struct PropertyHit {
-  std::string control;  // empty: the component itself
+  bool ofControl = false;  // else of the component itself
+  std::string control;
   std::string property, value;
 };
 

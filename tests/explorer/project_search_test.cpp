@@ -29,8 +29,7 @@ TEST_F(ProjectSearch, HitsAreRowsOfTheProcedures) {
   OpenWindow();
   SearchFor("total");
   EXPECT_THAT(Procedures(), ElementsAre("frmMain:    001   Total = 1", "modMain:    001   Public Total As Long",
-                                        "modMain:    002   Public Sub ShowTotal()",
-                                        "modMain:    003   Beep ' total"));
+                                        "modMain:    002   Public Sub ShowTotal()", "modMain:    003   Beep ' total"));
   EXPECT_EQ(form.lbxProc->List(1), "modMain:    001   Public Total As Long" + std::string(160, ' ') + " +|2");
   EXPECT_EQ(form.lbxProc->ItemData(1), 1);
   EXPECT_THAT(Components(), ElementsAre(" Result"));
@@ -199,6 +198,14 @@ TEST_F(ProjectSearch, AGroupIsSearchedWithTheNamesOfItsProjects) {
   form.optGroup.SetValue(true);
   SearchFor("total");
   EXPECT_THAT(Procedures(), Contains("_Shop.frmMain:    001   Total = 1"));
+  EXPECT_THAT(Procedures(), Contains("_Tools.modTools:    001   Dim total"));
+}
+
+TEST_F(ProjectSearch, AGroupNeedsNoCodePane) {
+  AddSecondProject();
+  OpenWindow();
+  form.optGroup.SetValue(true);
+  SearchFor("total");
   EXPECT_THAT(Procedures(), Contains("_Tools.modTools:    001   Dim total"));
 }
 

@@ -31,10 +31,9 @@ class PropertyOfDesigners : public ExplorerTest {
 
 TEST_F(PropertyOfDesigners, HitsStandBelowTheNameOfTheirDesigner) {
   SearchFor("order");
-  EXPECT_THAT(CodeRows(),
-              ElementsAre("ModuleName = frmOne", "  Component = lblA  Caption = Order number",
-                          "  Component = lblB  Caption = ORDER date", " ", "ModuleName = frmTwo",
-                          "  Caption = Order two"));
+  EXPECT_THAT(CodeRows(), ElementsAre("ModuleName = frmOne", "  Component = lblA  Caption = Order number",
+                                      "  Component = lblB  Caption = ORDER date", " ", "ModuleName = frmTwo",
+                                      "  Caption = Order two"));
   EXPECT_EQ(form.txtCode.StoredText(1), "ModuleName = \2frmOne");
   EXPECT_EQ(form.txtCode.StoredText(2), "  Component = /+\\/+\\lblA/-\\/-\\  /+\\Caption = Order number/-\\");
   EXPECT_EQ(form.txtCode.StoredText(6), "  /+\\Caption = Order two/-\\");
@@ -85,20 +84,48 @@ TEST_F(PropertyOfDesigners, AClickStopsItAndKeepsTheHits) {
   EXPECT_THAT(CodeRows(), Not(Contains("ModuleName = frmTwo")));
 }
 
-TEST_F(PropertyOfDesigners, AClickOnTheWindowOrTheProceduresStopsItToo) {
-  for (int way = 0; way < 2; ++way) {
-    bool clicked = false;
-    services.loop.on_do_events = [&] {
-      if (std::exchange(clicked, true)) return;
-      if (way == 0)
-        form.Click();
-      else
-        form.lbxProc->Click();
-    };
-    SearchFor("order");
-    EXPECT_THAT(CodeRows(), Not(Contains("ModuleName = frmTwo"))) << way;
-    services.loop.on_do_events = nullptr;
-  }
+TEST_F(PropertyOfDesigners, AClickOnTheWindowStopsItToo) {
+  services.loop.on_do_events = [this] {
+    if (form.lblSub.Caption() == explorer::kSearchResult) form.UserClick();
+  };
+  SearchFor("order");
+  EXPECT_THAT(CodeRows(), Contains("ModuleName = frmOne"));
+  EXPECT_THAT(CodeRows(), Not(Contains("ModuleName = frmTwo")));
+}
+
+TEST_F(PropertyOfDesigners, AClickOnAProcedureStopsItAndShowsThat) {
+  ChooseComponent("frmOne");
+  services.loop.on_do_events = [this] {
+    if (form.lblSub.Caption() == explorer::kSearchResult) ChooseProcedure("Sub A()");
+  };
+  SearchFor("order");
+  EXPECT_THAT(CodeRows(), Contains("Sub A()"));
+  EXPECT_THAT(CodeRows(), Not(Contains(StartsWith("ModuleName"))));
+  EXPECT_THAT(Messages(), IsEmpty());
+}
+
+TEST_F(PropertyOfDesigners, AnotherSearchEndsTheOneUnderWay) {
+  bool again = false;
+  services.loop.on_do_events = [&] {
+    if (!std::exchange(again, true)) SearchFor("two");
+  };
+  SearchFor("nowhere at all");
+  EXPECT_THAT(CodeRows(), ElementsAre("ModuleName = frmTwo", "  Name = frmTwo"));
+  EXPECT_THAT(Messages(), IsEmpty());
+}
+
+TEST_F(PropertyOfDesigners, ResultsTakeNoRowOfThePointBefore) {
+  ChooseComponent("frmOne");
+  ChooseProcedure("Sub A()");
+  form.txtCode.DblClick();
+  SearchFor("order");
+  const long points = form.points.Count();
+  ASSERT_GT(points, 0);
+  const long row = form.points.At(points - 1).row;
+  form.txtCode.SetStrPos(3);
+  form.txtCode.CodeLostFocus(3);
+  EXPECT_EQ(form.points.Count(), points);
+  EXPECT_EQ(form.points.At(points - 1).row, row);
 }
 
 TEST_F(PropertyOfDesigners, TheListBeforeComesBack) {

@@ -60,12 +60,21 @@ TEST_F(SearchOfAModule, CommentsAreFoundOnDemandOnly) {
 }
 
 TEST_F(SearchOfAModule, HeadersAreLinesWithAWordThatBeginsThemOrStandsBehindABlank) {
-  const Code lines = {"Public Event Pay()", "Sub Pay()",          "End Sub",           "Private Function MySub (pay)",
-                      "End Function",       "Property Get Pay()", "Pay = 1",           "End Property",
-                      "Friend Sub Pay2()",  "End Sub",            "Function Pay3()",   "End Function"};
+  const Code lines = {"Public Event Pay()",
+                      "Sub Pay()",
+                      "End Sub",
+                      "Private Function MySub (pay)",
+                      "End Function",
+                      "Property Get Pay()",
+                      "Pay = 1",
+                      "End Property",
+                      "Friend Sub Pay2()",
+                      "End Sub",
+                      "Function Pay3()",
+                      "End Function"};
   EXPECT_THAT(Hits(lines, {.text = "pay", .headersOnly = true}),
-              ElementsAre("1 1 Public Event Pay()", "2 2 Sub Pay()", "6 3 Property Get Pay()",
-                          "9 4 Friend Sub Pay2()", "11 5 Function Pay3()"));
+              ElementsAre("1 1 Public Event Pay()", "2 2 Sub Pay()", "6 3 Property Get Pay()", "9 4 Friend Sub Pay2()",
+                          "11 5 Function Pay3()"));
 }
 
 TEST_F(SearchOfAModule, AWholeWordIsAPattern) {

@@ -121,8 +121,9 @@ std::vector<std::string> SearchOfProperties::Hits(const std::string& target) {
   std::vector<std::string> hits;
   explorer::PropertySearch search(
       target, [&] { return ++properties_read < stop_at; }, [&] { ++yields; });
-  search.Search(component,
-                [&](const PropertyHit& hit) { hits.push_back(hit.control + "|" + hit.property + "|" + hit.value); });
+  search.Search(component, [&](const PropertyHit& hit) {
+    hits.push_back((hit.ofControl ? hit.control : "-") + "|" + hit.property + "|" + hit.value);
+  });
   return hits;
 }
 
