@@ -21,6 +21,17 @@ bool IsCommentOrBlank(const std::string& row) {
   return text.empty() || BeginsWith(text, "'") || text == "REM" || BeginsWith(text, "REM ");
 }
 
+// What stands in front of the row's code; empty where nothing does.
+std::string HitLabel(const std::string& row) {
+  return runtime::Left(row, std::max(InStr(row, kLabelEnd) - 1, 0L));
+}
+
+Ref<host::VBComponent> ComponentOfName(host::VBComponents& components, const std::string& name) {
+  for (Ref<host::VBComponent> component : host::Each(components))
+    if (HasCode(*component) && component->Name() == name) return component;
+  return nullptr;
+}
+
 }  // namespace
 
 void frmAddIn::lbxProc_Click() {
@@ -28,6 +39,7 @@ void frmAddIn::lbxProc_Click() {
   if (busy) return;
   savedPosition = 0;
   firstLineShown = 0;
+  viewedModule.clear();
   navigating ? RestoreHistoryPoint() : ResetHistoryButtons();
   long index = ComponentOfRow();
   if (index < 1) return;
@@ -64,22 +76,57 @@ long frmAddIn::ComponentOfBookmark(const Bookmark& bookmark) {
   return index;
 }
 
-// A row that begins with "_" belongs to another project: "_Project.Module:    ".
+// A position goes stale when a component is added or removed behind the lists: a name in the rows goes before it.
 Ref<host::VBComponent> frmAddIn::ComponentAt(const std::string& row, long index) {
+  const std::string name = ComponentNamedBy(row);
+  const Ref<host::VBComponents> components = ComponentsOf(row);
   Ref<host::VBComponent> component;
-  if (BeginsWith(row, "_")) {
-    std::string label = runtime::Left(row, std::max(InStr(row, kLabelEnd) - 1, 0L));
-    std::string project = Mid(label.substr(0, label.find('.')), 2);
-    PassOverErrors(
-        [&] { component = Object(Object(VBInstance).VBProjects()->Item(project)).VBComponents()->Item(index); });
-  }
+  if (components) PassOverErrors([&] { component = components->Item(index); });
+  if (components && !name.empty() && (!component || component->Name() != name))
+    if (Ref<host::VBComponent> named = ComponentOfName(*components, name)) component = named;
   return component ? component : ActiveComponents(VBInstance)->Item(index);
+}
+
+// A row that begins with "_" belongs to another project: "_Project.Module:    ". Nothing if that has gone.
+Ref<host::VBComponents> frmAddIn::ComponentsOf(const std::string& row) {
+  if (!BeginsWith(row, "_")) return ActiveComponents(VBInstance);
+  const std::string label = HitLabel(row), project = Mid(label.substr(0, label.find('.')), 2);
+  Ref<host::VBComponents> components;
+  PassOverErrors([&] { components = Object(Object(VBInstance).VBProjects()->Item(project)).VBComponents(); });
+  return components;
+}
+
+// The name in the row's label, else that of the component row which the row belongs to; empty where neither tells it.
+std::string frmAddIn::ComponentNamedBy(const std::string& row) const {
+  const std::string label = HitLabel(row);
+  if (!label.empty() && !Holds(label, " ")) return BeginsWith(label, "_") ? Mid(label, InStr(label, ".") + 1) : label;
+  const std::string chosen = lbxComp->List(lbxComp->ListIndex());
+  if (chosen == kProjectGlobals || chosen == kResult) return {};
+  const long inTail = ComponentInTail(row);
+  const long own = lbxComp->ListIndex() >= 1 ? lbxComp->ItemData(lbxComp->ListIndex()) : currentComponent;
+  return inTail < 0 || inTail == own ? chosen : std::string();
+}
+
+// The component whose text the code view shows, whatever its position is by now; Nothing where it has gone, or the
+// selected row names another one.
+Ref<host::VBComponent> frmAddIn::ComponentToWrite() {
+  const std::string row = lbxProc->List(lbxProc->ListIndex()), named = ComponentNamedBy(row);
+  if (viewedModule.empty() || (!named.empty() && named != viewedModule)) return nullptr;
+  const Ref<host::VBComponents> components = ComponentsOf(row);
+  return components ? ComponentOfName(*components, viewedModule) : nullptr;
+}
+
+void frmAddIn::RememberView(host::CodeModule& module, long firstLine) {
+  firstLineShown = firstLine;
+  viewedModule = module.Name();
+  viewedLines = module.CountOfLines();
 }
 
 void frmAddIn::ShowDeclarations(host::CodeModule& module) {
   long lines = module.CountOfDeclarationLines();
   std::string text = lines > 0 ? module.Lines(1, lines) : std::string();
-  textOffset = firstLineShown = 1;
+  textOffset = 1;
+  RememberView(module, 1);
   txtCode.Clear();
   lblSub.SetCaption(LTrim(kDeclarations));
   ShowRaw(text);
@@ -99,7 +146,7 @@ bool frmAddIn::ShowProcedure(host::CodeModule& module, long line) {
     --body;
     textOffset = 1;
   }
-  firstLineShown = body;
+  RememberView(module, body);
   long count = module.ProcCountLines(name, kind);
   std::string text = module.Lines(body, count >= kFewestLines ? count + kLinesBehind : kUnknownLines);
   lblSub.SetCaption(Trim(module.Lines(body, 1)));
@@ -111,7 +158,7 @@ void frmAddIn::ShowBlock(host::CodeModule& module, long line, const std::string&
   long start = line;
   if (line > 1) start = line >= kBlockFrom ? line - kBlockHead : 1;
   std::string text = module.Lines(start, kBlockLines);
-  firstLineShown = start;
+  RememberView(module, start);
   textOffset = line - start + 1;
   lblSub.SetCaption(title);
   ShowCode(text, false, true);

@@ -416,6 +416,10 @@ class frmAddIn : public forms::Form {
   long ComponentOfRow();
   long ComponentOfBookmark(const Bookmark& bookmark);
   host::Ref<host::VBComponent> ComponentAt(const std::string& row, long index);
+  host::Ref<host::VBComponents> ComponentsOf(const std::string& row);
+  std::string ComponentNamedBy(const std::string& row) const;
+  host::Ref<host::VBComponent> ComponentToWrite();
+  void RememberView(host::CodeModule& module, long firstLine);
   void ShowDeclarations(host::CodeModule& module);
   bool ShowProcedure(host::CodeModule& module, long line);
   void ShowBlock(host::CodeModule& module, long line, const std::string& title);
@@ -471,12 +475,14 @@ class frmAddIn : public forms::Form {
   long pairLine[kPairs] = {};
   bool pairProj[kPairs] = {true, true}, pairCurMod[kPairs] = {};
 
-  long textOffset = 1;      // row on which the text about to be loaded must stand
-  long savedPosition = 0;   // the same, from a history step; 0: none
-  long textsDone = 0;       // texts that were loaded to their end
-  long firstCodeRow = 1;    // row of the first real line of the text shown
-  long firstLineShown = 0;  // line of the module that the first row shows; 0: none in particular
-  forms::Rect codePlace;    // of the code view before it was maximised
+  long textOffset = 1;       // row on which the text about to be loaded must stand
+  long savedPosition = 0;    // the same, from a history step; 0: none
+  long textsDone = 0;        // texts that were loaded to their end
+  long firstCodeRow = 1;     // row of the first real line of the text shown
+  long firstLineShown = 0;   // line of the module that the first row shows; 0: none in particular
+  std::string viewedModule;  // the one whose text the code view shows; empty: none in particular
+  long viewedLines = 0;      // how many it had then
+  forms::Rect codePlace;     // of the code view before it was maximised
 };
 
 }  // namespace corvane::explorer

@@ -62,7 +62,7 @@ Ref<host::CodeModule> frmAddIn::ModuleOfRow(long& index, long& line) {
   if (lbxComp->ListIndex() < 1 && ComponentInTail(row) < 0 && !IsBookmark(row)) return nullptr;
   index = ComponentOfRow();
   if (index < 1) return nullptr;
-  Ref<host::CodeModule> module = Object(ComponentAt(row, index)).CodeModule();
+  Ref<host::CodeModule> module = Object(commentMode ? ComponentToWrite() : ComponentAt(row, index)).CodeModule();
   line = std::max(lbxProc->ItemData(lbxProc->ListIndex()), 1L);
   if (toProcStart) return module;
   long codeRow = txtCode.ListIndex();

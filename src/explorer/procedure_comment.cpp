@@ -72,6 +72,7 @@ void frmAddIn::CommentProcedure() {
 }
 
 void frmAddIn::RunInCommentMode() {
+  if (!ComponentToWrite()) return SayChangedBefore();
   toProcStart = commentMode = true;
   GoToCode();
 }

@@ -33,7 +33,7 @@ void frmAddIn::ReplaceCodeLine(long row, const std::string& text) {
   if (IsTitleOfModule(txtCode.List(row))) return SayTitleChosen();
   long line = 0;
   Ref<host::CodeModule> module = IsGlobalsText() ? ModuleUnderTitle(row, line) : ModuleInView(row, line);
-  if (!module) return;
+  if (!module) return SayChangedBefore();
   if (line < 1 || lblSub.Caption() == kSearchResult) {
     services.Prompts.MsgBox(kCannotEdit);
     return;
@@ -63,12 +63,11 @@ Ref<host::CodeModule> frmAddIn::ModuleUnderTitle(long row, long& line) {
 // As for a jump, the row of the procedures tells the line of the first row with code. In a text that starts elsewhere,
 // as behind a search, the line is known from its first row: an equal one further down must not be taken for it.
 Ref<host::CodeModule> frmAddIn::ModuleInView(long row, long& line) {
-  long index = ComponentOfRow();
-  if (index < 1) return nullptr;
-  std::string shown = lbxProc->List(lbxProc->ListIndex());
+  Ref<host::VBComponent> component = ComponentToWrite();
+  if (!component) return nullptr;
   line = std::max(lbxProc->ItemData(lbxProc->ListIndex()), 1L) + row - firstCodeRow;
   if (line >= 1 && firstLineShown > 0) line = firstLineShown + row - 1;
-  return Object(ComponentAt(shown, index)).CodeModule();
+  return component->CodeModule();
 }
 
 }  // namespace corvane::explorer

@@ -136,6 +136,38 @@ TEST_F(ProcedureComment, ACommentThatChangedWhileTheWindowWasOpenIsRefused) {
   EXPECT_EQ(Text(), "' Other.\r\nSub Main()\r\nEnd Sub");
 }
 
+TEST_F(ProcedureComment, AComponentThatMovedIsFoundByItsName) {
+  const Code text{"Option Explicit", "Sub Init()", "End Sub"};
+  for (bool meanwhile : {false, true}) {
+    OpenAnew({Bas("modA", text), Bas("modB", text), Bas("modC", text)});
+    Show("modB", "Sub Init");
+    const auto remove = [&] { environment->ActiveVBProject()->VBComponents()->Remove(Component("modA")); };
+    if (!meanwhile) remove();
+    WhenAsked([&](workshop::frmResult& window) {
+      if (meanwhile) remove();
+      window.txtRes.UserEdit(" New.", 0, 0);
+      window.OKButton.UserClick();
+    });
+    Comment();
+    EXPECT_EQ(Module("modB").Lines(1, 9), "Option Explicit\r\n' New.\r\nSub Init()\r\nEnd Sub");
+    EXPECT_EQ(Module("modC").Lines(1, 9), "Option Explicit\r\nSub Init()\r\nEnd Sub");
+  }
+}
+
+TEST_F(ProcedureComment, AComponentThatWentWhileTheWindowWasOpenIsTold) {
+  const Code text{"Option Explicit", "Sub Init()", "End Sub"};
+  OpenAnew({Bas("modB", text), Bas("modC", text)});
+  Show("modB", "Sub Init");
+  WhenAsked([&](workshop::frmResult& window) {
+    environment->ActiveVBProject()->VBComponents()->Remove(Component("modB"));
+    window.txtRes.UserEdit(" New.", 0, 0);
+    window.OKButton.UserClick();
+  });
+  Comment();
+  EXPECT_THAT(Messages(), ElementsAre("Can not Replace line because line was changed before"));
+  EXPECT_EQ(Module("modC").Lines(1, 9), "Option Explicit\r\nSub Init()\r\nEnd Sub");
+}
+
 TEST_F(ProcedureComment, BehindItARowIsAnOrdinaryOneAgain) {
   OpenModule({"' Old.", "Sub Main()", "Beep", "End Sub"});
   ChooseProcedure("Sub Main()");

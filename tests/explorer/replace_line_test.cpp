@@ -104,8 +104,93 @@ TEST_F(ReplaceLine, AComponentThatIsGoneEndsIt) {
   Show("modFormat", "Public Function BinText");
   long row = RowOf(CodeRows(), "BinText = \"(none)\"") + 1;
   environment->ActiveVBProject()->VBComponents()->Remove(Component("modFormat"));
-  toolkit.Guard([&] { form.txtCode.UpdateString(row, "Stop"); });
+  form.txtCode.UpdateString(row, "Stop");
+  EXPECT_THAT(Messages(), ElementsAre("Can not Replace line because line was changed before"));
   for (const auto& [name, bytes] : AllFiles()) EXPECT_EQ(bytes, before.at(name)) << name;
+}
+
+// Three modules of one text, of which the first goes: the ones behind it move up.
+class ReplaceLineOfMovedComponent : public ReplaceLine {
+ protected:
+  void SetUp() override {
+    const Code text{"Option Explicit", "Private n", "Public p", "Sub Init()", "  n = 1", "  n = n + 1", "End Sub"};
+    OpenAnew({Bas("modA", text), Bas("modB", text), Bas("modC", text)});
+  }
+  void RemoveFirst() { environment->ActiveVBProject()->VBComponents()->Remove(Component("modA")); }
+  void EditAndCheck() {
+    form.txtCode.UpdateString(RowOf(CodeRows(), "n = 1") + 1, "  n = 2");
+    EXPECT_THAT(Messages(), IsEmpty());
+    EXPECT_EQ(Module("modB").Lines(5, 1), "  n = 2");
+    EXPECT_EQ(Module("modC").Lines(5, 1), "  n = 1");
+  }
+};
+
+TEST_F(ReplaceLineOfMovedComponent, OfTheComponentRowIsFoundByItsName) {
+  Show("modB", "Sub Init");
+  RemoveFirst();
+  EditAndCheck();
+}
+
+TEST_F(ReplaceLineOfMovedComponent, ChosenAfterItMovedIsFoundByItsName) {
+  ChooseComponent("modB");
+  RemoveFirst();
+  ChooseProcedure("Sub Init");
+  EditAndCheck();
+}
+
+TEST_F(ReplaceLineOfMovedComponent, OfTheWholeProjectIsTheOneThatIsShown) {
+  form.lbxProc->Clear();
+  form.lbxProc->AddItem("Sub Init()" + explorer::TailOf(2));
+  form.lbxProc->SetItemData(0, 4);
+  form.lbxProc->UserSelect(0);
+  RemoveFirst();
+  EditAndCheck();
+}
+
+TEST_F(ReplaceLineOfMovedComponent, OfAHitIsFoundByItsLabel) {
+  for (bool chosenBefore : {true, false}) {
+    SetUp();
+    form.lbxProc->Clear();
+    AddHit("modB", 2, 5, "n = 1");
+    if (chosenBefore) form.lbxProc->UserSelect(0);
+    RemoveFirst();
+    if (!chosenBefore) form.lbxProc->UserSelect(0);
+    EditAndCheck();
+  }
+}
+
+TEST_F(ReplaceLineOfMovedComponent, OfTheActiveCodeIsFoundByItsName) {
+  Caret("modB", 5);
+  ClickOn(form.optCurMod);
+  ChooseProcedure("Sub Init");
+  RemoveFirst();
+  EditAndCheck();
+}
+
+TEST_F(ReplaceLineOfMovedComponent, MarkedAsAFavouriteItIsTheRightOne) {
+  Show("modB", "Sub Init");
+  RemoveFirst();
+  form.txtCode.SetStrPos(RowOf(CodeRows(), "n = 1") + 1);
+  Press("Favorites");
+  EXPECT_EQ(Module("modB").Lines(5, 1), "  n = 1  ''");
+  EXPECT_EQ(Module("modC").Lines(5, 1), "  n = 1");
+}
+
+TEST_F(ReplaceLineOfMovedComponent, ThatIsGoneItselfIsRefused) {
+  Show("modB", "Sub Init");
+  environment->ActiveVBProject()->VBComponents()->Remove(Component("modB"));
+  form.txtCode.UpdateString(RowOf(CodeRows(), "n = 1") + 1, "  n = 2");
+  EXPECT_THAT(Messages(), ElementsAre("Can not Replace line because line was changed before"));
+  EXPECT_EQ(Module("modC").Lines(5, 1), "  n = 1");
+}
+
+TEST_F(ReplaceLineOfMovedComponent, ShownForARowOfOneThatIsGoneIsRefused) {
+  ChooseComponent("modB");
+  environment->ActiveVBProject()->VBComponents()->Remove(Component("modB"));
+  ChooseProcedure("Sub Init");
+  form.txtCode.UpdateString(RowOf(CodeRows(), "n = 1") + 1, "  n = 2");
+  EXPECT_THAT(Messages(), ElementsAre("Can not Replace line because line was changed before"));
+  EXPECT_EQ(Module("modC").Lines(5, 1), "  n = 1");
 }
 
 TEST_F(ReplaceLine, AnEditInPlaceEndsInTheModule) {
