@@ -53,6 +53,16 @@ std::string FileInTheWay(host::Files& files, const std::string& stem, const std:
   return {};
 }
 
+std::string WhereTheFirstIs(const std::string& file) {
+  return "\r\nThe first Component is no longer in the Project. Its file is " + file;
+}
+
+// After a save that failed: the next one of the project would write the new name into the old file.
+std::string WhatIsLeft(const std::string& oldName, const std::string& name, const std::string& file) {
+  return "\r\nThe Component's name is \"" + name + "\" now, but its file is still " + file + "\r\nGive it the name \"" +
+         oldName + "\" again before you save the Project.";
+}
+
 }  // namespace
 
 // What the key and its entry do.
@@ -61,10 +71,12 @@ void frmAddIn::CloneCurrent() {
   ComponentAction(ComponentAct::Clone);
   if (Len(pendingComponent) < kShortestFile) return;
   std::string file = std::exchange(pendingComponent, {});
+  Ref<host::VBComponent> first;
   try {
-    Object(ActiveComponents(VBInstance)->AddFile(file)).SaveAs(file);
+    first = ActiveComponents(VBInstance)->AddFile(file);
+    Object(first).SaveAs(file);
   } catch (const host::Error& error) {
-    SayWhyNotCloned(error);
+    SayNotCloned(kCanNot + error.Description() + (first ? std::string() : WhereTheFirstIs(file)));
   }
   FillComponentList();
 }
@@ -75,6 +87,8 @@ void frmAddIn::CloneComponent(host::VBComponent& component, const std::string& n
   if (IsReadOnly(file)) return SayNotCloned(kFileReadOnly);
   // Its own name is in use as well: the clone would take the place of the first component.
   if (FindComponentIndex(VBInstance, name) != 0) return SayNotCloned(kCanNot + ("\"" + name + "\" is in use already."));
+  const std::string oldName = component.Name();
+  bool isRenamed = false;
   try {
     component.SaveAs(file);
     if (IsReadOnly(project)) return SayNotCloned(kProjectReadOnly);
@@ -83,9 +97,11 @@ void frmAddIn::CloneComponent(host::VBComponent& component, const std::string& n
     const std::string inTheWay = FileInTheWay(services.Files, stem, extension);
     if (!inTheWay.empty()) return SayNotCloned(kCanNot + inTheWay + " already exists.");
     Object(component.Properties()).Item("Name")->SetValue(name);
+    isRenamed = true;
     component.SaveAs(stem + extension);
   } catch (const host::Error& error) {
-    return SayWhyNotCloned(error);
+    if (!isRenamed) return SayWhyNotCloned(error);
+    return SayNotCloned(kCanNot + error.Description() + WhatIsLeft(oldName, name, file));
   }
   pendingComponent = file;
   PassOverErrors([&] { Object(component.DesignerWindow()).Close(); });

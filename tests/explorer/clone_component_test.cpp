@@ -1,4 +1,5 @@
 // A clone of a component: two components, two files, nothing else changed.
+#include "environment/observer.h"
 #include "tests/explorer/editing_fixture.h"
 
 namespace corvane::tests {
@@ -186,12 +187,57 @@ TEST_F(CloneComponent, TheNameOfAnotherComponentIsRefusedInAnyCase) {
   EXPECT_EQ(Names(), names);
 }
 
-TEST_F(CloneComponent, AFullDiskIsTold) {
+TEST_F(CloneComponent, AFullDiskIsToldWithTheNameAndTheFileThatAreLeft) {
   services.files.FailWrites(std::string(kFolder) + "modTsv.bas", 61);
   Clone("modCsv", "modTsv");
-  ASSERT_EQ(Messages().size(), 1u);
-  EXPECT_THAT(Messages()[0], StartsWith("Can not clone current Component. "));
+  EXPECT_THAT(Messages(), ElementsAre("Can not clone current Component. Disk full\r\n"
+                                      "The Component's name is \"modTsv\" now, but its file is still "
+                                      "Z:\\samples\\stockroom\\modCsv.bas\r\n"
+                                      "Give it the name \"modCsv\" again before you save the Project."));
+  EXPECT_THAT(Styles(), ElementsAre(host::vbExclamation));
+  EXPECT_THAT(Names(), Contains("modTsv"));
+  EXPECT_THAT(Names(), Not(Contains("modCsv")));
+  EXPECT_EQ(Component("modTsv")->FileNames(1), std::string(kFolder) + "modCsv.bas");
   EXPECT_EQ(File("modCsv.bas"), before.at("modCsv.bas"));
+}
+
+TEST_F(CloneComponent, AfterAFullDiskTheOldNameMakesItTheOldComponent) {
+  services.files.FailWrites(std::string(kFolder) + "modTsv.bas", 61);
+  Clone("modCsv", "modTsv");
+  Component("modTsv")->SetName("modCsv");
+  EXPECT_THAT(ChangedFiles(), IsEmpty());
+}
+
+TEST_F(CloneComponent, AFirstComponentThatDoesNotComeBackIsTold) {
+  services.files.FailReads(std::string(kFolder) + "modCsv.bas", 75);
+  Clone("modCsv", "modTsv");
+  services.files.FailReads(std::string(kFolder) + "modCsv.bas", 0);
+  EXPECT_THAT(Messages(), ElementsAre("Can not clone current Component. Path/File access error\r\n"
+                                      "The first Component is no longer in the Project. Its file is "
+                                      "Z:\\samples\\stockroom\\modCsv.bas"));
+  EXPECT_THAT(Styles(), ElementsAre(host::vbExclamation));
+  EXPECT_EQ(form.pendingComponent, "");
+  EXPECT_THAT(Components(), Contains("modTsv"));
+  EXPECT_THAT(Components(), Not(Contains("modCsv")));
+  EXPECT_EQ(Component("modTsv")->FileNames(1), std::string(kFolder) + "modTsv.bas");
+  EXPECT_EQ(File("modCsv.bas"), before.at("modCsv.bas"));
+}
+
+TEST_F(CloneComponent, AFirstComponentThatCanNotBeSavedIsBackNevertheless) {
+  struct LocksTheFirstFile : environment::Observer {
+    explicit LocksTheFirstFile(environment::MemoryFiles& files) : files(files) {}
+    void ComponentsChanged() override {
+      if (files.Attributes(std::string(kFolder) + "modTsv.bas") != host::kNoSuchFile)
+        files.FailWrites(std::string(kFolder) + "modCsv.bas", 70);
+    }
+    environment::MemoryFiles& files;
+  } locks(services.files);
+  environment->Observe(&locks);
+  Clone("modCsv", "modTsv");
+  environment->Observe(nullptr);
+  EXPECT_THAT(Messages(), ElementsAre("Can not clone current Component. Permission denied"));
+  EXPECT_EQ(form.pendingComponent, "");
+  EXPECT_THAT(Components(), ::testing::IsSupersetOf({"modCsv", "modTsv"}));
 }
 
 TEST_F(CloneComponent, AComponentThatIsNotThereIsPassedOver) {
