@@ -27,22 +27,43 @@ std::string WithoutBlanksOfTheList(std::string text, const std::string& row, con
   return text;
 }
 
+// Whether the lines from [line] are what the rows from [from] show. Where lines came or went since the view was loaded,
+// each row must be; else the first one, and one beside [row], so that a twin which moved there is not taken for it.
+bool RowsStand(host::CodeModule& module, long line, const codelist::ucListBox& list, long from, long row,
+               long linesThen) {
+  const auto stands = [&](long at) {
+    const long own = line + at - from;
+    return own <= module.CountOfLines() && Trim(list.List(at)) == Trim(module.Lines(own, 1));
+  };
+  if (!stands(row)) return false;
+  if (module.CountOfLines() == linesThen)
+    return stands(from) && ((row > from && stands(row - 1)) || row >= list.ListCount() || stands(row + 1));
+  for (long at = from; at <= list.ListCount(); ++at)
+    if (!stands(at)) return false;
+  return true;
+}
+
 }  // namespace
 
 void frmAddIn::ReplaceCodeLine(long row, const std::string& text) {
-  if (IsTitleOfModule(txtCode.List(row))) return SayTitleChosen();
-  long line = 0;
-  Ref<host::CodeModule> module = IsGlobalsText() ? ModuleUnderTitle(row, line) : ModuleInView(row, line);
-  if (!module) return SayChangedBefore();
-  if (line < 1 || lblSub.Caption() == kSearchResult) {
-    services.Prompts.MsgBox(kCannotEdit);
-    return;
-  }
-  if (line > module->CountOfLines() || Trim(txtCode.List(row)) != Trim(module->Lines(line, 1)))
-    return SayChangedBefore();
-  module->ReplaceLine(line, WithoutBlanksOfTheList(text, txtCode.List(row), module->Lines(line, 1)));
-  txtCode.ReplaceItem(row, module->Lines(line, 1));
-  DoEvents();
+  const auto replace = [&] {
+    if (IsTitleOfModule(txtCode.List(row))) return SayTitleChosen();
+    long line = 0;
+    Ref<host::CodeModule> module = IsGlobalsText() ? ModuleUnderTitle(row, line) : ModuleInView(row, line);
+    if (!module) return SayChangedBefore();
+    if (line < 1 || lblSub.Caption() == kSearchResult) {
+      services.Prompts.MsgBox(kCannotEdit);
+      return;
+    }
+    if (line > module->CountOfLines() || Trim(txtCode.List(row)) != Trim(module->Lines(line, 1)))
+      return SayChangedBefore();
+    if (!IsGlobalsText() && !RowsStand(*module, firstLineShown, txtCode, 1, row, viewedLines))
+      return SayChangedBefore();
+    module->ReplaceLine(line, WithoutBlanksOfTheList(text, txtCode.List(row), module->Lines(line, 1)));
+    txtCode.ReplaceItem(row, module->Lines(line, 1));
+    DoEvents();
+  };
+  if (!PassOverErrors(replace)) services.Prompts.MsgBox(kCannotEdit);
 }
 
 void frmAddIn::SayChangedBefore() {

@@ -63,6 +63,39 @@ TEST_F(ReplaceLine, ALineThatMovedMeanwhileIsRefused) {
   EXPECT_THAT(Module("modFormat").Lines(1, 500), Not(HasSubstr("Stop\r\n")));
 }
 
+TEST_F(ReplaceLine, ATwinThatMovedToThePlaceOfALineIsRefused) {
+  const Code twins{"Sub Main()", "If a Then", "  If b Then", "    Beep", "End If", "End If", "Stop", "End Sub"};
+  const struct {
+    const char* what;
+    std::function<void(host::CodeModule&)> change;
+  } kChanges[] = {
+      {"a line above the view", [](host::CodeModule& module) { module.InsertLines(1, "' new"); }},
+      {"a line within the view", [](host::CodeModule& module) { module.InsertLines(4, "    Debug.Print"); }},
+      {"a line moved from behind", [](host::CodeModule& module) {
+         module.DeleteLines(7, 1);
+         module.InsertLines(1, "Stop");
+       }}};
+  for (const auto& change : kChanges) {
+    OpenAnew({Bas("modTwins", twins)});
+    Show("modTwins", "Sub Main()");
+    change.change(Module("modTwins"));
+    const std::string changed = Module("modTwins").Lines(1, 99);
+    services.prompts = {};
+    form.txtCode.UpdateString(6, "End If ' outer");
+    EXPECT_THAT(Messages(), ElementsAre("Can not Replace line because line was changed before")) << change.what;
+    EXPECT_EQ(Module("modTwins").Lines(1, 99), changed) << change.what;
+  }
+}
+
+TEST_F(ReplaceLine, ALineBesideOneThatWasChangedInItsPlaceIsReplaced) {
+  OpenAnew({Bas("modMain", {"Sub Main()", "Beep", "Stop", "Debug.Print", "End Sub"})});
+  Show("modMain", "Sub Main()");
+  Module("modMain").ReplaceLine(2, "a = 1");
+  form.txtCode.UpdateString(3, "End");
+  EXPECT_THAT(Messages(), IsEmpty());
+  EXPECT_EQ(Module("modMain").Lines(2, 2), "a = 1\r\nEnd");
+}
+
 TEST_F(ReplaceLine, ALineBehindTheModulesEndIsRefused) {
   OpenAnew({Bas("modShort", {"Sub Main()", "Beep", "End Sub"})});
   ChooseComponent("modShort");
