@@ -34,6 +34,20 @@ Comment CommentAbove(host::CodeModule& module, long line) {
   return comment;
 }
 
+// At the end of the last line " _" would take the header behind it into the comment.
+std::string WithoutContinuation(std::string text) {
+  constexpr char kBlanks[] = " \t", kBlanksAndEnds[] = " \t\r\n";
+  for (;;) {
+    const size_t last = text.find_last_not_of(kBlanksAndEnds);
+    if (last == std::string::npos || text[last] != '_') return text;
+    if (last > 0 && std::string_view(kBlanks).find(text[last - 1]) == std::string_view::npos) return text;
+    const size_t end = text.find_first_not_of(kBlanks, last + 1);
+    const size_t code = text.find_last_not_of(kBlanks, last - (last > 0 ? 1 : 0));
+    const size_t start = last == 0 || code == std::string::npos ? 0 : code + 1;
+    text.erase(start, std::min(end, text.size()) - start);
+  }
+}
+
 // An apostrophe in front of each line but an empty last one.
 std::string AsComment(const std::string& text) {
   std::string commented = "'" + text;
@@ -50,7 +64,11 @@ std::string AsComment(const std::string& text) {
 void frmAddIn::mnuComnt_Click() {
   commentText = kToBeCollected;
   commentLines = 0;
-  PassOverErrors([this] { CommentProcedure(); });
+  try {
+    CommentProcedure();
+  } catch (const Error& error) {
+    services.Prompts.MsgBox(error.Description());
+  }
   toProcStart = commentMode = false;
   commentText.clear();
   collectedComment.clear();
@@ -65,7 +83,7 @@ void frmAddIn::CommentProcedure() {
   {
     workshop::frmResult result(Toolkit());
     confirmed = result.DisplayRes(commentText, "Type comments for a Procedure", "Comments for a Procedure");
-    if (confirmed) commentText = AsComment(result.txtRes.Text());
+    if (confirmed) commentText = AsComment(WithoutContinuation(result.txtRes.Text()));
     result.Unload();
   }
   if (confirmed && Len(commentText) >= kShortestComment) RunInCommentMode();
@@ -77,10 +95,9 @@ void frmAddIn::RunInCommentMode() {
   GoToCode();
 }
 
-// The header of the procedure that the row names, or of the one around the line it shows; 0 when that line is gone.
+// The header of the procedure that the row names, or of the one around [line], which it shows; 0 when that is gone.
 long frmAddIn::HeaderFor(host::CodeModule& module, long line) {
   const std::string row = lbxProc->List(lbxProc->ListIndex());
-  line = FindLineNear(module, -line, row, lblSub.Caption());
   if (line > module.CountOfLines() || Trim(module.Lines(line, 1)) != CodeOfRow(row)) return 0;
   host::ProcKind kind;
   std::string name = module.ProcOfLine(line, kind);
@@ -89,7 +106,8 @@ long frmAddIn::HeaderFor(host::CodeModule& module, long line) {
 
 // Where GoToCode arrives in comment mode.
 void frmAddIn::CommentAt(host::CodeModule& module, long line) {
-  line = HeaderFor(module, line);
+  const long rowLine = FindLineNear(module, -line, lbxProc->List(lbxProc->ListIndex()), lblSub.Caption());
+  line = HeaderFor(module, rowLine);
   if (line < 1) return SayChangedBefore();
   Comment above = CommentAbove(module, line);
   if (commentText == kToBeCollected) {
@@ -98,8 +116,13 @@ void frmAddIn::CommentAt(host::CodeModule& module, long line) {
     return;
   }
   if (above.text != collectedComment || above.lines != commentLines) return SayChangedBefore();
+  const long linesThen = module.CountOfLines();
+  module.InsertLines(line, commentText);  // first: a comment that cannot be written takes none away
   if (commentLines > 0) module.DeleteLines(line - commentLines, commentLines);
-  module.InsertLines(line - commentLines, commentText);
+  toProcStart = commentMode = false;
+  const long row = lbxProc->ListIndex();
+  lbxProc->SetItemData(row, rowLine + module.CountOfLines() - linesThen);
+  if (txtCode.ListIndex() > 0) ReloadCode(txtCode.ListIndex());
 }
 
 }  // namespace corvane::explorer

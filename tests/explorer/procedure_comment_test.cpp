@@ -168,6 +168,44 @@ TEST_F(ProcedureComment, AComponentThatWentWhileTheWindowWasOpenIsTold) {
   EXPECT_EQ(Module("modC").Lines(1, 9), "Option Explicit\r\nSub Init()\r\nEnd Sub");
 }
 
+TEST_F(ProcedureComment, BehindItAnEditGoesIntoTheRightOneOfTwinLines) {
+  OpenModule(
+      {"Sub Alpha()", "  If a Then", "    If b Then", "      c = 1", "  End If", "  End If", "  d = 1", "End Sub"});
+  ChooseProcedure("Sub Alpha()");
+  ASSERT_EQ(RowOf(CodeRows(), "d = 1"), 6);
+  Write("hello");
+  EXPECT_EQ(Module("modMain").Lines(1, 2), "'hello\r\nSub Alpha()");
+  form.txtCode.UpdateString(RowOf(CodeRows(), "d = 1"), "  End If ' outer");
+  EXPECT_THAT(Messages(), IsEmpty());
+  EXPECT_EQ(Module("modMain").Lines(6, 2), "  End If\r\n  End If ' outer");
+  EXPECT_THAT(CodeRows(), Contains("  End If ' outer"));
+}
+
+TEST_F(ProcedureComment, BehindItTheRowKnowsItsNewLine) {
+  OpenModule({"' Old.", "' Older.", "Sub Main()", "End Sub"});
+  ChooseProcedure("Sub Main()");
+  Write(" New.");
+  EXPECT_EQ(form.lbxProc->ItemData(form.lbxProc->ListIndex()), 2);
+}
+
+TEST_F(ProcedureComment, ALastLineDoesNotContinueIntoTheHeader) {
+  const struct {
+    const char* typed;
+    const char* written;
+  } kTexts[] = {{" New. _", "' New."},
+                {" New. _\r\n", "' New.\r\n"},
+                {" New. _ _  ", "' New."},
+                {" New.\t_", "' New."},
+                {" One _\r\n two _", "' One _\r\n' two"},
+                {" New_", "' New_"}};
+  for (const auto& text : kTexts) {
+    OpenModule({"Option Explicit", "Sub Main()", "End Sub"});
+    ChooseProcedure("Sub Main()");
+    Write(text.typed);
+    EXPECT_EQ(Text(), "Option Explicit\r\n" + std::string(text.written) + "\r\nSub Main()\r\nEnd Sub") << text.typed;
+  }
+}
+
 TEST_F(ProcedureComment, BehindItARowIsAnOrdinaryOneAgain) {
   OpenModule({"' Old.", "Sub Main()", "Beep", "End Sub"});
   ChooseProcedure("Sub Main()");
