@@ -20,12 +20,14 @@ constexpr long kFewestLetters = 3;  // of a selected component whose designer st
 void frmAddIn::CloseOtherWindows() {
   std::string selected;
   PassOverErrors([&] { selected = Object(Object(VBInstance).SelectedVBComponent()).Name(); });
-  CloseDesignersBut(Len(selected) >= kFewestLetters ? selected : std::string());
+  PassOverErrors([&] { CloseDesignersBut(Len(selected) >= kFewestLetters ? selected : std::string()); });
   // The collection loses each pane that is closed.
   std::vector<Ref<host::CodePane>> panes;
   for (Ref<host::CodePane> pane : host::Each(Object(VBInstance).CodePanes())) panes.push_back(pane);
   for (const Ref<host::CodePane>& pane : panes)
-    if (pane->CodeModule()->Name() != selected) Object(pane->Window()).Close();
+    PassOverErrors([&] {
+      if (Object(Object(pane).CodeModule()).Name() != selected) Object(pane->Window()).Close();
+    });
 }
 
 void frmAddIn::CloseDesignersBut(const std::string& selected) {
@@ -42,6 +44,8 @@ void frmAddIn::ClearImmediate() {
   Ref<host::Window> window;
   PassOverErrors([&] { window = Object(VBInstance).Windows()->Item("Immediate"); });
   if (!window) return;
+  // A hidden window would leave the focus, and so the keys, to another.
+  window->SetVisible(true);
   window->SetFocus();
   for (const char* keys : {"^({Home})", "^a", "{Del}"}) services.Loop.SendKeys(keys);
 }
