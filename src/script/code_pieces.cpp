@@ -49,8 +49,11 @@ class Reading {
   bool FindBlock() {
     while (NextLine()) {
       if (Opens(line_, "CODE{")) return source_.has_block = true;
-      if (Opens(line_, "FILE:") && !Include()) return false;
-      if (Opens(line_, "FORM{")) SkipForm();
+      if (Opens(line_, "FILE:")) {
+        if (!Include()) return false;
+      } else if (Opens(line_, "FORM{")) {
+        SkipForm();
+      }
     }
     return false;
   }

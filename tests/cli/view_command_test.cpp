@@ -63,8 +63,8 @@ TEST(ViewFile, FoldedShowsTheSkeletonOfTheCode) {
 
 TEST(ViewFile, ALevelLeftOpenInAProcedureFoldsNothingOfTheNext) {
   const std::string code =
-      "Dim m\n\nSub a()\nIf x Then If y Then c\nb\nEnd Sub\n\nSub b()\nFor i = 1 To 2\nd\nNext i\nEnd Sub\nSub c()\nEnd "
-      "Sub\n";
+      "Dim m\n\nSub a()\nIf x Then If y Then c\nb\nEnd Sub\n\n"
+      "Sub b()\nFor i = 1 To 2\nd\nNext i\nEnd Sub\nSub c()\nEnd Sub\n";
   const std::string shown = PlainText(View(code, false, "a.bas", true));
   for (const char* line : {"Sub a()\n", "Sub b()\nFor i = 1 To 2\nNext i\nEnd Sub\n", "Sub c()\nEnd Sub\n"})
     EXPECT_THAT(shown, HasSubstr(line));
